@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "base/Clock.h"
+#include "platform/Form.h"
+
+namespace platform {
+
+class Menu;
+
+enum class Icon { kNone, kInformation, kStop, kQuestion };
+enum class Buttons { kOk, kYesNo };
+enum class Answer { kOk = 1, kYes = 6, kNo = 7 };
+
+struct MessageBox {
+  std::string text;
+  std::string title;
+  Icon icon = Icon::kNone;
+  Buttons buttons = Buttons::kOk;
+  Answer preset = Answer::kOk;  ///< The button that Enter presses.
+};
+
+/// The host is closing while a wait, a box or a modal screen was up: whatever is running unwinds.
+/// Thrown by the operations that wait for the operator or let events run; only the dispatcher of
+/// the operator's acts catches it.
+struct Shutdown {};
+
+/// The module's only way to the outside: windows, boxes, waits, files, the machine. One is
+/// installed for the process before the first form is made; tests and the two renderers bring their
+/// own.
+class Desktop : public base::Clock {
+ public:
+  static Desktop& Current();
+  /// Null takes the present one away.
+  static void Install(Desktop* desktop);
+  ~Desktop() override = default;
+
+  // Screens. The forms call these as they come and go; the renderer follows.
+
+  /// The form is about to be shown: a form in a container gets that container's size here.
+  virtual void Placing(Form&) {}
+  virtual void Shown(Form&) {}
+  virtual void Hidden(Form&) {}
+  /// The form is gone for good; nothing of it may be touched after this returns.
+  virtual void Forgotten(Form&) {}
+  virtual void FocusMoved(Form&) {}
+  virtual void Refresh(Form&) {}
+  /// Runs a loop until, with no handler of this loop running, the form is not visible.
+  virtual void RunModal(Form& form) = 0;
+  /// A handler that the operator's act had started has ended.
+  virtual void HandlerEnded() {}
+  /// Takes over a form that lives as long as the window it was made a child of.
+  virtual void Adopt(WindowHandle container, std::unique_ptr<Form> form) = 0;
+
+  virtual Answer Ask(const MessageBox& box) = 0;
+  /// Shows a popup menu below `under`, runs the handler of the entry chosen, and returns.
+  virtual void PopUp(Menu& menu, const Control& under) = 0;
+  /// Lets the events run that have arrived.
+  virtual void ProcessEvents() = 0;
+  /// Stands still for so many seconds, the screen frozen.
+  virtual void Freeze(double seconds) = 0;
+  virtual void Beep() {}
+  /// A key sequence sent to the focused control, in the notation "+({HOME})", was carried out.
+  virtual void KeysSent(std::string_view) {}
+
+  /// Darkens a window of the host's; every Dim is undone by one Undim.
+  virtual void Dim(WindowHandle window, std::int16_t intensity) = 0;
+  virtual void Undim(WindowHandle window) = 0;
+
+  // The machine.
+
+  /// Empty when the machine has none.
+  virtual std::string ComputerName() = 0;
+  /// Where the settings file lies; no separator at the end.
+  virtual std::string ModuleFolder() = 0;
+  /// False also for a folder.
+  virtual bool FileExists(const std::string& path) = 0;
+  /// Errors 53, 70.
+  virtual void DeleteFile(const std::string& path) = 0;
+  /// The bytes of the file; errors 53, 70, 76.
+  virtual std::string ReadFile(const std::string& path) = 0;
+  /// Replaces the file at once: a reader sees the old bytes or the new; errors 70, 76.
+  virtual void WriteFile(const std::string& path, const std::string& bytes) = 0;
+};
+
+/// The file operations of a Desktop on the real file system; renderers call them.
+namespace files {
+bool Exists(const std::string& path);
+void Delete(const std::string& path);
+std::string Read(const std::string& path);
+void Write(const std::string& path, const std::string& bytes);
+}  // namespace files
+
+}  // namespace platform

@@ -1,0 +1,67 @@
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "base/RuntimeError.h"
+#include "platform/Desktop.h"
+
+namespace platform::files {
+namespace {
+
+namespace fs = std::filesystem;
+using base::Fault;
+using base::RuntimeError;
+
+[[noreturn]] void Refuse(const fs::path& path) {
+  std::error_code ignored;
+  const fs::path folder = path.parent_path();
+  if (!folder.empty() && !fs::is_directory(folder, ignored)) {
+    throw RuntimeError(Fault::kPathNotFound);
+  }
+  throw RuntimeError(fs::exists(path, ignored) ? Fault::kPermissionDenied : Fault::kFileNotFound);
+}
+
+}  // namespace
+
+bool Exists(const std::string& path) {
+  std::error_code ignored;
+  return fs::exists(path, ignored) && !fs::is_directory(path, ignored);
+}
+
+void Delete(const std::string& path) {
+  std::error_code failed;
+  if (!Exists(path) || !fs::remove(path, failed) || failed) Refuse(path);
+}
+
+std::string Read(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in || !Exists(path)) Refuse(path);
+  std::ostringstream bytes;
+  bytes << in.rdbuf();
+  if (in.bad()) throw RuntimeError(Fault::kPermissionDenied);
+  return std::move(bytes).str();
+}
+
+void Write(const std::string& path, const std::string& bytes) {
+  // Written beside and renamed over: a machine that dies in between leaves the old file whole.
+  const std::string beside = path + ".novo";
+  std::FILE* const out = std::fopen(beside.c_str(), "wb");
+  if (out == nullptr) {
+    const bool noFolder = errno == ENOENT || errno == ENOTDIR;
+    throw RuntimeError(noFolder ? Fault::kPathNotFound : Fault::kPermissionDenied);
+  }
+  bool written = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+  written = std::fflush(out) == 0 && written;
+  written = fsync(fileno(out)) == 0 && written;
+  written = std::fclose(out) == 0 && written;
+  if (!written || std::rename(beside.c_str(), path.c_str()) != 0) {
+    std::remove(beside.c_str());
+    throw RuntimeError(Fault::kPermissionDenied);
+  }
+}
+
+}  // namespace platform::files

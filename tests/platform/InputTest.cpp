@@ -1,0 +1,233 @@
+// The guards around the operator's acts: what he cannot do, what is dropped, what ends in a box.
+
+#include <gtest/gtest.h>
+
+#include "Sample.h"
+#include "platform/Input.h"
+#include "platform/Menu.h"
+#include "platform/Toolbar.h"
+#include "platform/ZVComboBox.h"
+#include "support/FakeDesktop.h"
+
+namespace {
+
+namespace input = platform::input;
+using input::Outcome;
+using support::Joined;
+using support::Press;
+
+/// A screen with commands of every kind.
+struct CommandForm : support::SampleForm {
+  platform::ZVComboBox combo{*this, "combo"};
+  platform::Toolbar toolbar{*this, "toolbar"};
+  platform::ToolbarButton& opening = toolbar.Add("Abertura", "Abertura", "abrir");
+  platform::MenuItem alter{*this, "mnuAlterar", "Alterar"};
+  platform::MenuItem remove{*this, "mnuExcluir", "Excluir"};
+  platform::Menu menu{*this, "mnuAlterarExcluir", {&alter, &remove}};
+};
+
+class Acts : public testing::Test {
+ protected:
+  Acts() {
+    form.Show();
+    desktop.TakeJournal();
+  }
+  std::string Journal() { return Joined(desktop.TakeJournal()); }
+  /// A wait of a second inside a handler.
+  void Wait() {
+    const double end = desktop.Elapsed() + 1;
+    while (desktop.Elapsed() < end) desktop.ProcessEvents();
+  }
+
+  support::FakeDesktop desktop;
+  support::Trace trace;
+  CommandForm form;
+};
+
+TEST_F(Acts, DoNotEnterAHandlerThatIsStillRunning) {
+  form.ok.Click = [&] {
+    trace("in");
+    Wait();
+    trace("out");
+  };
+  desktop.After(0.5, [&] { EXPECT_EQ(input::Click(form.ok), Outcome::kDropped); });
+  desktop.After(0.6, [&] { EXPECT_EQ(Press(form, "Enter"), Outcome::kDropped); });
+  EXPECT_EQ(input::Click(form.ok), Outcome::kDone);
+  EXPECT_EQ(trace.Take(), "in, out");
+  EXPECT_EQ(Journal(), "beep, beep");
+  EXPECT_EQ(Press(form, "Enter"), Outcome::kDone);
+  EXPECT_EQ(trace.Take(), "in, out") << "nothing is swallowed afterwards";
+}
+
+TEST_F(Acts, OnOtherControlsRunDuringAWait) {
+  form.ok.Click = [&] { Wait(); };
+  trace.Click(form.cancel);
+  desktop.After(0.5, [&] { EXPECT_EQ(input::Click(form.cancel), Outcome::kDone); });
+  input::Click(form.ok);
+  EXPECT_EQ(trace.Take(), "cancel.Click");
+}
+
+TEST_F(Acts, ThroughTheDefaultButtonAreDroppedToo) {
+  form.defaultButton = &form.ok;
+  form.ok.Click = [&] {
+    trace("ok");
+    form.first.SetFocus();
+    Wait();
+  };
+  desktop.After(0.5, [&] { EXPECT_EQ(Press(form, "Enter"), Outcome::kDropped); });
+  EXPECT_EQ(Press(form, "Enter"), Outcome::kDone);
+  EXPECT_EQ(trace.Take(), "ok");
+  EXPECT_EQ(Journal(), "beep");
+}
+
+TEST_F(Acts, DoNotEnterARunningFocusHandlerAgain) {
+  form.first.LostFocus = [&] {
+    trace("first.LostFocus");
+    Wait();
+  };
+  desktop.After(0.2, [&] { EXPECT_EQ(input::Focus(form.first), Outcome::kDone); });
+  desktop.After(0.4, [&] { EXPECT_EQ(input::Focus(form.third), Outcome::kDropped); });
+  EXPECT_EQ(input::Focus(form.second), Outcome::kDone);
+  EXPECT_EQ(trace.Take(), "first.LostFocus");
+
+  form.third.GotFocus = [&] {
+    trace("third.GotFocus");
+    Wait();
+  };
+  form.second.SetFocus();
+  trace.Take();
+  desktop.After(0.2, [&] { EXPECT_EQ(input::Focus(form.second), Outcome::kDone); });
+  desktop.After(0.4, [&] { EXPECT_EQ(input::Focus(form.third), Outcome::kDropped); });
+  input::Focus(form.third);
+  EXPECT_EQ(trace.Take(), "third.GotFocus");
+  EXPECT_EQ(Journal(), "beep, beep");
+}
+
+TEST_F(Acts, AreDroppedWhileTheScreenHoldsItsCommands) {
+  for (platform::Control* each :
+       {static_cast<platform::Control*>(&form.ok), static_cast<platform::Control*>(&form.cancel)}) {
+    trace.Click(*each);
+  }
+  trace.Life(form);
+  form.ok.Click = [&] {
+    const platform::Form::CommandsHeld held(form);
+    Wait();
+  };
+  desktop.After(0.5, [&] {
+    EXPECT_EQ(input::Click(form.cancel), Outcome::kDropped);
+    EXPECT_EQ(input::Focus(form.first), Outcome::kDropped);
+    EXPECT_EQ(Press(form, "Tab"), Outcome::kDropped);
+    EXPECT_EQ(input::Type(form, "x"), Outcome::kDropped);
+    EXPECT_EQ(input::Close(form), Outcome::kDropped);
+    EXPECT_EQ(input::Choose(form.toolbar, form.opening), Outcome::kDropped);
+    EXPECT_EQ(input::Choose(form.alter), Outcome::kDropped);
+  });
+  input::Click(form.ok);
+  EXPECT_EQ(trace.Take(), "");
+  desktop.TakeJournal();
+  EXPECT_EQ(input::Click(form.cancel), Outcome::kDone);
+  EXPECT_EQ(trace.Take(), "cancel.Click");
+}
+
+TEST_F(Acts, AreFreeAgainAfterAHandlerThatFailed) {
+  form.ok.Click = [&] {
+    const platform::Form::CommandsHeld held(form);
+    throw base::RuntimeError(base::Fault::kTypeMismatch);
+  };
+  EXPECT_EQ(input::Click(form.ok), Outcome::kDone);
+  EXPECT_EQ(input::Click(form.ok), Outcome::kDone);
+  EXPECT_EQ(desktop.TakeBoxes().size(), 2U);
+  EXPECT_FALSE(form.AreCommandsHeld());
+  EXPECT_EQ(Journal(), "");
+}
+
+TEST_F(Acts, AreRefusedWhereAnOperatorCouldNotDoThem) {
+  form.combo.AddItem("a");
+  form.ok.Enabled = false;
+  form.second.Visible = false;
+  form.panel.Enabled = false;
+  form.opening.Enabled = false;
+  form.alter.Visible = false;
+  EXPECT_EQ(input::Click(form.ok), Outcome::kRefused);
+  EXPECT_EQ(input::Focus(form.second), Outcome::kRefused);
+  EXPECT_EQ(input::Click(form.third), Outcome::kRefused);
+  EXPECT_EQ(input::Focus(form.label), Outcome::kRefused);
+  EXPECT_EQ(input::Select(form.second, 0, 0), Outcome::kRefused);
+  EXPECT_EQ(input::Choose(form.toolbar, form.opening), Outcome::kRefused);
+  EXPECT_EQ(input::Choose(form.alter), Outcome::kRefused);
+  EXPECT_EQ(input::Pick(form.combo, 1), Outcome::kRefused);
+  EXPECT_EQ(input::Pick(form.combo, -1), Outcome::kRefused);
+  form.combo.Enabled = false;
+  EXPECT_EQ(input::Pick(form.combo, 0), Outcome::kRefused);
+  EXPECT_EQ(input::DropDown(form.combo), Outcome::kRefused);
+  form.Hide();
+  EXPECT_EQ(input::Click(form.cancel), Outcome::kRefused);
+  EXPECT_EQ(Press(form, "x"), Outcome::kRefused);
+  EXPECT_EQ(input::Close(form), Outcome::kRefused);
+}
+
+TEST_F(Acts, ThatFailEndInAPlainBox) {
+  form.ok.Click = [] { throw base::RuntimeError(base::Fault::kTypeMismatch); };
+  EXPECT_EQ(input::Click(form.ok), Outcome::kDone);
+  const std::vector<platform::MessageBox> boxes = desktop.TakeBoxes();
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(boxes[0].text, "13 - Incompatibilidade de tipo.");
+  EXPECT_EQ(boxes[0].icon, platform::Icon::kStop);
+  EXPECT_FALSE(form.ok.Click.IsRunning());
+}
+
+TEST_F(Acts, ThatFailWhileTheHostClosesEndQuietly) {
+  form.ok.Click = [&] {
+    desktop.Close();
+    throw base::RuntimeError(base::Fault::kOverflow);
+  };
+  EXPECT_EQ(input::Click(form.ok), Outcome::kDone);
+  EXPECT_EQ(input::Depth(), 0);
+}
+
+TEST_F(Acts, ReachToolbarsAndMenus) {
+  form.toolbar.ButtonClick = [&](platform::ToolbarButton& button) { trace(button.Key()); };
+  EXPECT_EQ(input::Choose(form.toolbar, form.toolbar.Buttons("Abertura")), Outcome::kDone);
+  EXPECT_EQ(trace.Take(), "Abertura");
+  EXPECT_EQ(form.Active(), "first") << "a toolbar takes no focus";
+  EXPECT_THROW(form.toolbar.Buttons("Nada"), base::RuntimeError);
+
+  form.remove.Click = [&] { trace("remove"); };
+  desktop.ThenChoose("mnuExcluir");
+  desktop.ThenChoose("");
+  form.menu.PopUp(form.ok);
+  form.menu.PopUp(form.ok);
+  EXPECT_EQ(trace.Take(), "remove");
+  EXPECT_EQ(Journal(), "popup mnuAlterarExcluir, popup mnuAlterarExcluir");
+}
+
+TEST_F(Acts, TypeCharacterByCharacterUntilOneIsNotTaken) {
+  EXPECT_EQ(input::Type(form, "ção"), Outcome::kDone);
+  EXPECT_EQ(form.first.Text(), "ção");
+  form.first.KeyPress = [&](char32_t& character) {
+    if (character == U'x') form.Hide();
+  };
+  EXPECT_EQ(input::Type(form, "1x2"), Outcome::kRefused);
+  EXPECT_EQ(form.first.Text(), "ção1");
+}
+
+TEST_F(Acts, TypeALineBreakAsOneEnter) {
+  form.defaultButton = &form.ok;
+  form.ok.Click = [&] {
+    trace("Enter");
+    form.first.SetFocus();
+  };
+  for (const char* text : {"7\n", "7\r", "7\r\n"}) {
+    input::Type(form, text);
+    EXPECT_EQ(trace.Take(), "Enter") << form.first.Text();
+  }
+}
+
+TEST_F(Acts, ByCodeGoToTheFocusedField) {
+  input::Type(form, "abc");
+  input::SendKeys("+({HOME})");
+  EXPECT_EQ(form.first.SelectedText(), "abc");
+  EXPECT_EQ(Journal(), "keys +({HOME})");
+}
+
+}  // namespace
