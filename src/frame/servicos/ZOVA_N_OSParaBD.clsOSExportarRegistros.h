@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "frame/servicos/Servico.h"
+
+namespace servicos::ZOVA_N_OSParaBD {
+
+/// The folders in which the fiscal application is met. 1 means that a file could not be written.
+class clsOSExportarRegistros : public ServicoDeNegocio {
+ public:
+  static constexpr std::string_view kIdentificador = "ZOVA_N_OSParaBD.clsOSExportarRegistros";
+
+  virtual std::int16_t ExportarDadosCFeSATParaArquivo(std::string_view /*cabecalho*/,
+                                                      std::string_view /*itens*/,
+                                                      std::string_view /*pagamentos*/) {
+    Ausente();
+  }
+  virtual std::int16_t ExportarDadosParaCancelarCFeSAT(std::string_view /*texto*/) { Ausente(); }
+  virtual std::string NomeCompleDoArquivoDeEnvioComDadosCFeSAT() { Ausente(); }
+  virtual std::string NomeCompleDoArquivoDeRetornoComDadosCFeSAT() { Ausente(); }
+};
+
+}  // namespace servicos::ZOVA_N_OSParaBD
