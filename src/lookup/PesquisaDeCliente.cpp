@@ -1,0 +1,177 @@
+#include "lookup/PesquisaDeCliente.h"
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "frame/Mensagens.h"
+#include "frame/Valores.h"
+#include "frame/modMensagemDeErro.h"
+#include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
+#include "platform/Input.h"
+
+namespace lookup {
+namespace {
+
+using frame::Informar;
+using platform::ZVFind;
+using servicos::ZOVA_N_ClientAnim::clsClientes;
+
+constexpr std::string_view kRotuloOriginal = "Cliente*";
+constexpr std::size_t kMenorPesquisa = 3;
+
+std::string NinguemEncontrado(const ProcuraDeCliente& procura) {
+  if (!procura.apelido.empty()) {
+    return "Nenhum cliente encontrado com o apelido ou nome fantasia '" + procura.apelido + "'.";
+  }
+  if (!procura.nome.empty()) {
+    return "Nenhum cliente encontrado com o nome ou razão social '" + procura.nome + "'.";
+  }
+  return "Nenhum cliente encontrado com o código '" + base::ToText(procura.codigo) + "' informado.";
+}
+
+}  // namespace
+
+base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura, Aceitos aceitos,
+                                   frame::PainelDeMensagem& painel) {
+  frame::Espera espera(painel);
+  auto clientes = servicos::CriarServico<clsClientes>();
+  clientes->DadosDoUsuario(frame::valores().DadosDoUsuario);
+  std::string texto = procura.apelido.empty() ? procura.nome : procura.apelido;
+  double codigo = procura.codigo;
+  if (clientes->Selecionar(2, 0, 0, "", texto, codigo, "", "", "", 0, "") != 0) {
+    espera.Ocultar();
+    frame::ExibirErroDoServico(*clientes);
+    return nullptr;
+  }
+  espera.Ocultar();
+  base::RecordSetPtr encontrados = clientes->ResultadoDaSelecaoEmRecordSet();
+  if (encontrados->RecordCount() == 0) {
+    Informar(NinguemEncontrado(procura));
+    platform::input::SendKeys("+({HOME})");
+    return nullptr;
+  }
+  if (encontrados->RecordCount() > 1) {
+    AvisarVariosEncontrados("cliente");
+    return nullptr;
+  }
+  encontrados->MoveFirst();
+  if (aceitos == Aceitos::kTodos) return encontrados;
+  const auto recusa = RecusaDaSituacao(base::ToInt32(encontrados->Fields("Situacao")));
+  if (!recusa) return encontrados;
+  Informar(*recusa);
+  return nullptr;
+}
+
+std::optional<std::string> RecusaDaSituacao(std::int32_t situacao) {
+  const char* estado = nullptr;
+  switch (situacao) {
+    case 2:
+      estado = "inativo";
+      break;
+    case 3:
+      estado = "bloqueado";
+      break;
+    case 4:
+      estado = "excluído";
+      break;
+    default:
+      return std::nullopt;
+  }
+  return std::string("Cliente ") + estado +
+         ". Para mais informações, entre em contato com o departamento financeiro.";
+}
+
+std::string SufixoDoRotulo(const std::string& vip, const std::string& categoriaDaCurvaABC) {
+  return std::string(" [ ") + (base::Upper(vip) == "SIM" ? "VIP - " : "") + categoriaDaCurvaABC +
+         " ]";
+}
+
+void CaixaDoCliente::KeyDown(ZVFind& campo) {
+  if (frame::TomarSupressaoDePesquisa()) return;
+  for (ZVFind* outro : campos_) {
+    if (outro != &campo) outro->DisplayText = "";
+  }
+}
+
+void CaixaDoCliente::Click(ZVFind& campo) {
+  switch (campo.Status()) {
+    case ZVFind::kTyped:
+      if (PesquisaCurtaDemais(campo)) return;
+      for (ZVFind* outro : campos_) {
+        if (outro != &campo) outro->Text = "";
+      }
+      if (acoes_.pesquisar()) {
+        acoes_.aceitar(campo);
+        return;
+      }
+      Recomecar(campo);
+      campo.Enabled = true;
+      campo.SetFocus();
+      return;
+    case ZVFind::kEmpty:
+      Recomecar(campo);
+      campo.SetFocus();
+      return;
+    default:
+      return;
+  }
+}
+
+void CaixaDoCliente::Recomecar(ZVFind& campo) {
+  for (ZVFind* outro : campos_) {
+    if (outro == &campo) continue;
+    outro->Status = ZVFind::kEmpty;
+    outro->Text = "";
+    outro->Enabled = true;
+  }
+  RestaurarRotulo();
+  if (acoes_.esvaziar) acoes_.esvaziar();
+}
+
+ProcuraDeCliente CaixaDoCliente::Procura() const {
+  const std::string codigo = base::Trim(Codigo().Text());
+  return {base::Trim(Apelido().Text()), base::Trim(Nome().Text()), base::Val(codigo)};
+}
+
+bool CaixaDoCliente::Informado() const {
+  for (const ZVFind* campo : campos_) {
+    if (base::IsBlank(campo->Text())) return false;
+  }
+  return true;
+}
+
+void CaixaDoCliente::Preencher(const std::string& codigo, const std::string& apelido,
+                               const std::string& nome) {
+  for (ZVFind* campo : campos_) campo->Status = ZVFind::kFound;
+  Codigo().Text = codigo;
+  Apelido().Text = apelido;
+  Nome().Text = nome;
+}
+
+void CaixaDoCliente::Esvaziar() {
+  for (ZVFind* campo : campos_) campo->Text = "";
+}
+
+void CaixaDoCliente::Habilitar(bool habilitar) {
+  for (ZVFind* campo : campos_) campo->Enabled = habilitar;
+}
+
+void CaixaDoCliente::RestaurarRotulo() {
+  lblCliente_.Caption = std::string(kRotuloOriginal);
+}
+
+bool PesquisaCurtaDemais(ZVFind& campo) {
+  if (campo.Style() != ZVFind::kTextStyle || base::Length(campo.Text()) >= kMenorPesquisa) {
+    return false;
+  }
+  campo.Enabled = true;
+  Informar(kTresCaracteres);
+  return true;
+}
+
+void AvisarVariosEncontrados(std::string_view oQue) {
+  Informar("Mais de um " + std::string(oQue) +
+           " atende à pesquisa e a lista de escolha ainda não está disponível: informe o código ou "
+           "mais letras do nome.");
+}
+
+}  // namespace lookup
