@@ -1,0 +1,257 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "consent/Autorizar.h"
+#include "consent/frmCaixaAutorizar.h"
+#include "frame/Mensagens.h"
+#include "platform/Screens.h"
+#include "support/ModuleServices.h"
+
+namespace consent {
+namespace {
+
+using platform::Icon;
+using platform::Key;
+using platform::KeyStroke;
+using testing::ElementsAre;
+namespace input = platform::input;
+
+class AutorizarTest : public testing::Test {
+ protected:
+  /// Opens a dialog, lets the operator act in it, closes what he leaves open, and tells the answer.
+  std::int16_t Open(const Autorizacao& autorizacao,
+                    const std::function<void(frmCaixaAutorizar&)>& operate) {
+    frmCaixaAutorizar form(autorizacao);
+    module.desktop.Then([&] {
+      operate(form);
+      if (form.IsVisible()) input::Close(form);
+    });
+    std::int16_t answer = -1;
+    form.MontarExibirFormulario(answer);
+    return answer;
+  }
+  static void Fill(frmCaixaAutorizar& form, std::string_view user, std::string_view password) {
+    input::Focus(form.zvtxtUsuario);
+    input::Type(form, user);
+    input::Focus(form.zvtxtSenha);
+    input::Type(form, password);
+  }
+  static void FillAndConfirm(frmCaixaAutorizar& form) {
+    Fill(form, "marta", "segredo");
+    input::Click(form.zvcmdOk);
+  }
+
+  support::Module module;
+};
+
+struct Member {
+  const Autorizacao& autorizacao;
+  const char* title;
+  const char* toolTip;
+  const char* right;
+  const char* refusal;
+};
+
+const Member kFamily[] = {
+    {kAutorizarDesconto, "Autorização para efetuar desconto", "Autorizar desconto na venda",
+     "Administrador", "Usuário não autorizado para efetuar desconto."},
+    {kAutorizarSaidasDoCaixa, "Autorização para efetuar saídas do caixa",
+     "Autorizar saída no caixa", "PermissaoDoModuloCaixaEfetuarSaidasDeCaixas",
+     "Usuário não autorizado para efetuar saídas do caixa."},
+    {kAutorizarEfetuarVendasACreditoFiado, "Autorização para efetuar vendas a crédito ",
+     "Autorizar a venda a crédito (fiado)", "PermissaoDoModuloCaixaEfetuarVendasACreditoFiado",
+     "Usuário não autorizado para efetuar vendas a crédito (fiado)."},
+    {kAutorizarCancelarVendas, "Autorização para efetuar cancelamento",
+     "Autorizar cancelamento da venda", "PermissaoDoModuloCaixaCancelarVendas",
+     "Usuário não autorizado para efetuar cancelamentos de vendas."},
+    {kAutorizarDesfazerCancelamento, "Autorização para desfazer cancelamento",
+     "Autorizar o desfazer cancelamento da venda", "PermissaoDoModuloCaixaCancelarVendas",
+     "Usuário não autorizado para desfazer cancelamentos de vendas."},
+};
+
+// Each dialog looks at its own right of the supervisor and at no other.
+TEST_F(AutorizarTest, EachDialogAsksForItsOwnRight) {
+  for (const Member& member : kFamily) {
+    SCOPED_TRACE(member.title);
+    for (const Member& each : kFamily) module.supervisor[each.right] = false;
+    module.supervisor[member.right] = true;
+    EXPECT_EQ(Open(member.autorizacao,
+                   [&](frmCaixaAutorizar& form) {
+                     EXPECT_EQ(form.Title(), member.title);
+                     EXPECT_EQ(form.zvcmdOk.ToolTipText(), member.toolTip);
+                     EXPECT_EQ(form.zvcmdFechar.ToolTipText(), "Fechar formulário");
+                     FillAndConfirm(form);
+                     EXPECT_FALSE(form.IsVisible());
+                   }),
+              0);
+
+    for (auto& [right, held] : module.supervisor) held = right != member.right;
+    EXPECT_EQ(Open(member.autorizacao, FillAndConfirm), 99);
+    const std::vector<platform::MessageBox> boxes = module.desktop.TakeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, member.refusal);
+    EXPECT_EQ(boxes[0].icon, Icon::kInformation);
+    EXPECT_EQ(boxes[0].title, "Caixa");
+  }
+}
+
+TEST_F(AutorizarTest, NameAndPasswordReachTheServiceTrimmed) {
+  module.supervisor["Administrador"] = true;
+  EXPECT_EQ(Open(kAutorizarDesconto,
+                 [](frmCaixaAutorizar& form) {
+                   Fill(form, "  marta ", " um dois ");
+                   input::Press(form, KeyStroke::Of(Key::kEnter));
+                 }),
+            0);
+  EXPECT_THAT(module.TakeCalls(),
+              ElementsAre("NomeDeUsuario \"marta\"", "SenhaDoUsuario \"um dois\"", "Autenticar"));
+}
+
+TEST_F(AutorizarTest, AnEmptyFieldIsRefusedAndTheDialogStays) {
+  module.supervisor["Administrador"] = true;
+  EXPECT_EQ(Open(kAutorizarDesconto,
+                 [&](frmCaixaAutorizar& form) {
+                   EXPECT_TRUE(form.zvtxtUsuario.HasFocus());
+                   input::Click(form.zvcmdOk);
+                   EXPECT_EQ(module.desktop.TakeBox(), "Informe o nome do usuário.");
+                   EXPECT_EQ(form.lblUsuario.ForeColor(), frame::kCorDeRecusa);
+                   EXPECT_TRUE(form.zvtxtUsuario.HasFocus());
+
+                   input::Type(form, "marta");
+                   input::Click(form.zvcmdOk);
+                   EXPECT_EQ(module.desktop.TakeBox(), "Informe o senha do usuário.");
+                   EXPECT_EQ(form.lblUsuario.ForeColor(), frame::kCorNormal);
+                   EXPECT_EQ(form.lblSenha.ForeColor(), frame::kCorDeRecusa);
+                   EXPECT_TRUE(form.zvtxtSenha.HasFocus());
+
+                   input::Type(form, "segredo");
+                   input::Click(form.zvcmdOk);
+                 }),
+            0);
+}
+
+TEST_F(AutorizarTest, AFailedAuthenticationEndsTheDialog) {
+  struct Case {
+    std::int16_t result;
+    Icon icon;
+  };
+  for (const Case& each :
+       {Case{2, Icon::kInformation}, Case{3, Icon::kStop}, Case{60, Icon::kInformation}}) {
+    SCOPED_TRACE(each.result);
+    module.results["Autenticar"] = each.result;
+    EXPECT_EQ(Open(kAutorizarDesconto,
+                   [](frmCaixaAutorizar& form) {
+                     FillAndConfirm(form);
+                     EXPECT_FALSE(form.IsVisible());
+                   }),
+              99);
+    const std::vector<platform::MessageBox> boxes = module.desktop.TakeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Recusado pelo serviço.");
+    EXPECT_EQ(boxes[0].icon, each.icon);
+  }
+  module.results["Autenticar"] = 1;
+  EXPECT_EQ(Open(kAutorizarDesconto, FillAndConfirm), 99);
+  EXPECT_EQ(module.TakeError(), "1205 Banco fora do ar. @ servico");
+}
+
+TEST_F(AutorizarTest, EveryOtherWayOutIsARefusal) {
+  module.supervisor["Administrador"] = true;
+  const auto answer = [&](auto leave) { return Open(kAutorizarDesconto, leave); };
+  EXPECT_EQ(answer([](frmCaixaAutorizar& form) { input::Close(form); }), 99);
+  EXPECT_EQ(answer([](frmCaixaAutorizar& form) { input::Click(form.zvcmdFechar); }), 99);
+  EXPECT_EQ(answer([](frmCaixaAutorizar& form) {
+              Fill(form, "marta", "segredo");
+              input::Press(form, KeyStroke::Of(Key::kEscape));
+            }),
+            99);
+  EXPECT_TRUE(module.TakeCalls().empty());
+}
+
+TEST_F(AutorizarTest, AFaultIsReportedWithTheDialogsTagAndRefuses) {
+  module.missing.insert("SenhaDoUsuario");
+  EXPECT_EQ(Open(kAutorizarCancelarVendas, FillAndConfirm), 99);
+  EXPECT_EQ(module.TakeError(),
+            "438 O objeto não tem este membro. @ ZOVA_A_Caixa, frmCaixaAutorizarCancelarVendas, "
+            "zvcmdOk_Click, Ponto: 3");
+
+  support::Module::Lose("ZOVA_N_Login.clsLogin");
+  EXPECT_EQ(Open(kAutorizarDesconto, FillAndConfirm), 99);
+  EXPECT_THAT(module.TakeError(), testing::StartsWith("429 "));
+
+  // Not even the error viewer is there: nobody is authorised, and the dialog is gone.
+  support::Module::Lose("ZOVA_A_MsgErro.clsMensagem");
+  EXPECT_EQ(Open(kAutorizarDesconto, FillAndConfirm), 99);
+  EXPECT_THAT(module.desktop.TakeBox(), testing::StartsWith("429 - "));
+}
+
+/// Fails as soon as the observed object changes.
+class Failing final : public platform::Observer {
+ public:
+  void Changed(platform::Object&, const platform::PropertyBase&) override {
+    throw base::RuntimeError(base::Fault::kInvalidArgument);
+  }
+};
+
+// Two of the tags name another form than their own.
+TEST_F(AutorizarTest, TagsNameTheFormsThatTheyName) {
+  const auto locationOfOpening = [&](const Autorizacao& autorizacao) {
+    frmCaixaAutorizar form(autorizacao);
+    module.desktop.Then([] { throw base::RuntimeError(base::Fault::kInvalidArgument); });
+    std::int16_t answer = 0;
+    form.MontarExibirFormulario(answer);
+    EXPECT_EQ(answer, 99);
+    return module.TakeError();
+  };
+  EXPECT_EQ(
+      locationOfOpening(kAutorizarSaidasDoCaixa),
+      "5 Argumento inválido. @ ZOVA_A_Caixa, frmCaixaAutorizarfrmCaixaAutorizarSaidasDoCaixa, "
+      "MontarExibirFormulario, Ponto: 2");
+  EXPECT_EQ(locationOfOpening(kAutorizarDesconto),
+            "5 Argumento inválido. @ ZOVA_A_Caixa, frmCaixaAutorizarDesconto, "
+            "MontarExibirFormulario, Ponto: 2");
+
+  Failing failing;
+  Open(kAutorizarDesconto, [&](frmCaixaAutorizar& form) {
+    form.lshpObj.Observe(failing);
+    form.ResizeTo(9000, 4000);
+    form.lshpObj.Unobserve(failing);
+  });
+  EXPECT_EQ(module.TakeError(),
+            "5 Argumento inválido. @ ZOVA_A_Caixa, frmCaixaAutorizarEfetuarVendasACreditoFiado, "
+            "Form_Resize, Ponto: 1");
+}
+
+TEST_F(AutorizarTest, TheCallerIsOutOfTheWayMeanwhileAndBackAfterwards) {
+  module.supervisor["Administrador"] = true;
+  platform::Form caller("frmQualquer");
+  caller.Left = 600;
+  caller.Width = 3000;
+  caller.Height = 2000;
+  const auto place = [&] {
+    return std::vector<int>{caller.Left(), caller.Width(), caller.Height()};
+  };
+  std::vector<int> meanwhile;
+  const auto ask = [&](Chamador chamador, bool consent) {
+    module.desktop.Then([&, consent] {
+      auto& form = *static_cast<frmCaixaAutorizar*>(platform::screens::Front());
+      meanwhile = place();
+      consent ? FillAndConfirm(form) : static_cast<void>(input::Close(form));
+    });
+    const bool answer = Autorizar(kAutorizarDesconto, caller, chamador);
+    EXPECT_EQ(answer, consent);
+    EXPECT_THAT(place(), ElementsAre(600, 3000, 2000));
+  };
+  for (const bool consent : {true, false}) {
+    ask(Chamador::kAfastaSe, consent);
+    EXPECT_LT(meanwhile[0], -100'000);
+    EXPECT_THAT(meanwhile, ElementsAre(testing::_, 3000, 2000));
+    ask(Chamador::kDesaparece, consent);
+    EXPECT_THAT(meanwhile, ElementsAre(600, 0, 0));
+    ask(Chamador::kFica, consent);
+    EXPECT_THAT(meanwhile, ElementsAre(600, 3000, 2000));
+  }
+}
+
+}  // namespace
+}  // namespace consent
