@@ -1,0 +1,313 @@
+// The confirmation: what reaches the services, what is printed, and how the screen ends.
+
+#include "checkout/CheckoutTest.h"
+
+namespace checkout {
+namespace {
+
+using platform::Answer;
+using platform::Icon;
+using platform::Key;
+using platform::KeyStroke;
+using testing::ElementsAre;
+
+class ConfirmTest : public CheckoutTest {
+ protected:
+  std::int16_t PayInCash(std::string_view net, std::string_view value) {
+    return Pay(net, "0", [&](frmCaixaPagar& form) {
+      Add(form, 1, value);
+      input::Click(form.zvcmdConfirmar);
+    });
+  }
+  std::int16_t PayOnCredit() {
+    return Pay("100", "0", [&](frmCaixaPagar& form) {
+      Add(form, 6, "100");
+      module.TakeCalls();
+      input::Click(form.zvcmdConfirmar);
+      EXPECT_FALSE(form.IsVisible());
+    });
+  }
+  std::vector<std::string> Texts() {
+    std::vector<std::string> texts;
+    for (const platform::MessageBox& box : module.desktop.TakeBoxes()) texts.push_back(box.text);
+    return texts;
+  }
+  std::int64_t Registrations() {
+    const std::vector<std::string> calls = module.TakeCalls();
+    return std::ranges::count(calls, "RegistrarPagamento");
+  }
+};
+
+TEST_F(ConfirmTest, TheSaleReachesTheServiceInItsOrder) {
+  frame::valores().CPFCNPJDoCliente = "111.444.777-35";
+  // The key of an earlier sale's coupon is not this one's.
+  frame::valores().ChaveSAT = "3515";
+  EXPECT_EQ(Pay("1100", "50",
+                [&](frmCaixaPagar& form) {
+                  Add(form, 7, "30");
+                  Add(form, 1, "1500");
+                  Change(form, "400");
+                  input::Click(form.zvcmdConfirmar);
+                  EXPECT_FALSE(form.IsVisible());
+                }),
+            0);
+  EXPECT_EQ(module.TakeCallsAsText(),
+            "GradeDePagamentosEfetuados grid [7-Crédito do cliente|30,00|__/__/____|] "
+            R"([1-Dinheiro|1.500,00|__/__/____|]
+Troco currency -400
+CreditoAnteriorDoCliente currency 20
+CreditoParaOCliente currency 30
+NumeroDoCaixa 3
+Operador "carla"
+CodigoDoCliente "12"
+ApelidoOuNomeFantasiaDoCliente "Ana"
+NomeOuRazaoSocialDoCliente "Ana Maria Souza"
+ValorBruto currency 1110
+ValorTotalDeDescontos currency 10
+ValorLiquido currency 1100
+GradeDeItensDaVenda grid [||||Rex|||||||||||||||1]
+Custo currency 31,25
+Comissao currency 4,5
+LucroEmValor currency 20,1
+LucroEmPercentual currency 0,2
+NumeroDaFichaClinica 88
+Observacao "Cliente: 12-Ana Maria Souza (111.444.777-35)
+Animal: Rex"
+DadosDoUsuario record
+RegistrarPagamento
+NumeroDaVenda
+)");
+}
+
+// The change is sent as it stands in the box, but for one below 1,00; credit that was hidden again
+// is still sent.
+TEST_F(ConfirmTest, TheChangeAndTheCreditThatAreSent) {
+  for (const std::vector<std::string>& row : support::Table(R"(
+    100,00 | 100     |    | 0         | 0
+    100,00 | 150     |    | -50       | 0
+    100,00 | 101     |    | -1        | 0
+    100,00 | 100,50  |    | 0         | 0
+    100,00 | 100,99  |    | 0         | 0
+    100,00 | 1350,25 |    | -1250,25  | 0
+    100,00 | 150     | 30 | -30       | 20
+    100,00 | 150     | 0  | 0         | 50
+    100,00 | 150     | 30;50 | -50    | 20
+    0      | 0       |    | 0         | 0
+  )")) {
+    SCOPED_TRACE(row[1] + " " + row[2]);
+    EXPECT_EQ(Pay(row[0], "0",
+                  [&](frmCaixaPagar& form) {
+                    Add(form, 1, row[1]);
+                    if (!row[2].empty()) {
+                      for (const std::string& typed : base::Split(row[2], ';')) Change(form, typed);
+                    }
+                    input::Click(form.zvcmdConfirmar);
+                  }),
+              0);
+    EXPECT_THAT(module.TakeCalls(),
+                testing::IsSupersetOf(
+                    {"Troco currency " + row[3], "CreditoParaOCliente currency " + row[4]}));
+  }
+}
+
+TEST_F(ConfirmTest, WhatIsNotPaidIsNotConfirmed) {
+  EXPECT_EQ(Pay("100", "0",
+                [&](frmCaixaPagar& form) {
+                  input::Click(form.zvcmdConfirmar);
+                  EXPECT_EQ(module.desktop.TakeBox(), "Informe o pagamento.");
+                  EXPECT_EQ(form.lblFormaDePagamento.ForeColor(), frame::kCorDeRecusa);
+                  EXPECT_TRUE(form.zvcmbFormaDePagamento.HasFocus());
+                  Add(form, 1, "99,5");
+                  input::Click(form.zvcmdConfirmar);
+                  EXPECT_EQ(module.desktop.TakeBox(), "Restam 0,50 para pagar.");
+                  EXPECT_EQ(Tenders(form), "1-Dinheiro 99,50 __/__/____");
+                  EXPECT_FALSE(form.picMensagem.IsShown());
+                }),
+            99);
+  EXPECT_TRUE(module.TakeCalls().empty());
+  // A sale of nothing needs no tender.
+  EXPECT_EQ(Pay("0", "0", [&](frmCaixaPagar& form) { input::Click(form.zvcmdConfirmar); }), 0);
+  EXPECT_EQ(Registrations(), 1);
+}
+
+TEST_F(ConfirmTest, NothingButZeroCountsAsSold) {
+  struct Case {
+    std::int16_t result;
+    Icon icon;
+  };
+  frame::valores().ImprimirComprovanteDePagamento = true;
+  frame::valores().ImprimirNotaPromissoria = true;
+  for (const Case& each :
+       {Case{2, Icon::kInformation}, Case{3, Icon::kStop}, Case{52, Icon::kInformation}}) {
+    SCOPED_TRACE(each.result);
+    module.results["RegistrarPagamento"] = each.result;
+    EXPECT_EQ(PayOnCredit(), 99);
+    const std::vector<platform::MessageBox> boxes = module.desktop.TakeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Recusado pelo serviço.");
+    EXPECT_EQ(boxes[0].icon, each.icon);
+    EXPECT_EQ(module.TakeCalls().back(), "RegistrarPagamento");
+  }
+  module.results["RegistrarPagamento"] = 1;
+  EXPECT_EQ(PayOnCredit(), 99);
+  EXPECT_EQ(module.TakeError(), "1205 Banco fora do ar. @ servico");
+}
+
+TEST_F(ConfirmTest, EveryOtherWayOutLeavesTheSaleUnconfirmed) {
+  const auto leave = [&](auto act) {
+    return Pay("100", "0", [&](frmCaixaPagar& form) {
+      Add(form, 1, "100");
+      act(form);
+      EXPECT_FALSE(form.IsVisible());
+    });
+  };
+  EXPECT_EQ(leave([](frmCaixaPagar& form) { input::Click(form.zvcmdCancelar); }), 99);
+  EXPECT_EQ(leave([](frmCaixaPagar& form) { input::Close(form); }), 99);
+  EXPECT_EQ(leave([](frmCaixaPagar& form) { input::Press(form, KeyStroke::Of(Key::kEscape)); }),
+            99);
+  EXPECT_TRUE(module.TakeCalls().empty());
+}
+
+// While the wait panel stands the operator's further acts are dropped: one sale is registered.
+TEST_F(ConfirmTest, ADoubleClickRegistersOneSale) {
+  EXPECT_EQ(Pay("100", "0",
+                [&](frmCaixaPagar& form) {
+                  Add(form, 1, "100");
+                  std::vector<input::Outcome> outcomes;
+                  module.desktop.After(0.3, [&] {
+                    EXPECT_TRUE(form.picMensagem.IsShown());
+                    outcomes = {input::Click(form.zvcmdConfirmar),
+                                input::Close(form),
+                                input::Press(form, KeyStroke::Of(Key::kEnter)),
+                                input::Press(form, KeyStroke::Of(Key::kEscape)),
+                                input::Click(form.zvcmdRemover),
+                                input::Click(form.zvcmdCancelar)};
+                  });
+                  const double before = module.desktop.Elapsed();
+                  input::Click(form.zvcmdConfirmar);
+                  EXPECT_GE(module.desktop.Elapsed() - before, 1);
+                  EXPECT_EQ(outcomes, std::vector<input::Outcome>(6, input::Outcome::kDropped));
+                  EXPECT_EQ(input::Click(form.zvcmdConfirmar), input::Outcome::kRefused);
+                }),
+            0);
+  EXPECT_EQ(Registrations(), 1);
+  EXPECT_THAT(module.desktop.TakeJournal(),
+              ElementsAre("show frmCaixaPagar", "dim 7 1", "beep", "beep", "beep", "beep", "beep",
+                          "beep", "undim 7", "hide frmCaixaPagar", "forget frmCaixaPagar"));
+}
+
+TEST_F(ConfirmTest, AFaultBeforeTheRegistrationLeavesTheScreenAsItStood) {
+  support::Module::Lose("ZOVA_N_Caixa.clsCaixa");
+  EXPECT_EQ(Pay("100", "0",
+                [&](frmCaixaPagar& form) {
+                  Add(form, 1, "100");
+                  input::Click(form.zvcmdConfirmar);
+                  EXPECT_TRUE(form.IsVisible());
+                  EXPECT_FALSE(form.picMensagem.IsShown());
+                  EXPECT_FALSE(form.AreCommandsHeld());
+                  EXPECT_EQ(Tenders(form), "1-Dinheiro 100,00 __/__/____");
+                }),
+            99);
+  EXPECT_EQ(module.TakeError(),
+            "429 Não foi possível criar o objeto. @ ZOVA_A_Caixa, frmCaixaPagar, "
+            "zvcmdConfirmar_Click, Ponto: 4");
+}
+
+TEST_F(ConfirmTest, ThePromissoryNoteGoesOutForASaleOnCredit) {
+  frame::valores().ImprimirNotaPromissoria = true;
+  frame::valores().VisualizarImpressaoDaNotaPromissoria = true;
+  EXPECT_EQ(PayOnCredit(), 0);
+  const std::vector<std::string> calls = module.TakeCalls();
+  ASSERT_GE(calls.size(), 3U);
+  EXPECT_THAT(std::vector<std::string>(calls.end() - 3, calls.end()),
+              ElementsAre("NomeDaAplicacao \"Caixa\"", "DadosDoUsuario record",
+                          "ImprimirNotaPromissoria \"22/11/2026\" date 22/11/2026 currency 100 "
+                          "double 12 True"));
+
+  frame::valores().SolicitarConfirmacaoParaImprimirNotaPromissoria = true;
+  for (const Answer answer : {Answer::kNo, Answer::kYes}) {
+    module.desktop.Answer(answer);
+    EXPECT_EQ(PayOnCredit(), 0);
+    const std::vector<platform::MessageBox> boxes = module.desktop.TakeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Deseja imprimir a nota promissória?");
+    EXPECT_EQ(boxes[0].preset, Answer::kNo);
+    const std::string note =
+        "ImprimirNotaPromissoria \"22/11/2026\" date 22/11/2026 currency 100 double 12 True";
+    EXPECT_EQ(module.TakeCalls().back(), answer == Answer::kYes ? note : "NumeroDaVenda");
+  }
+  // Cash owes nothing.
+  EXPECT_EQ(PayInCash("100", "100"), 0);
+  EXPECT_EQ(module.TakeCalls().back(), "NumeroDaVenda");
+}
+
+// The sale stands in the database by then: a screen left open would sell it a second time.
+TEST_F(ConfirmTest, AFaultAfterTheRegistrationStillEndsTheSale) {
+  frame::valores().ImprimirNotaPromissoria = true;
+  support::Module::Lose("ZOVA_A_RelFin.clsRelFin");
+  EXPECT_EQ(PayOnCredit(), 0);
+  EXPECT_EQ(module.TakeError(),
+            "429 Não foi possível criar o objeto. @ ZOVA_A_Caixa, frmCaixaPagar, "
+            "zvcmdConfirmar_Click, Ponto: 8");
+  EXPECT_EQ(Registrations(), 1);
+
+  module.missing.insert("NumeroDaVenda");
+  EXPECT_EQ(PayOnCredit(), 0);
+  EXPECT_THAT(module.TakeError(), testing::StartsWith("438 "));
+
+  // Not even the error viewer is there.
+  support::Module::Lose("ZOVA_A_MsgErro.clsMensagem");
+  EXPECT_EQ(PayOnCredit(), 0);
+  EXPECT_THAT(module.desktop.TakeBox(), testing::StartsWith("429 - "));
+  EXPECT_EQ(module.desktop.TakeJournal().back(), "forget frmCaixaPagar");
+}
+
+TEST_F(ConfirmTest, TheReceiptIsAskedForAndSaysThatItIsNotThereYet) {
+  const std::string question = "Deseja imprimir o comprovante de pagamento?";
+  const std::string notYet =
+      "A impressão do comprovante de pagamento ainda não está disponível: a venda 4711 foi "
+      "registrada.";
+  frame::valores().ImprimirComprovanteDePagamento = true;
+  EXPECT_EQ(PayInCash("100", "100"), 0);
+  EXPECT_THAT(Texts(), ElementsAre(notYet));
+
+  frame::valores().SolicitarConfirmacaoParaImprimirComprovanteDePagamento = true;
+  module.desktop.Answer(Answer::kYes);
+  EXPECT_EQ(PayInCash("100", "100"), 0);
+  EXPECT_THAT(Texts(), ElementsAre(question, notYet));
+  module.desktop.TakeJournal();
+  module.desktop.Answer(Answer::kNo);
+  EXPECT_EQ(PayInCash("100", "100"), 0);
+  EXPECT_THAT(Texts(), ElementsAre(question));
+  // The question stands over the host as it is, and the panel comes back behind it.
+  EXPECT_THAT(module.desktop.TakeJournal(),
+              ElementsAre("show frmCaixaPagar", "dim 7 1", "undim 7", "dim 7 1", "undim 7",
+                          "hide frmCaixaPagar", "forget frmCaixaPagar"));
+}
+
+TEST_F(ConfirmTest, ServicesAloneNeedNoFiscalDocument) {
+  module.session.values["CodigoDoDocumentoComEmissaoPermitida"] = "11";
+  EXPECT_EQ(PayInCash("100", "100"), 0);
+  EXPECT_EQ(Registrations(), 1);
+}
+
+TEST_F(ConfirmTest, ProductsThatNeedAFiscalDocumentAreNotRegisteredWithoutIt) {
+  module.session.values["CodigoDoDocumentoComEmissaoPermitida"] = "11";
+  lines = Lines({{"Rex", "1"}, {"", "2"}});
+  EXPECT_EQ(Pay("100", "0",
+                [&](frmCaixaPagar& form) {
+                  Add(form, 1, "100");
+                  input::Click(form.zvcmdConfirmar);
+                  EXPECT_THAT(module.desktop.TakeBox(), testing::HasSubstr("não está disponível"));
+                  EXPECT_TRUE(form.IsVisible());
+                  EXPECT_EQ(Tenders(form), "1-Dinheiro 100,00 __/__/____");
+                  EXPECT_FALSE(form.picMensagem.IsShown());
+                }),
+            99);
+  EXPECT_TRUE(module.TakeCalls().empty());
+  module.session.values["CodigoDoDocumentoComEmissaoPermitida"] = "9";
+  EXPECT_EQ(PayInCash("100", "100"), 0);
+}
+
+}  // namespace
+}  // namespace checkout

@@ -1,0 +1,191 @@
+// What tenders, removals and an edited change do to the amounts on the screen.
+
+#include "checkout/CheckoutTest.h"
+
+namespace checkout {
+namespace {
+
+class MoneyTest : public CheckoutTest {
+ protected:
+  /// One act: "3 150" adds a tender of code 3, "t30" types the change, "-1" removes row 1.
+  static void Act(frmCaixaPagar& form, const std::string& step) {
+    const std::string rest = step.substr(1);
+    if (step[0] == 't') {
+      Change(form, rest);
+    } else if (step[0] == '-') {
+      SelectRow(form, base::ToInt32(base::Val(rest)));
+      input::Click(form.zvcmdRemover);
+    } else {
+      Add(form, step[0] - '0', base::Trim(rest));
+    }
+  }
+  static std::string State(const frmCaixaPagar& form) {
+    const auto& credit = form.lblCreditoParaOCliente;
+    const std::string& caption = form.lblSaldoOuTroco.Caption();
+    EXPECT_TRUE(caption == "Saldo a pagar" || caption == "Troco") << caption;
+    const std::string kept = credit.IsShown()
+                                 ? base::Replace(credit.Caption(), "Credito para o cliente: ", "")
+                                 : "(" + credit.Tag() + ")";
+    return form.zvtxtValorPago.Text() + " | " + form.zvtxtSaldoDevedorOuTroco.Text() + " | " +
+           base::Split(caption, ' ').front() + " | " + form.zvtxtSaldoDevedorOuTroco.Tag() + " | " +
+           form.zvnumCreditoDoCliente.Text() + " | " + kept;
+  }
+  void Check(std::string_view table) {
+    for (const std::vector<std::string>& row : support::Table(table)) {
+      SCOPED_TRACE(row[2]);
+      Pay(row[0], row[1], [&](frmCaixaPagar& form) {
+        for (const std::string& step : base::Split(row[2], ';')) Act(form, base::Trim(step));
+        const std::string expected = row[3] + " | " + row[4] + " | " + row[5] + " | " + row[6] +
+                                     " | " + row[7] + " | " + row[8];
+        EXPECT_EQ(State(form), expected);
+      });
+    }
+  }
+};
+
+TEST_F(MoneyTest, TendersAddUpAndLeaveABalanceOrChange) {
+  // sale, credit | acts | paid | balance | caption | tag | credit left | credit to keep
+  Check(R"(
+    100 | 0  | 1 40                    | 40,00    | 60,00     | Saldo | 60,00     | 0,00  | (0,00)
+    100 | 0  | 1 40; 8 60              | 100,00   | 0,00      | Saldo | 0,00      | 0,00  | (0,00)
+    100 | 0  | 3 150                   | 150,00   | -50,00    | Troco | -50,00    | 0,00  | (0,00)
+    100 | 0  | 1 100,5                 | 100,50   | -0,50     | Troco | -0,50     | 0,00  | (0,00)
+    0   | 0  | 1 0                     | 0,00     | 0,00      | Saldo | 0,00      | 0,00  | (0,00)
+    1234,56 | 0 | 2 1000; 4 1234,57 | 2.234,57 | -1.000,01 | Troco | -1.000,01 | 0,00 | (0,00)
+    100 | 0  | 1 0,005; 2 0,005        | 0,02     | 99,98     | Saldo | 99,98     | 0,00  | (0,00)
+    100 | 50 | 7 30                    | 30,00    | 70,00     | Saldo | 70,00     | 20,00 | (0,00)
+  )");
+}
+
+TEST_F(MoneyTest, ChangeThatIsNotHandedOverBecomesCredit) {
+  Check(R"(
+    100 | 0  | 3 150; t30              | 150,00   | -30,00    | Troco | -50,00    | 0,00  | 20,00
+    100 | 0  | 3 150; t0               | 150,00   | 0,00      | Troco | -50,00    | 0,00  | 50,00
+    100 | 0  | 3 150; t0,50            | 150,00   | -0,50     | Troco | -50,00    | 0,00  | 49,50
+    100 | 0  | 3 150; t30; t20         | 150,00   | -20,00    | Troco | -50,00    | 0,00  | 30,00
+    100 | 0  | 3 1500; t150            | 1.500,00 | -150,00   | Troco | -1.400,00 | 0,00  | 1.250,00
+    100 | 0  | 3 150; t50              | 150,00   | -50,00    | Troco | -50,00    | 0,00  | (0,00)
+  )");
+  // The full change again hides the credit but leaves what was noted.
+  Check(R"(
+    100 | 0  | 3 150; t30; t50         | 150,00   | -50,00    | Troco | -50,00    | 0,00  | (20,00)
+  )");
+}
+
+TEST_F(MoneyTest, RemovalsCorrectWhatTheTendersDid) {
+  Check(R"(
+    100 | 0  | 1 40; -1                | 0,00     | 100,00    | Saldo | 60,00     | 0,00  | (0,00)
+    100 | 0  | 1 40; 2 30; -1          | 30,00    | 70,00     | Saldo | 30,00     | 0,00  | (0,00)
+    100 | 0  | 1 100; 2 30; -2         | 100,00   | 0,00      | Saldo | -30,00    | 0,00  | (0,00)
+    100 | 0  | 1 120; 2 40; -2         | 120,00   | -20,00    | Troco | -60,00    | 0,00  | (0,00)
+    0   | 0  | 1 0; -1                 | 0,00     | 0,00      | Saldo | 0,00      | 0,00  | (0,00)
+    100 | 50 | 7 30; -1                | 0,00     | 100,00    | Saldo | 70,00     | 50,00 | (0,00)
+    100 | 50 | 1 40; 7 30; -1          | 30,00    | 70,00     | Saldo | 30,00     | 20,00 | (0,00)
+  )");
+  // A single tender takes sale minus tender off the kept credit, one of several its own value.
+  Check(R"(
+    100 | 0  | 3 150; t30; -1          | 0,00     | 100,00    | Saldo | -50,00    | 0,00  | (0)
+    100 | 0  | 1 120; 2 40; t10; -2    | 120,00   | -20,00    | Troco | -60,00    | 0,00  | 10,00
+    100 | 0  | 1 120; 2 40; t10; -1    | 40,00    | 60,00     | Saldo | -60,00    | 0,00  | (0)
+    100 | 0  | 1 110; 2 50; t10; -2    | 110,00   | -10,00    | Troco | -60,00    | 0,00  | (0)
+  )");
+  // The bound of the change stays that of the last tender added.
+  Check(R"(
+    100 | 0  | 1 120; 2 40; -2; t60    | 120,00   | -60,00    | Troco | -60,00    | 0,00  | (0,00)
+    100 | 0  | 1 120; 2 40; -2; t15    | 120,00   | -15,00    | Troco | -60,00    | 0,00  | 45,00
+    100 | 0  | 1 120; 2 40; -2; t15; -1| 0,00     | 100,00    | Saldo | -60,00    | 0,00  | 25,00
+  )");
+}
+
+TEST_F(MoneyTest, AChangeOfATenderIsARemovalAndANewEntry) {
+  Pay("100", "50", [&](frmCaixaPagar& form) {
+    Add(form, 6, "60");
+    Add(form, 7, "30");
+    SelectRow(form, 2);
+    input::Click(form.zvcmdAlterar);
+    EXPECT_EQ(form.zvcmbFormaDePagamento.Text(), "7-Crédito do cliente");
+    EXPECT_EQ(form.zvnumValor.Text(), "30,00");
+    EXPECT_TRUE(form.zvcmbFormaDePagamento.HasFocus());
+    EXPECT_EQ(Tenders(form), "6-A crédito (Fiado) 60,00 22/11/2026");
+    EXPECT_EQ(State(form), "60,00 | 40,00 | Saldo | 10,00 | 50,00 | (0,00)");
+    Type(form.zvnumValor, "40");
+    input::Click(form.zvcmdAdicionar);
+    EXPECT_EQ(Tenders(form),
+              "6-A crédito (Fiado) 60,00 22/11/2026, 7-Crédito do cliente 40,00 __/__/____");
+
+    SelectRow(form, 1);
+    input::Click(form.zvcmdAlterar);
+    EXPECT_TRUE(form.zvdtpDataDeVencimento.IsShown());
+    EXPECT_EQ(form.zvdtpDataDeVencimento.Text(), "22/11/2026");
+    input::Click(form.zvcmdAdicionar);
+    EXPECT_EQ(Tenders(form),
+              "7-Crédito do cliente 40,00 __/__/____, 6-A crédito (Fiado) 60,00 22/11/2026");
+  });
+  module.TakeCalls();
+}
+
+TEST_F(MoneyTest, AnEmptyGridHasNothingToRemoveOrChange) {
+  Pay("100", "0", [&](frmCaixaPagar& form) {
+    input::Click(form.zvcmdRemover);
+    EXPECT_EQ(module.desktop.TakeBox(), "Nenhum item econtrado na grade para ser removido.");
+    EXPECT_TRUE(form.zvcmbFormaDePagamento.HasFocus());
+    input::Click(form.zvcmdAlterar);
+    EXPECT_EQ(module.desktop.TakeBox(), "Nenhum item econtrado na grade para ser alterado.");
+    EXPECT_TRUE(form.zvcmbFormaDePagamento.HasFocus());
+    EXPECT_EQ(State(form), "0,00 | 100,00 | Saldo |  | 0,00 | (0,00)");
+
+    // The last tender taken out leaves a blank row, and the next add finds it so.
+    Add(form, 1, "40");
+    input::Click(form.zvcmdRemover);
+    EXPECT_EQ(form.msfgGrade.Rows(), 2);
+    input::Click(form.zvcmdRemover);
+    EXPECT_EQ(module.desktop.TakeBox(), "Nenhum item econtrado na grade para ser removido.");
+    Add(form, 2, "30");
+    EXPECT_EQ(form.msfgGrade.Rows(), 2);
+    EXPECT_EQ(Tenders(form), "2-Cheque 30,00 __/__/____");
+  });
+}
+
+TEST_F(MoneyTest, TheChangeBoxOpensOnlyForChange) {
+  Pay("100", "0", [&](frmCaixaPagar& form) {
+    Change(form, "10");
+    EXPECT_EQ(form.zvtxtSaldoDevedorOuTroco.Text(), "100,00");
+    Add(form, 1, "150");
+    input::Focus(form.zvtxtSaldoDevedorOuTroco);
+    EXPECT_EQ(form.zvtxtSaldoDevedorOuTroco.SelectedText(), "-50,00");
+    // A point becomes a comma, and of everything else only digits and one comma are let in.
+    input::Type(form, "-a1.2,5");
+    EXPECT_EQ(form.zvtxtSaldoDevedorOuTroco.Text(), "1,25");
+    input::Press(form, platform::KeyStroke::Of(platform::Key::kEnter));
+    EXPECT_EQ(State(form), "150,00 | -1,25 | Troco | -50,00 | 0,00 | 48,75");
+    EXPECT_TRUE(form.zvtxtSaldoDevedorOuTroco.HasFocus());
+    input::Click(form.zvcmdRemover);
+    Change(form, "10");
+    EXPECT_EQ(form.zvtxtSaldoDevedorOuTroco.Text(), "100,00");
+  });
+}
+
+TEST_F(MoneyTest, MoreChangeThanThereIsIsRefused) {
+  Pay("100", "0", [&](frmCaixaPagar& form) {
+    Add(form, 3, "150");
+    Change(form, "70");
+    EXPECT_EQ(module.desktop.TakeBox(), "O troco máximo é de -50,00");
+    EXPECT_EQ(State(form), "150,00 | 0,00 | Troco | -50,00 | 0,00 | (0,00)");
+  });
+}
+
+TEST_F(MoneyTest, ChangeThatIsNoNumberKeepsTheFocus) {
+  Pay("100", "0", [&](frmCaixaPagar& form) {
+    Add(form, 3, "150");
+    Type(form.zvtxtSaldoDevedorOuTroco, ",");
+    input::Focus(form.zvcmbFormaDePagamento);
+    EXPECT_EQ(module.desktop.TakeBox(), "Informe um valor numérico para o valor.");
+    EXPECT_TRUE(form.zvtxtSaldoDevedorOuTroco.HasFocus());
+    EXPECT_EQ(form.zvtxtSaldoDevedorOuTroco.Text(), "0,00");
+    input::Focus(form.zvcmbFormaDePagamento);
+    EXPECT_EQ(State(form), "150,00 | 0,00 | Troco | -50,00 | 0,00 | 50,00");
+  });
+}
+
+}  // namespace
+}  // namespace checkout
