@@ -1,0 +1,235 @@
+#include "frame/CamposNumericos.h"
+#include "frame/Mensagens.h"
+#include "sale/frmCaixaOperar.h"
+
+namespace sale {
+
+using base::Currency;
+using base::FormatMoney;
+using frame::kZeroEmDinheiro;
+using frame::LerCurrency;
+using frame::LerDouble;
+using frame::Ponto;
+using frame::Procedimento;
+using platform::ZVNumberBox;
+
+namespace {
+
+/// Keeps the operator in a field whose text is refused, with a zero in it.
+void Recusar(ZVNumberBox& campo, const std::string& mensagem, bool& cancelar,
+             std::string_view zero = kZeroEmDinheiro) {
+  frame::Informar(mensagem);
+  campo.Text = std::string(zero);
+  cancelar = true;
+}
+
+}  // namespace
+
+void frmCaixaOperar::LigarCamposDeValores() {
+  for (ZVNumberBox* campo : {&zvnumQuantidade, &zvnumValorUnitario,
+                             &zvnumPercentualDeDescontoPorItem, &zvnumValorDeDescontoPorItem}) {
+    campo->GotFocus = [campo] { frame::SelecionarTudo(*campo); };
+  }
+  for (ZVNumberBox* campo :
+       {&zvnumValorUnitario, &zvnumPercentualDeDescontoPorItem, &zvnumValorDeDescontoPorItem}) {
+    campo->KeyPress = [campo](char32_t& tecla) { frame::FiltrarTeclaDeDinheiro(*campo, tecla); };
+  }
+  zvnumQuantidade.KeyPress = [this](char32_t& tecla) { zvnumQuantidade_KeyPress(tecla); };
+  zvnumQuantidade.LostFocus = [this] { zvnumQuantidade_LostFocus(); };
+  zvnumQuantidade.Validate = [this](bool& cancelar) { zvnumQuantidade_Validate(cancelar); };
+  zvnumValorUnitario.LostFocus = [this] { zvnumValorUnitario_LostFocus(); };
+  zvnumPercentualDeDescontoPorItem.LostFocus = [this] {
+    zvnumPercentualDeDescontoPorItem_LostFocus();
+  };
+  zvnumPercentualDeDescontoPorItem.Validate = [this](bool& cancelar) {
+    zvnumPercentualDeDescontoPorItem_Validate(cancelar);
+  };
+  zvnumValorDeDescontoPorItem.LostFocus = [this] { zvnumValorDeDescontoPorItem_LostFocus(); };
+  zvnumValorDeDescontoPorItem.Validate = [this](bool& cancelar) {
+    zvnumValorDeDescontoPorItem_Validate(cancelar);
+  };
+  zvnumPercentualTotalDeDesconto.LostFocus = [this] { zvnumPercentualTotalDeDesconto_LostFocus(); };
+  zvnumPercentualTotalDeDesconto.Validate = [this](bool& cancelar) {
+    zvnumPercentualTotalDeDesconto_Validate(cancelar);
+  };
+  zvnumValorTotalDeDesconto.LostFocus = [this] { zvnumValorTotalDeDesconto_LostFocus(); };
+  zvnumValorTotalDeDesconto.Validate = [this](bool& cancelar) {
+    zvnumValorTotalDeDesconto_Validate(cancelar);
+  };
+}
+
+void frmCaixaOperar::zvnumQuantidade_KeyPress(char32_t& tecla) {
+  if (EhServico()) {
+    frame::FiltrarTeclaDeInteiro(tecla);
+  } else {
+    frame::FiltrarTeclaDeDinheiro(zvnumQuantidade, tecla);
+  }
+}
+
+void frmCaixaOperar::zvnumQuantidade_LostFocus() {
+  Procedimento(", frmCaixaOperar, zvnumQuantidade_LostFocus, Ponto: ", [&](Ponto& ponto) {
+    if (EhServico()) {
+      frame::Normalizar(zvnumQuantidade, "0", "0", "0");
+    } else {
+      frame::Normalizar(zvnumQuantidade, "0,000", kZeroEmDinheiro, base::kMoneyMask);
+    }
+    ponto = 2;
+    CalcularValorDaLinha();
+  });
+}
+
+void frmCaixaOperar::zvnumQuantidade_Validate(bool& cancelar) {
+  Procedimento(", frmCaixaOperar, zvnumQuantidade_Validate, Ponto: ", [&](Ponto&) {
+    if (base::IsNumeric(zvnumQuantidade.Text())) return;
+    Recusar(zvnumQuantidade, "Informe um valor numérico para a quantidade.", cancelar,
+            EhServico() ? "0" : "0,000");
+  });
+}
+
+void frmCaixaOperar::zvnumValorUnitario_LostFocus() {
+  Procedimento(", frmCaixaOperar, zvnumValorUnitario_LostFocus, Ponto: ", [&](Ponto& ponto) {
+    frame::Normalizar(zvnumValorUnitario);
+    ponto = 2;
+    CalcularValorDaLinha();
+  });
+}
+
+void frmCaixaOperar::zvnumPercentualDeDescontoPorItem_LostFocus() {
+  Procedimento(", frmCaixaOperar, zvnumPercentualDeDescontoPorItem_LostFocus, Ponto: ",
+               [&](Ponto& ponto) {
+                 frame::Normalizar(zvnumPercentualDeDescontoPorItem);
+                 ponto = 2;
+                 CalcularValorDaLinha();
+               });
+}
+
+void frmCaixaOperar::zvnumValorDeDescontoPorItem_LostFocus() {
+  Procedimento(", frmCaixaOperar, zvnumValorDeDescontoPorItem_LostFocus, Ponto: ",
+               [&](Ponto& ponto) {
+                 frame::Normalizar(zvnumValorDeDescontoPorItem);
+                 ponto = 2;
+                 CalcularPercentualDaLinha();
+               });
+}
+
+void frmCaixaOperar::CalcularValorDaLinha() {
+  const Currency valor = LerCurrency(zvnumQuantidade) * LerCurrency(zvnumValorUnitario);
+  zvnumValorDeDescontoPorItem.Text =
+      ValorDoPercentual(valor, LerDouble(zvnumPercentualDeDescontoPorItem));
+}
+
+void frmCaixaOperar::CalcularPercentualDaLinha() {
+  const Currency desconto = LerCurrency(zvnumValorDeDescontoPorItem);
+  const double quantidade = LerDouble(zvnumQuantidade);
+  const double unitario = LerDouble(zvnumValorUnitario);
+  if (desconto.IsZero() || quantidade == 0 || unitario == 0) return;
+  zvnumPercentualDeDescontoPorItem.Text = PercentualDoDesconto(desconto, quantidade, unitario);
+}
+
+void frmCaixaOperar::zvnumPercentualDeDescontoPorItem_Validate(bool& cancelar) {
+  Procedimento(", frmCaixaOperar, zvnumPercentualDeDescontoPorItem_Validate, Ponto: ",
+               [&](Ponto&) { ValidarDescontoPorItem(zvnumPercentualDeDescontoPorItem, cancelar); });
+}
+
+void frmCaixaOperar::zvnumValorDeDescontoPorItem_Validate(bool& cancelar) {
+  Procedimento(", frmCaixaOperar, zvnumValorDeDescontoPorItem_Validate, Ponto: ",
+               [&](Ponto&) { ValidarDescontoPorItem(zvnumValorDeDescontoPorItem, cancelar); });
+}
+
+void frmCaixaOperar::ValidarDescontoPorItem(ZVNumberBox& campo, bool& cancelar) {
+  if (!base::IsNumeric(campo.Text())) campo.Text = std::string(kZeroEmDinheiro);
+  if (LerCurrency(campo).IsZero()) return;
+  if (LerCurrency(zvnumQuantidade).IsZero()) {
+    Recusar(campo, "Informe a quantidade antes do desconto.", cancelar);
+  } else if (LerCurrency(zvnumValorUnitario).IsZero()) {
+    Recusar(campo, "Informe o valor unitário antes do desconto.", cancelar);
+  }
+}
+
+// Gross plus the line discounts, which the other field holds below zero: what a discount on the
+// whole sale is a percentage of.
+Currency frmCaixaOperar::BaseDoDescontoDaVenda() {
+  return LerCurrency(zvnumTotal) - LerCurrency(zvnumValorTotalDeDescontoItensDaGrade);
+}
+
+void frmCaixaOperar::CalcularLiquidoAPagar() {
+  zvnumLiquidoAPagar.Text = FormatMoney(
+      CalcularLiquido(LerCurrency(zvnumTotal), LerDouble(zvnumValorTotalDeDescontoItensDaGrade),
+                      LerCurrency(zvnumValorTotalDeDesconto)));
+}
+
+void frmCaixaOperar::zvnumPercentualTotalDeDesconto_LostFocus() {
+  Procedimento(
+      ", frmCaixaOperar, zvnumPercentualTotalDeDesconto_LostFocus, Ponto: ", [&](Ponto& ponto) {
+        frame::Normalizar(zvnumPercentualTotalDeDesconto);
+        ponto = 2;
+        if (!LerCurrency(zvnumTotal).IsZero()) {
+          zvnumValorTotalDeDesconto.Text =
+              ValorDoPercentual(BaseDoDescontoDaVenda(), LerDouble(zvnumPercentualTotalDeDesconto));
+        }
+        ponto = 3;
+        CalcularLiquidoAPagar();
+      });
+}
+
+void frmCaixaOperar::zvnumValorTotalDeDesconto_LostFocus() {
+  Procedimento(", frmCaixaOperar, zvnumValorTotalDeDesconto_LostFocus, Ponto: ", [&](Ponto& ponto) {
+    frame::Normalizar(zvnumValorTotalDeDesconto);
+    ponto = 2;
+    if (!LerCurrency(zvnumTotal).IsZero()) {
+      zvnumPercentualTotalDeDesconto.Text = PercentualDoDesconto(
+          LerCurrency(zvnumValorTotalDeDesconto), base::ToDouble(BaseDoDescontoDaVenda()), 1);
+      zvnumPercentualTotalDeDesconto_LostFocus();
+    }
+    ponto = 3;
+    CalcularLiquidoAPagar();
+  });
+}
+
+void frmCaixaOperar::zvnumPercentualTotalDeDesconto_Validate(bool& cancelar) {
+  Procedimento(
+      ", frmCaixaOperar, zvnumPercentualTotalDeDesconto_Validate, Ponto: ", [&](Ponto& ponto) {
+        ZVNumberBox& campo = zvnumPercentualTotalDeDesconto;
+        constexpr double kTudo = 100;
+        if (!base::IsNumeric(campo.Text())) {
+          Recusar(campo, "Informe um valor numérico para o percentual do desconto.", cancelar);
+          return;
+        }
+        ponto = 2;
+        const double percentual = LerDouble(campo);
+        if (percentual != 0 && LerCurrency(zvnumTotal).IsZero()) {
+          Recusar(campo,
+                  "Adicione um item de venda na grade antes do informar o percentual do "
+                  "desconto.",
+                  cancelar);
+        } else if (percentual > kTudo) {
+          Recusar(campo, "O percentual de desconto da venda não pode ser maior que 100,00%.",
+                  cancelar);
+        }
+      });
+}
+
+void frmCaixaOperar::zvnumValorTotalDeDesconto_Validate(bool& cancelar) {
+  Procedimento(", frmCaixaOperar, zvnumValorTotalDeDesconto_Validate, Ponto: ", [&](Ponto& ponto) {
+    ZVNumberBox& campo = zvnumValorTotalDeDesconto;
+    if (!base::IsNumeric(campo.Text())) {
+      Recusar(campo, "Informe um valor numérico para o valor do desconto.", cancelar);
+      return;
+    }
+    ponto = 2;
+    const Currency desconto = LerCurrency(campo);
+    const Currency maximo = BaseDoDescontoDaVenda();
+    if (!desconto.IsZero() && LerCurrency(zvnumTotal).IsZero()) {
+      Recusar(campo,
+              "Adicione um item de venda na grade antes do informar o valor do "
+              "desconto.",
+              cancelar);
+    } else if (desconto > maximo) {
+      Recusar(campo,
+              "Valor de desconto da venda não pode ser maior que " + FormatMoney(maximo) + ".",
+              cancelar);
+    }
+  });
+}
+
+}  // namespace sale

@@ -1,0 +1,205 @@
+#include "base/Text.h"
+#include "frame/CamposNumericos.h"
+#include "frame/Mensagens.h"
+#include "frame/Valores.h"
+#include "frame/modFuncoes.h"
+#include "frame/modMensagemDeErro.h"
+#include "frame/servicos/ZOVA_N_Caixa.clsDebitosVencCliente.h"
+#include "frame/servicos/ZOVA_N_ClientAnim.clsAnimais.h"
+#include "sale/frmCaixaOperar.h"
+
+namespace sale {
+
+using frame::Ponto;
+using frame::Procedimento;
+using frame::valores;
+using platform::ZVFind;
+
+namespace {
+
+constexpr std::int16_t kBloquear = 1;
+
+}  // namespace
+
+void frmCaixaOperar::zvfApelidoOuNomeFantasiaDoCliente_KeyDown() {
+  caixaDoCliente_.KeyDown(zvfApelidoOuNomeFantasiaDoCliente);
+}
+void frmCaixaOperar::zvfNomeOuRazaoSocialDoCliente_KeyDown() {
+  caixaDoCliente_.KeyDown(zvfNomeOuRazaoSocialDoCliente);
+}
+void frmCaixaOperar::zvfCodigoDoCliente_KeyDown() {
+  caixaDoCliente_.KeyDown(zvfCodigoDoCliente);
+}
+
+void frmCaixaOperar::zvfApelidoOuNomeFantasiaDoCliente_Click() {
+  Procedimento(", frmCaixaOperar, zvfApelidoOuNomeFantasiaDoCliente_Click, Ponto: ",
+               [&](Ponto&) { caixaDoCliente_.Click(zvfApelidoOuNomeFantasiaDoCliente); });
+}
+void frmCaixaOperar::zvfNomeOuRazaoSocialDoCliente_Click() {
+  Procedimento(", frmCaixaOperar, zvfNomeOuRazaoSocialDoCliente_Click, Ponto: ",
+               [&](Ponto&) { caixaDoCliente_.Click(zvfNomeOuRazaoSocialDoCliente); });
+}
+void frmCaixaOperar::zvfCodigoDoCliente_Click() {
+  Procedimento(", frmCaixaOperar, zvfCodigoDoCliente_Click_, Ponto: ",
+               [&](Ponto&) { caixaDoCliente_.Click(zvfCodigoDoCliente); });
+}
+
+bool frmCaixaOperar::PesquisarCliente(const std::string& apelido, const std::string& nome,
+                                      double codigo) {
+  bool encontrado = false;
+  Procedimento(", frmCaixaOperar, PesquisarCliente, Ponto: ", [&](Ponto& ponto) {
+    const base::RecordSetPtr cliente = lookup::ProcurarCliente(
+        {apelido, nome, codigo}, lookup::Aceitos::kEmAtividade, painelDeMensagem_);
+    if (!cliente) return;
+    ponto = 2;
+    PreencherCliente(*cliente);
+    encontrado = true;
+  });
+  return encontrado;
+}
+
+void frmCaixaOperar::PreencherCliente(const base::RecordSet& cliente) {
+  const frame::SupressaoDePesquisa supressao;
+  const auto texto = [&](std::string_view campo) { return base::ToText(cliente.Fields(campo)); };
+  const auto percentual = [&](std::string_view campo) {
+    return base::ToInt32(cliente.Fields(campo));
+  };
+  caixaDoCliente_.Preencher(texto("CodigoDoCliente"), texto("ApelidoOuNomeFantasia"),
+                            texto("NomeOuRazaoSocial"));
+  valores().CPFCNPJDoCliente = texto("CPFCNPJ");
+  valores().SufixoDoRotuloDoCliente =
+      lookup::SufixoDoRotulo(texto("VIP"), texto("CategoriaDaCurvaABC"));
+  lblCliente.Caption = "Cliente*" + valores().SufixoDoRotuloDoCliente;
+  EnderecoDoCliente = texto("EnderecoCompleto");
+  CanalDeComunicacaoDoCliente = texto("TiposECanaisDeComunicacao");
+  DescontoUnico = texto("DescontoUnico");
+  // Whole percentages: 12,5 is kept as 12, on purpose.
+  PercentualUnicoDeDescontos = percentual("PercentualUnicoDeDescontos");
+  PercentualDeDescontoEmClinicos = percentual("PercentualDeDescontoEmClinicos");
+  PercentualDeDescontoEmCirurgiaSimples = percentual("PercentualDeDescontoEmCirurgiaSimples");
+  PercentualDeDescontoEmCirurgiaMedia = percentual("PercentualDeDescontoEmCirurgiaMedia");
+  PercentualDeDescontoEmCirurgiaComplexa = percentual("PercentualDeDescontoEmCirurgiaComplexa");
+  PercentualDeDescontoEmBanhosTosasEEsteticas =
+      percentual("PercentualDeDescontoEmBanhosTosasEEsteticas");
+  PercentualDeDescontoEmHospedagens = percentual("PercentualDeDescontoEmHospedagens");
+  PercentualDeDescontoEmAdestramentos = percentual("PercentualDeDescontoEmAdestramentos");
+  PercentualDeDescontoEmOutros = percentual("PercentualDeDescontoEmOutros");
+  zvnumPercentualDeDescontoPorItem.Text = std::string(frame::kZeroEmDinheiro);
+}
+
+// The order is part of the design: the lock is tested when the customer is on the screen already,
+// and taken only after the warning of debts.
+void frmCaixaOperar::AceitarCliente(ZVFind& campo) {
+  campo.Enabled = true;
+  const double codigo = CodigoDoCliente();
+  if (frame::VerificarBloqueioDoClienteParaOperacoesNosCaixas(codigo) == 1) {
+    caixaDoCliente_.Esvaziar();
+    campo.SetFocus();
+    return;
+  }
+  zvfNumeroDaFichaClinica.Enabled = false;
+  caixaDoCliente_.Habilitar(false);
+  zvcmbTiposDeServicos.Enabled = true;
+  PermissaoDoUsuario();
+  PreencherGradeComServicosEfetuadosEProdutosReservados(codigo);
+  PesquisarDebitosDoCliente(codigo);
+  frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(codigo, kBloquear);
+  std::int16_t falha = 0;
+  PreencherComboboxAnimal(codigo, falha);
+  if (falha == 0 && zvcmbAnimal.ListCount() > 0) {
+    optServico.Enabled = true;
+    optServico.Value = true;
+    optProduto.Enabled = true;
+    if (zvcmbAnimal.ListCount() == 1) zvcmbAnimal.ListIndex = 0;
+    // The next thing that the operator does is to choose the service.
+    zvcmbTiposDeServicos.SetFocus();
+    return;
+  }
+  optServico.Enabled = false;
+  optServico.Value = false;
+  optProduto.Enabled = true;
+  optProduto.Value = true;
+  optProduto.SetFocus();
+}
+
+void frmCaixaOperar::PesquisarDebitosDoCliente(double codigo) {
+  Procedimento(", frmCaixaOperar, PesquisarDebitosDoCliente, Ponto: ", [&](Ponto& ponto) {
+    frame::Espera espera(painelDeMensagem_);
+    ponto = 2;
+    auto debitos = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsDebitosVencCliente>();
+    const std::int16_t resultado =
+        debitos->Selecionar(2, " WHERE [ContasAReceber.CodigoDoCliente]=" + base::ToText(codigo));
+    espera.Ocultar();
+    ponto = 3;
+    if (!frame::Aceitar(resultado, *debitos)) return;
+    const std::int32_t quantos = debitos->ResultadoDaSelecaoEmRecordSet()->RecordCount();
+    if (quantos == 1) frame::Informar("Cliente com débito vencido.");
+    if (quantos > 1) frame::Informar("Cliente com débitos vencidos.");
+  });
+}
+
+void frmCaixaOperar::PreencherComboboxAnimal(double codigo, std::int16_t& falha) {
+  Procedimento(", frmCaixaOperar, PreencherComboboxAnimal, Ponto: ", [&](Ponto& ponto) {
+    frame::Espera espera(painelDeMensagem_, true);
+    ponto = 2;
+    auto animais = servicos::CriarServico<servicos::ZOVA_N_ClientAnim::clsAnimais>();
+    if (animais->SelecionarParaComboBoxFiltradoPorCliente(codigo, 3) != 0) {
+      espera.Ocultar();
+      frame::ExibirErroDoServico(*animais);
+      falha = 1;
+      return;
+    }
+    ponto = 3;
+    const base::RecordSetPtr linhas = animais->ResultadoDaSelecaoEmRecordSet();
+    zvcmbAnimal.Clear();
+    if (linhas->RecordCount() == 0) {
+      espera.Ocultar();
+      frame::Informar(
+          "Nenhum animal cadastrado.\nÉ necessário ter ao menos um animal cadastrado com as "
+          "especificações informadas para incluir ou alterar uma ficha clínica.");
+      falha = 1;
+      return;
+    }
+    ponto = 4;
+    base::ForEachRow(*linhas, [&] {
+      zvcmbAnimal.AddItem(base::ToText(linhas->Fields("Nome")),
+                          base::ToInt32(linhas->Fields("Codigo")));
+    });
+    falha = 0;
+  });
+}
+
+void frmCaixaOperar::RecuperaDescontoDoCliente() {
+  Procedimento(", frmCaixaOperar, RecuperaDescontoDoCliente, Ponto: ", [&](Ponto& ponto) {
+    struct Categoria {
+      std::int32_t tipo;
+      std::int32_t percentual;
+    };
+    const Categoria categorias[] = {{1, PercentualDeDescontoEmClinicos},
+                                    {2, PercentualDeDescontoEmCirurgiaSimples},
+                                    {3, PercentualDeDescontoEmCirurgiaMedia},
+                                    {4, PercentualDeDescontoEmCirurgiaComplexa},
+                                    {5, PercentualDeDescontoEmBanhosTosasEEsteticas},
+                                    {6, PercentualDeDescontoEmHospedagens},
+                                    {7, PercentualDeDescontoEmAdestramentos},
+                                    {99, PercentualDeDescontoEmOutros}};
+    platform::ZVNumberBox& campo = zvnumPercentualDeDescontoPorItem;
+    const std::int32_t escolhido = zvcmbTiposDeServicos.ListIndex();
+    if (base::Upper(DescontoUnico) == "SIM") {
+      campo.Text = base::ToText(PercentualUnicoDeDescontos);
+    } else if (escolhido != -1) {
+      const std::int32_t tipo = zvcmbTiposDeServicos.ItemData(escolhido);
+      for (const Categoria& categoria : categorias) {
+        if (categoria.tipo == tipo) campo.Text = base::ToText(categoria.percentual);
+      }
+    }
+    ponto = 2;
+    if (VerificaDescontoPromocionalDeVenda() == 1) {
+      campo.Text = std::string(frame::kZeroEmDinheiro);
+    }
+    ponto = 3;
+    zvnumPercentualDeDescontoPorItem_LostFocus();
+  });
+}
+
+}  // namespace sale

@@ -1,0 +1,141 @@
+#include <functional>
+#include <optional>
+
+#include "base/Text.h"
+#include "frame/Mensagens.h"
+#include "frame/Valores.h"
+#include "frame/servicos/ZOVA_A_ClientAnim.clsClientAnim.h"
+#include "frame/servicos/ZOVA_A_Produtos.clsProdutos.h"
+#include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
+#include "sale/frmCaixaOperar.h"
+
+// A fiscal coupon needs the municipality code of the customer and the fiscal classification of each
+// product: what is missing is asked for before payment.
+namespace sale {
+
+using frame::Ponto;
+using frame::Procedimento;
+using frame::valores;
+
+namespace {
+
+constexpr std::int16_t kFalha = 1;
+constexpr std::int16_t kSemCadastrar = 99;
+
+void VendaNaoEfetuada(std::string_view motivo) {
+  frame::Parar(std::string(motivo) + "\nVenda não efetuada.");
+}
+
+}  // namespace
+
+frmCaixaOperar::DadosFiscais frmCaixaOperar::CompletarDadosFiscais() {
+  std::optional<frame::Espera> espera;
+  for (std::int32_t linha = 1; linha <= msfgGrade.Rows() - 1; ++linha) {
+    if (TipoDeLancamentoDa(msfgGrade, linha) != kProduto) continue;
+    if (!espera) espera.emplace(painelDeMensagem_);
+    const DadosFiscais dados = CompletarDadosFiscaisDaLinha(linha, *espera);
+    if (dados != DadosFiscais::kCompletos) return dados;
+  }
+  return DadosFiscais::kCompletos;
+}
+
+frmCaixaOperar::DadosFiscais frmCaixaOperar::CompletarDadosFiscaisDaLinha(std::int32_t linha,
+                                                                          frame::Espera& espera) {
+  const auto cadastrar = [&](const std::function<std::int16_t()>& abrir, std::string_view aoFalhar,
+                             std::string_view aoSair) {
+    espera.Ocultar();
+    frame::FundoEscuro fundo;
+    const std::int16_t resultado = abrir();
+    fundo.Remover();
+    if (resultado == kFalha) {
+      VendaNaoEfetuada(aoFalhar);
+      return DadosFiscais::kFalhaNaExportacao;
+    }
+    if (resultado == kSemCadastrar) {
+      frame::Informar(aoSair);
+      return DadosFiscais::kFaltam;
+    }
+    return DadosFiscais::kCompletos;
+  };
+  espera.Mostrar();
+  DadosFiscais dados = DadosFiscais::kCompletos;
+  if (!ValidarDadosDoCliente(CodigoDoCliente())) {
+    dados = cadastrar(
+        [this] { return CadastrarCodigoIBGEDoMunicipioDoCliente_Click(); },
+        "Houve erro ao exportar o cliente.",
+        "Para emitir o documento fiscal é necessário cadastrar o código IBGE do município do "
+        "cliente.");
+    if (dados != DadosFiscais::kCompletos) return dados;
+  }
+  espera.Mostrar();
+  const double codigo = base::Val(msfgGrade.TextMatrix(linha, kCodigo));
+  if (!ValidarDadosDoProduto(base::Trim(zvfNomeDoProduto.Text()),
+                             base::Trim(zvfCodigoDeBarrasDoProduto.Text()), codigo)) {
+    dados = cadastrar(
+        [&] { return CadastrarNCMDoProduto_Click(codigo, msfgGrade.TextMatrix(linha, kNome)); },
+        "Houve erro ao exportar o produto.",
+        "Para emitir o documento fiscal é necessário cadastrar a NCM do produto.");
+  }
+  return dados;
+}
+
+bool frmCaixaOperar::ValidarDadosDoCliente(double codigo) {
+  bool completos = false;
+  Procedimento(", frmFichaClinica, ValidarDadosDoCliente, Ponto: ", [&](Ponto& ponto) {
+    auto clientes = servicos::CriarServico<servicos::ZOVA_N_ClientAnim::clsClientes>();
+    clientes->DadosDoUsuario(valores().DadosDoUsuario);
+    std::string semNome;
+    ponto = 2;
+    if (clientes->Selecionar(2, 0, 0, "", semNome, codigo, "", "", "", 0, "") != 0) return;
+    const base::RecordSetPtr encontrados = clientes->ResultadoDaSelecaoEmRecordSet();
+    completos = true;
+    if (encontrados->RecordCount() != 1) return;
+    encontrados->MoveFirst();
+    completos = !base::ToText(encontrados->Fields("CodigoIBGEDoMunicipio")).empty();
+  });
+  return completos;
+}
+
+bool frmCaixaOperar::ValidarDadosDoProduto(const std::string& nome,
+                                           const std::string& codigoDeBarras,
+                                           double codigoInterno) {
+  bool completos = false;
+  Procedimento(", frmCaixaOperar, ValidarDadosDoProduto, Ponto: ", [&](Ponto& ponto) {
+    const base::RecordSetPtr produtos = SelecionarProduto(nome, codigoDeBarras, codigoInterno);
+    if (!produtos) return;
+    ponto = 2;
+    completos = produtos->RecordCount() != 1 || !base::ToText(produtos->Fields("NCM")).empty();
+  });
+  return completos;
+}
+
+std::int16_t frmCaixaOperar::CadastrarCodigoIBGEDoMunicipioDoCliente_Click() {
+  std::int16_t resultado = kFalha;
+  Procedimento(
+      ", frmCaixaOperar, CadastrarCodigoIBGEDoMunicipioDoCliente_Click, Ponto: ", [&](Ponto&) {
+        auto cadastro = servicos::CriarServico<servicos::ZOVA_A_ClientAnim::clsClientAnim>();
+        cadastro->CodigoDoCliente(CodigoDoCliente());
+        cadastro->ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
+        cadastro->NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
+        cadastro->NomeDaAplicacao(valores().NomeDaAplicacao);
+        cadastro->DadosDoUsuario(valores().DadosDoUsuario);
+        resultado = cadastro->AbrirFichaDeCadastroDeCodigoIBGEDoMunicipio();
+      });
+  return resultado;
+}
+
+std::int16_t frmCaixaOperar::CadastrarNCMDoProduto_Click(double codigoInterno,
+                                                         const std::string& nome) {
+  std::int16_t resultado = kFalha;
+  Procedimento(", frmCaixaOperar, CadastrarNCMDoProduto_Click, Ponto: ", [&](Ponto&) {
+    auto cadastro = servicos::CriarServico<servicos::ZOVA_A_Produtos::clsProdutos>();
+    cadastro->CodigoInterno(codigoInterno);
+    cadastro->Nome(nome);
+    cadastro->NomeDaAplicacao(valores().NomeDaAplicacao);
+    cadastro->DadosDoUsuario(valores().DadosDoUsuario);
+    resultado = cadastro->AbrirFichaDeCadastroDeNCM();
+  });
+  return resultado;
+}
+
+}  // namespace sale

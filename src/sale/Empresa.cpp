@@ -1,0 +1,28 @@
+#include "sale/Empresa.h"
+
+#include "frame/Mensagens.h"
+#include "frame/servicos/ZOVA_N_Empresa.clsEmpresa.h"
+
+namespace sale {
+
+LeituraDaEmpresa LerEmpresa() {
+  auto servico = servicos::CriarServico<servicos::ZOVA_N_Empresa::clsEmpresa>();
+  const std::int16_t resultado = servico->Selecionar(1, 2);
+  switch (resultado) {
+    case servicos::kSucesso: {
+      base::RecordSetPtr empresa = servico->ResultadoDaSelecaoEmRecordSet();
+      empresa->MoveFirst();
+      return {std::move(empresa), false};
+    }
+    case servicos::kErro:
+    case servicos::kRecusa:
+    case servicos::kRecusaGrave:
+      frame::Aceitar(resultado, *servico);
+      return {nullptr, true};
+    // A result that nothing is agreed on leaves things as they are.
+    default:
+      return {nullptr, false};
+  }
+}
+
+}  // namespace sale

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "base/Record.h"
+
+namespace sale {
+
+/// What became of reading the company record.
+struct LeituraDaEmpresa {
+  /// The record set, its cursor on the one record if there is one; null when there is nothing to
+  /// read.
+  base::RecordSetPtr empresa;
+  /// The read failed or was refused, and the operator has been told.
+  bool falhou = false;
+
+  /// Whether there is a company.
+  bool Cadastrada() const { return empresa && empresa->RecordCount() > 0; }
+};
+
+LeituraDaEmpresa LerEmpresa();
+
+}  // namespace sale

@@ -1,0 +1,177 @@
+#include "base/Text.h"
+#include "frame/CamposNumericos.h"
+#include "frame/Mensagens.h"
+#include "frame/Valores.h"
+#include "frame/modFuncoes.h"
+#include "platform/CheckBox.h"
+#include "platform/Colors.h"
+#include "platform/ZVTextBox.h"
+#include "sale/frmCaixaOperar.h"
+
+namespace sale {
+
+using frame::kZeroEmDinheiro;
+using frame::Ponto;
+using frame::Procedimento;
+using frame::valores;
+using platform::Kind;
+using platform::ZVComboBox;
+using platform::ZVFind;
+
+namespace {
+
+constexpr std::int16_t kDesbloquear = 2;
+constexpr platform::Color kCinzaClaro = platform::Rgb(249, 249, 249);
+
+}  // namespace
+
+void frmCaixaOperar::PermissaoDoUsuario() {
+  Procedimento(", frmCaixaOperar, PermissaoDoUsuario, Ponto: ", [&](Ponto&) {
+    const bool administrador = frame::Direito("Administrador");
+    const bool descontos =
+        administrador || frame::Direito("PermissaoDoModuloCaixaAlterarDescontosDeVendas");
+    zvnumValorUnitario.Enabled = administrador;
+    if (!administrador) {
+      zvnumPercentualDeDescontoPorItem.Enabled = descontos;
+      zvnumValorDeDescontoPorItem.Enabled = descontos;
+    }
+    zvnumPercentualTotalDeDesconto.Enabled = descontos;
+    zvnumValorTotalDeDesconto.Enabled = descontos;
+  });
+}
+
+void frmCaixaOperar::HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(bool habilitar) {
+  Procedimento(
+      ", frmCaixaOperar, HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda, Ponto: ",
+      [&](Ponto& ponto) {
+        zvnumQuantidade.Enabled = habilitar;
+        zvnumValorUnitario.Enabled = habilitar;
+        zvnumPercentualDeDescontoPorItem.Enabled = habilitar;
+        zvnumValorDeDescontoPorItem.Enabled = habilitar;
+        ponto = 2;
+        if (habilitar) PermissaoDoUsuario();
+      });
+}
+
+void frmCaixaOperar::HabilitarDesabilitarCampos(bool habilitar) {
+  Procedimento(", frmCaixaOperar, HabilitarDesabilitarCampos, Ponto: ", [&](Ponto&) {
+    platform::Control* const campos[] = {&optServico,           &optProduto,
+                                         &zvcmbTiposDeServicos, &zvfCodigoDoServico,
+                                         &zvfNomeDoServico,     &zvfCodigoDeBarrasDoProduto,
+                                         &zvfNomeDoProduto,     &zvfCodigoInternoDoProduto,
+                                         &zvcmbComissionado};
+    for (platform::Control* campo : campos) campo->Enabled = habilitar;
+    if (!habilitar) {
+      zvcmbAnimal.Enabled = false;
+    } else if (zvcmbAnimal.ListCount() >= 2) {
+      zvcmbAnimal.Enabled = true;
+    }
+    platform::ZVNumberBox* const valoresDaLinha[] = {&zvnumQuantidade, &zvnumValorUnitario,
+                                                     &zvnumPercentualDeDescontoPorItem,
+                                                     &zvnumValorDeDescontoPorItem};
+    for (platform::ZVNumberBox* campo : valoresDaLinha) {
+      campo->BackColor = habilitar ? platform::kWhite : kCinzaClaro;
+    }
+  });
+}
+
+void frmCaixaOperar::LimparCampos(std::int16_t& falha) {
+  Procedimento(", frmCaixaOperar, LimparCampos, Ponto: ", [&](Ponto& ponto) {
+    for (platform::Control* controle : Controls()) {
+      switch (controle->GetKind()) {
+        case Kind::kFind: {
+          auto& campo = static_cast<ZVFind&>(*controle);
+          campo.Status = ZVFind::kEmpty;
+          campo.Text = "";
+          break;
+        }
+        case Kind::kNumberBox:
+        case Kind::kTextBox:
+          static_cast<platform::EditBox&>(*controle).Text = "";
+          break;
+        case Kind::kComboBox:
+          if (controle != &zvcmbCaixas && controle != &zvcmbTiposDeServicos) {
+            static_cast<ZVComboBox&>(*controle).Clear();
+          }
+          break;
+        case Kind::kCheckBox:
+          static_cast<platform::CheckBox&>(*controle).Value = false;
+          break;
+        default:
+          break;
+      }
+    }
+    ponto = 2;
+    zvnumQuantidade.Text = EhServico() ? "0" : "0,000";
+    for (platform::ZVNumberBox* campo :
+         {&zvnumValorUnitario, &zvnumPercentualDeDescontoPorItem, &zvnumValorDeDescontoPorItem,
+          &zvnumTotal, &zvnumValorTotalDeDescontoItensDaGrade, &zvnumLiquidoAPagar,
+          &zvnumPercentualTotalDeDesconto, &zvnumValorTotalDeDesconto}) {
+      campo->Text = std::string(kZeroEmDinheiro);
+    }
+    const bool tiposHabilitado = zvcmbTiposDeServicos.Enabled();
+    zvcmbTiposDeServicos.Enabled = true;
+    zvcmbTiposDeServicos.ListIndex = -1;
+    zvcmbTiposDeServicos.Enabled = tiposHabilitado;
+    ponto = 3;
+    PermissaoDoUsuario();
+    HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(false);
+    RestaurarCaptionOriginalDalblCliente();
+    falha = 0;
+  });
+}
+
+void frmCaixaOperar::RestaurarCaptionOriginalDalblCliente() {
+  caixaDoCliente_.RestaurarRotulo();
+}
+
+void frmCaixaOperar::LimparCamposDeQuantidadeEValoresDoItemDaVenda() {
+  zvnumQuantidade.Text = "1,000";
+  zvnumValorUnitario.Text = std::string(kZeroEmDinheiro);
+  zvnumPercentualDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
+  zvnumValorDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
+}
+
+double frmCaixaOperar::CodigoDoCliente() const {
+  return base::Val(zvfCodigoDoCliente.Text());
+}
+
+void frmCaixaOperar::zvcmdLimparCampos_Click() {
+  Procedimento(", frmCaixaOperar, zvcmdLimparCampos_Click, Ponto: ", [&](Ponto& ponto) {
+    zvfNumeroDaFichaClinica.Enabled = true;
+    caixaDoCliente_.Habilitar(true);
+    ponto = 2;
+    if (CodigoDoCliente() > 0) {
+      frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(CodigoDoCliente(), kDesbloquear);
+    }
+    ponto = 3;
+    optServico.Value = true;
+    std::int16_t falha = 0;
+    LimparCampos(falha);
+    if (falha == 1) return;
+    ponto = 4;
+    ExibirOcultarpicMensagem(true, true);
+    PreencherComboboxCaixas(falha);
+    ExibirOcultarpicMensagem(false, false);
+    if (zvcmbCaixas.ListCount() > 0) SelecionarCaixa(valores().NumeroDoCaixa);
+    ponto = 5;
+    Grade_Configurar(falha);
+    if (falha == 1) return;
+    IniciarClassificacao();
+    Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
+    HabilitarDesabilitarCampos(false);
+    zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+  });
+}
+
+void frmCaixaOperar::zvcmdDetalhes_Click() {
+  Procedimento(", frmCaixaOperar,  zvcmdDetalhes_Click, Ponto: ", [&](Ponto&) {
+    if (!GradeComItens()) {
+      frame::Informar("Nenhum item para ser detalhado da grade.");
+      return;
+    }
+    TelaIndisponivel("Detalhes do item");
+  });
+}
+
+}  // namespace sale

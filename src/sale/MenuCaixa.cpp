@@ -1,0 +1,211 @@
+#include "base/Text.h"
+#include "frame/Mensagens.h"
+#include "frame/Valores.h"
+#include "frame/modFuncoes.h"
+#include "frame/servicos/ZOVA_A_ClientHist.clsHistDeVendas.h"
+#include "frame/servicos/ZOVA_A_Orcamentos.clsOrcamentos.h"
+#include "platform/Desktop.h"
+#include "register/Movimentos.h"
+#include "register/frmCaixaMovimento.h"
+#include "sale/frmCaixaOperar.h"
+
+namespace sale {
+
+using frame::Ponto;
+using frame::Procedimento;
+using frame::valores;
+
+namespace {
+
+constexpr std::int16_t kDesbloquear = 2;
+
+}  // namespace
+
+void frmCaixaOperar::tbMenuCaixa_ButtonClick(platform::ToolbarButton& botao) {
+  Procedimento(", frmCaixaOperar, tbMenuCaixas, Ponto: ", [&](Ponto&) {
+    struct Entrada {
+      std::string_view chave;
+      void (*abrir)(frmCaixaOperar&);
+    };
+    static constexpr Entrada kEntradas[] = {
+        {"Abertura", [](frmCaixaOperar& f) { f.AbrirOuFechar(registers::kCaixaAbrir); }},
+        {"Fechamento", [](frmCaixaOperar& f) { f.AbrirOuFechar(registers::kCaixaFechar); }},
+        {"Entradas",
+         [](frmCaixaOperar& f) { f.Movimentar(registers::kCaixaEntradas, "Entrada efetuada."); }},
+        {"Saidas",
+         [](frmCaixaOperar& f) { f.Movimentar(registers::kCaixaSaidas, "Saída efetuada."); }},
+        {"CancelarVenda", [](frmCaixaOperar& f) { f.TelaIndisponivel("Cancelar venda"); }},
+        {"DesfazerCancelamento",
+         [](frmCaixaOperar& f) { f.TelaIndisponivel("Desfazer cancelamento"); }},
+        {"CreditoDoCliente", [](frmCaixaOperar& f) { f.CreditoDoCliente(); }},
+        {"DebitosDoCliente", [](frmCaixaOperar& f) { f.TelaIndisponivel("Débitos do cliente"); }},
+        {"ConsultarHistoricoDeVendas", [](frmCaixaOperar& f) { f.ConsultarHistoricoDeVendas(); }},
+        {"ConsultarPrecos", [](frmCaixaOperar& f) { f.mnuConsultarPrecos.PopUp(f.tbMenuCaixa); }},
+        {"Orcamentos", [](frmCaixaOperar& f) { f.Orcamentos(); }},
+        {"Relatorios", [](frmCaixaOperar& f) { f.TelaIndisponivel("Relatórios de caixas"); }},
+        {"Comprovantes", [](frmCaixaOperar& f) { f.TelaIndisponivel("Comprovante de venda"); }}};
+    for (const Entrada& entrada : kEntradas) {
+      if (entrada.chave == botao.Key()) entrada.abrir(*this);
+    }
+  });
+}
+
+void frmCaixaOperar::TelaIndisponivel(std::string_view tela) {
+  frame::Informar("A tela '" + std::string(tela) +
+                  "' ainda não está disponível nesta versão do caixa.");
+}
+
+void frmCaixaOperar::TratarFalha(std::int32_t numeroDaFalha) {
+  std::int16_t falha = 0;
+  switch (numeroDaFalha) {
+    case servicos::kCaixaInexistente:
+    case servicos::kCaixaDesativado:
+      PreencherComboboxCaixas(falha);
+      zvcmbCaixas_Click();
+      return;
+    case servicos::kCaixaJaAberto:
+    case servicos::kCaixaNaoAberto:
+      RessincronizarCaixas();
+      return;
+    default:
+      return;
+  }
+}
+
+void frmCaixaOperar::Movimentar(const registers::Movimento& movimento, std::string_view mensagem) {
+  registers::frmCaixaMovimento formulario(movimento);
+  formulario.MontarExibirFormulario();
+  if (formulario.OperacaoConcluida()) {
+    frame::Informar(mensagem);
+    zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+  } else {
+    TratarFalha(formulario.NumeroDaFalha());
+  }
+  formulario.Unload();
+}
+
+void frmCaixaOperar::AbrirOuFechar(const registers::Movimento& movimento) {
+  registers::frmCaixaMovimento formulario(movimento);
+  formulario.MontarExibirFormulario();
+  formulario.Unload();
+  if (!formulario.OperacaoConcluida()) {
+    TratarFalha(formulario.NumeroDaFalha());
+    return;
+  }
+  // The fields are cleared next: who was being served is asked for first.
+  const double codigo = CodigoDoCliente();
+  std::int16_t falha = 0;
+  LimparCampos(falha);
+  if (falha == 1) return;
+  RessincronizarCaixas();
+  if (codigo > 0) {
+    frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(codigo, kDesbloquear);
+  }
+  if (!msfgGrade.Visible()) {
+    zvcmbCaixas.SetFocus();
+    return;
+  }
+  Grade_Configurar(falha);
+  if (falha == 1) return;
+  IniciarClassificacao();
+  Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
+  if (falha == 1) return;
+  // Nobody is being served: only the customer box is open.
+  HabilitarDesabilitarCampos(false);
+  zvfNumeroDaFichaClinica.Enabled = true;
+  caixaDoCliente_.Habilitar(true);
+  zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+}
+
+void frmCaixaOperar::CreditoDoCliente() {
+  mnuCreditoDoCliente.PopUp(tbMenuCaixa);
+  // The last choice stands: a menu that is dismissed repeats it.
+  switch (OpcaoDoMenuCreditoDoCliente) {
+    case 1:
+      TelaIndisponivel("Adicionar crédito para o cliente");
+      return;
+    case 2:
+      TelaIndisponivel("Estornar crédito do cliente");
+      return;
+    case 3:
+      TelaIndisponivel("Histórico de crédito para o cliente");
+      return;
+    default:
+      return;
+  }
+}
+
+bool frmCaixaOperar::ClienteInformado() {
+  if (caixaDoCliente_.Informado()) return true;
+  frame::Informar("Informe um cliente.");
+  zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+  return false;
+}
+
+void frmCaixaOperar::ConsultarHistoricoDeVendas() {
+  if (!ClienteInformado()) return;
+  auto historico = servicos::CriarServico<servicos::ZOVA_A_ClientHist::clsHistDeVendas>();
+  historico->CodigoDoCliente(CodigoDoCliente());
+  historico->ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
+  historico->NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
+  constexpr int kMesesDeHistorico = 12;
+  historico->DataInicialDoHistorico(
+      base::Format(platform::Desktop::Current().Now().PlusMonths(-kMesesDeHistorico),
+                   base::DateMask::kDayMonthYear));
+  historico->NomeDaAplicacao(valores().NomeDaAplicacao);
+  historico->DadosDoUsuario(valores().DadosDoUsuario);
+  historico->AbrirFichaExibicao();
+}
+
+void frmCaixaOperar::Orcamentos() {
+  if (!ClienteInformado()) return;
+  const std::int32_t animal = zvcmbAnimal.ListIndex();
+  if (animal == -1) {
+    frame::Informar("Selecione o animal.");
+    zvcmbAnimal.SetFocus();
+    return;
+  }
+  auto orcamentos = servicos::CriarServico<servicos::ZOVA_A_Orcamentos::clsOrcamentos>();
+  orcamentos->CodigoDoCliente(CodigoDoCliente());
+  orcamentos->ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
+  orcamentos->NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
+  orcamentos->CodigoDoAnimal(zvcmbAnimal.ItemData(animal));
+  orcamentos->NomeDoAnimal(zvcmbAnimal.Text());
+  orcamentos->NomeDaAplicacao(valores().NomeDaAplicacao);
+  orcamentos->DadosDoUsuario(valores().DadosDoUsuario);
+  orcamentos->AbrirFicha();
+}
+
+void frmCaixaOperar::mnuAdicionarCreditoParaOCliente_Click() {
+  OpcaoDoMenuCreditoDoCliente = 1;
+}
+void frmCaixaOperar::mnuEstornarCreditoDoCliente_Click() {
+  OpcaoDoMenuCreditoDoCliente = 2;
+}
+void frmCaixaOperar::mnuHistoricoDeCreditoParaOCliente_Click() {
+  OpcaoDoMenuCreditoDoCliente = 3;
+}
+
+void frmCaixaOperar::mnuConsultarPrecosProdutos_Click() {
+  Procedimento(", frmCaixaOperar, mnuConsultarPrecosProdutos_Click, Ponto: ",
+               [&](Ponto&) { ConsultarPrecos("Consulta de preços de produtos"); });
+}
+void frmCaixaOperar::mnuConsultarPrecosServicos_Click() {
+  Procedimento(", frmCaixaOperar, mnuConsultarPrecosServicos_Click, Ponto: ",
+               [&](Ponto&) { ConsultarPrecos("Consulta de preços de serviços"); });
+}
+
+void frmCaixaOperar::ConsultarPrecos(std::string_view tela) {
+  if (zvcmbCaixas.ListIndex() == -1) {
+    frame::Informar("Selecione o caixa.");
+    zvcmbCaixas.SetFocus();
+    return;
+  }
+  TelaIndisponivel(tela);
+}
+
+void frmCaixaOperar::mnuAlterar_Click() {
+  Registros_Alterar();
+}
+
+}  // namespace sale

@@ -1,0 +1,108 @@
+#include "checkout/frmCaixaPagar.h"
+#include "frame/CamposNumericos.h"
+#include "frame/Mensagens.h"
+#include "frame/Valores.h"
+#include "frame/modFuncoes.h"
+#include "sale/frmCaixaOperar.h"
+
+namespace sale {
+
+using base::Currency;
+using frame::Ponto;
+using frame::Procedimento;
+using frame::valores;
+
+namespace {
+
+constexpr std::int16_t kDesbloquear = 2;
+
+}  // namespace
+
+void frmCaixaOperar::zvcmdPagamento_Click() {
+  Procedimento(", frmCaixaOperar, zvcmdPagamento_Click, Ponto: ", [&](Ponto& ponto) {
+    if (ValidarCampos() == 1) return;
+    ponto = 2;
+    if (frame::EmiteDocumentoFiscal()) {
+      switch (CompletarDadosFiscais()) {
+        case DadosFiscais::kFaltam:
+          zvcmdPagamento.SetFocus();
+          return;
+        case DadosFiscais::kFalhaNaExportacao:
+          zvcmdLimparCampos_Click();
+          return;
+        case DadosFiscais::kCompletos:
+          break;
+      }
+    }
+    ponto = 3;
+    if (MontarExibirFormulario_Caixa_Pagar() != 0) return;
+    ponto = 4;
+    EncerrarVenda();
+  });
+}
+
+void frmCaixaOperar::EncerrarVenda() {
+  if (CodigoDoCliente() != 0) {
+    frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(CodigoDoCliente(), kDesbloquear);
+  }
+  std::int16_t falha = 0;
+  LimparCampos(falha);
+  if (falha == 1) return;
+  frame::Espera espera(painelDeMensagem_);
+  PreencherComboboxCaixas(falha);
+  if (falha == 1) return;
+  espera.Ocultar();
+  SelecionarCaixa(valores().NumeroDoCaixa);
+  Grade_Configurar(falha);
+  if (falha == 1) return;
+  IniciarClassificacao();
+  Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
+  if (falha == 1) return;
+  HabilitarDesabilitarCampos(false);
+  zvfNumeroDaFichaClinica.Enabled = true;
+  caixaDoCliente_.Habilitar(true);
+  zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+}
+
+std::int16_t frmCaixaOperar::MontarExibirFormulario_Caixa_Pagar() {
+  std::int16_t resultado = 1;
+  Procedimento(", frmCaixaOperar, MontarExibirFormulario_Caixa_Pagar, Ponto: ", [&](Ponto& ponto) {
+    checkout::frmCaixaPagar pagar;
+    pagar.lblCliente.Caption = lblCliente.Caption();
+    pagar.NumeroDaFichaClinica(base::ToInt32(base::Val(zvfNumeroDaFichaClinica.Text())));
+    pagar.ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
+    pagar.NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
+    pagar.EnderecoDoCliente(EnderecoDoCliente);
+    pagar.CanalDeComunicacaoDoCliente(CanalDeComunicacaoDoCliente);
+    pagar.CodigoDoCliente(base::ToInt32(base::ToDouble(zvfCodigoDoCliente.Text())));
+    ponto = 2;
+    const Currency percentual = frame::LerCurrency(zvnumPercentualTotalDeDesconto);
+    const bool distribuir = !percentual.IsZero();
+    if (distribuir && AplicarDescontoERecalcularValoresDosItensDaNovaGradeDuplicada() == 1) {
+      frame::Parar("Não foi possível aplicar o desconto informado.");
+      return;
+    }
+    ponto = 3;
+    pagar.ValorBruto(frame::LerCurrency(zvnumTotal));
+    pagar.ValorTotalDeDescontos(frame::LerCurrency(zvnumValorTotalDeDescontoItensDaGrade) +
+                                frame::LerCurrency(zvnumValorTotalDeDesconto));
+    pagar.ValorLiquido(frame::LerCurrency(zvnumLiquidoAPagar));
+    pagar.GradeDeItensDaVendas(distribuir ? msfgGradeComDescontoAplicado : msfgGrade);
+    pagar.PercentualTotalDeDesconto(percentual);
+    pagar.Custo(Custo);
+    pagar.Comissao(distribuir ? ComissaoComDesconto : Comissao);
+    pagar.LucroEmValor(distribuir ? LucroEmValorComDesconto : LucroEmValor);
+    pagar.LucroEmPercentual(distribuir ? LucroEmPercentualComDesconto : LucroEmPercentual);
+    ponto = 4;
+    Currency credito;
+    if (!frame::RetornarCreditoDoCliente(CodigoDoCliente(), credito)) credito = Currency();
+    pagar.CreditoDoCliente(credito);
+    ponto = 5;
+    const frame::FundoEscuro fundo;
+    Refresh();
+    resultado = pagar.MontarExibirFormulario() == 0 ? 0 : 1;
+  });
+  return resultado;
+}
+
+}  // namespace sale
