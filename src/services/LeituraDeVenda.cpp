@@ -1,0 +1,249 @@
+#include "services/LeituraDeVenda.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "services/Outcome.h"
+#include "services/Search.h"
+
+namespace services {
+namespace {
+
+using base::Currency;
+
+constexpr std::int32_t kColumnsOfALine = 20;
+
+[[noreturn]] void Refuse(std::string sentence) {
+  throw Refusal{.sentence = std::move(sentence)};
+}
+
+/// One row of the counter's grid. What cannot be read is refused by line, name and column.
+class LineCells {
+ public:
+  LineCells(const base::GradeLida& grid, std::int32_t row) : grid_(grid), row_(row) {}
+
+  std::string Text(std::int32_t column) const { return base::Trim(grid_.TextMatrix(row_, column)); }
+
+  /// An empty cell is zero.
+  Currency Money(std::int32_t column, const char* name) const {
+    const std::string text = Text(column);
+    if (text.empty()) return {};
+    try {
+      return base::ToCurrency(std::string_view(text));
+    } catch (const base::RuntimeError&) {
+      RefuseCell(text, name);
+    }
+  }
+
+  Currency NotNegative(std::int32_t column, const char* name) const {
+    const Currency value = Money(column, name);
+    if (value < Currency()) RefuseCell(Text(column), name);
+    return value;
+  }
+
+  std::int32_t Whole(std::int32_t column, const char* name) const {
+    const Currency value = NotNegative(column, name);
+    const std::int64_t whole = value.TenThousandths() / Currency::kScale;
+    if (value.TenThousandths() % Currency::kScale != 0 ||
+        whole > std::numeric_limits<std::int32_t>::max()) {
+      RefuseCell(Text(column), name);
+    }
+    return static_cast<std::int32_t>(whole);
+  }
+
+  /// 1 or 2.
+  std::int32_t Kind(std::int32_t column, const char* name) const {
+    const std::int32_t kind = Whole(column, name);
+    if (kind != 1 && kind != 2) RefuseCell(Text(column), name);
+    return kind;
+  }
+
+  bool IsBlank() const {
+    for (std::int32_t column = 0; column < grid_.Cols(); ++column) {
+      if (!Text(column).empty()) return false;
+    }
+    return true;
+  }
+
+ private:
+  [[noreturn]] void RefuseCell(const std::string& text, const char* name) const {
+    Refuse("O item " + std::to_string(row_) + " da venda ('" + Text(2) + "') tem '" + text +
+           "' em " + name +
+           ", que não é um valor aceito. Remova o item, inclua-o de novo e refaça o pagamento.");
+  }
+
+  const base::GradeLida& grid_;
+  std::int32_t row_;
+};
+
+/// The counter writes the name padded to 100 characters, with the commission behind it.
+std::string NameOfEmployee(const std::string& cell) {
+  constexpr std::size_t kWidth = 100;
+  return base::Trim(base::Left(cell, kWidth));
+}
+
+Venda::Item ReadItem(const LineCells& cells, std::int32_t columns) {
+  Venda::Item item;
+  item.tipoDeVenda = cells.Kind(columns - 2, "tipo de venda");
+  item.tipoDeLancamento = cells.Kind(columns - 1, "tipo de lançamento");
+  const bool isService = item.tipoDeLancamento == 1;
+  if (isService) item.tipoDeServico = cells.Whole(0, "tipo de serviço");
+  if (!isService) item.codigoDeBarras = cells.Text(0);
+  item.codigo = cells.Whole(1, "código");
+  item.nome = cells.Text(2);
+  item.codigoDoAnimal = cells.Whole(3, "código do animal");
+  item.nomeDoAnimal = cells.Text(4);
+  item.codigoDoFuncionario = cells.Whole(5, "código do funcionário");
+  item.nomeDoFuncionario = NameOfEmployee(cells.Text(6));
+  item.quantidade = cells.NotNegative(7, "quantidade");
+  item.valorUnitario = cells.NotNegative(8, "valor unitário");
+  item.descontoEmPercentual = Abs(cells.Money(9, "percentual de desconto"));
+  item.descontoEmValor = Abs(cells.Money(10, "valor de desconto"));
+  item.valorTotal = cells.Money(11, "valor total");
+  item.custo = cells.Money(12, "custo");
+  item.percentualDeComissao = cells.Money(13, "percentual de comissão");
+  item.valorDaComissao = cells.Money(14, "valor da comissão");
+  item.numeroDeLancamento = cells.Whole(15, "número do lançamento");
+  item.unidade = cells.Text(16);
+  item.numeroDaVendaCancelada = cells.Whole(17, "número da venda cancelada");
+  return item;
+}
+
+/// The due date of a tender on credit: dd/mm/yyyy, or its eight digits.
+base::DateTime ReadDueDate(const std::string& cell) {
+  const std::string text = base::FormatDateDigits(base::Trim(cell));
+  const auto numberAt = [&](std::size_t at, std::size_t count) {
+    int number = 0;
+    for (std::size_t i = at; i < at + count; ++i) {
+      if (text[i] < '0' || text[i] > '9') return -1;
+      number = number * 10 + (text[i] - '0');
+    }
+    return number;
+  };
+  constexpr std::size_t kLength = 10;
+  if (text.size() == kLength && text[2] == '/' && text[5] == '/') {
+    const int day = numberAt(0, 2);
+    const int month = numberAt(3, 2);
+    const int year = numberAt(6, 4);
+    if (base::DateTime::Exists(year, month, day)) return {year, month, day};
+  }
+  Refuse(
+      "A venda a crédito (fiado) precisa de uma data de vencimento no formato dd/mm/aaaa. "
+      "Refaça o pagamento com a data.");
+}
+
+Venda::Recebimento ReadTender(const std::string& method, const std::string& value,
+                              const std::string& dueDate) {
+  Venda::Recebimento tender;
+  tender.moeda = method.front() - '0';
+  if (tender.moeda < kDinheiro || tender.moeda > kUltimaMoeda) {
+    Refuse("A forma de pagamento '" + method + "' não é conhecida. Refaça o pagamento.");
+  }
+  tender.valor = LerValor(value, "o valor de " + method);
+  if (tender.valor < Currency()) {
+    Refuse("O valor de " + method + " não pode ser negativo. Refaça o pagamento.");
+  }
+  if (tender.moeda == kACredito) tender.vencimento = ReadDueDate(dueDate);
+  return tender;
+}
+
+/// Change below this arrives as 0: the checkout reads it up to its comma.
+constexpr Currency kLeastReportedChange = Currency::FromTenThousandths(Currency::kScale);
+
+void CheckChange(const Venda& venda, Currency reported) {
+  const bool agrees =
+      reported.IsZero() ? venda.troco < kLeastReportedChange : reported == -venda.troco;
+  if (agrees) return;
+  Refuse("O troco informado (" + base::FormatMoney(Abs(reported)) +
+         ") não confere: o valor pago menos a venda e o crédito para o cliente dá " +
+         base::FormatMoney(venda.troco) + ". Nada foi registrado; refaça o pagamento.");
+}
+
+}  // namespace
+
+std::vector<Venda::Item> LerItens(const base::GradeLida* grade) {
+  if (grade != nullptr && grade->Cols() < kColumnsOfALine) {
+    Refuse("A lista de itens da venda está incompleta. Limpe os campos e refaça a venda.");
+  }
+  std::vector<Venda::Item> items;
+  std::set<std::int32_t> preSales;
+  for (std::int32_t row = 1; grade != nullptr && row < grade->Rows(); ++row) {
+    const LineCells cells(*grade, row);
+    if (cells.IsBlank()) continue;
+    items.push_back(ReadItem(cells, grade->Cols()));
+    const std::int32_t preSale = items.back().numeroDeLancamento;
+    if (preSale != 0 && !preSales.insert(preSale).second) {
+      Refuse("O item de pré-venda '" + items.back().nome + "' (lançamento " +
+             std::to_string(preSale) +
+             ") está duas vezes na venda. Limpe os campos e refaça a "
+             "venda.");
+    }
+  }
+  if (items.empty()) Refuse("A venda não tem itens. Inclua um item e refaça o pagamento.");
+  return items;
+}
+
+std::vector<Venda::Recebimento> LerRecebimentos(const base::GradeLida* grade) {
+  constexpr std::int32_t kColumns = 3;
+  std::vector<Venda::Recebimento> tenders;
+  for (std::int32_t row = 1; grade != nullptr && row < grade->Rows(); ++row) {
+    if (grade->Cols() < kColumns)
+      Refuse(
+          "A lista de pagamentos está incompleta. Refaça o "
+          "pagamento.");
+    const std::string method = base::Trim(grade->TextMatrix(row, 0));
+    if (method.empty()) continue;
+    tenders.push_back(ReadTender(method, grade->TextMatrix(row, 1), grade->TextMatrix(row, 2)));
+  }
+  return tenders;
+}
+
+void FecharContas(Venda& venda, Currency troco) {
+  if (venda.valorLiquido < Currency()) {
+    Refuse("O valor líquido da venda não pode ser negativo. Reveja os descontos dos itens.");
+  }
+  if (venda.creditoMantido < Currency()) {
+    Refuse("O crédito para o cliente não pode ser negativo. Refaça o pagamento.");
+  }
+  try {
+    for (const Venda::Recebimento& tender : venda.recebimentos) venda.totalRecebido += tender.valor;
+    venda.creditoUsado = venda.RecebidoEm(kCreditoDoCliente);
+    venda.troco = venda.totalRecebido - venda.valorLiquido - venda.creditoMantido;
+  } catch (const base::RuntimeError&) {
+    Refuse("Os valores da venda ultrapassam o limite que o caixa registra. Confira os valores.");
+  }
+  if (venda.totalRecebido < venda.valorLiquido) {
+    Refuse("Restam " + base::FormatMoney(venda.valorLiquido - venda.totalRecebido) +
+           " para pagar. Complete o pagamento.");
+  }
+  if (venda.troco < Currency()) {
+    Refuse("O crédito para o cliente (" + base::FormatMoney(venda.creditoMantido) +
+           ") é maior que a sobra do pagamento. Nada foi registrado; refaça o pagamento.");
+  }
+  CheckChange(venda, troco);
+}
+
+Currency LerValor(const std::string& text, const std::string& what) {
+  try {
+    return base::ToCurrency(std::string_view(text));
+  } catch (const base::RuntimeError&) {
+    Refuse("'" + base::Trim(text) + "' não é um valor aceito para " + what +
+           ". Informe um número com vírgula nos centavos.");
+  }
+}
+
+std::int32_t LerCodigoDoCliente(const std::string& text) {
+  const auto code = CodeIn(text);
+  if (!code) {
+    Refuse("O código de cliente '" + base::Trim(text) +
+           "' não existe. Limpe os campos e selecione o cliente de novo.");
+  }
+  return *code;
+}
+
+}  // namespace services

@@ -1,0 +1,70 @@
+#include "services/Movimento.h"
+
+#include "base/Numbers.h"
+#include "services/Caixas.h"
+#include "services/DatabaseError.h"
+#include "services/Outcome.h"
+#include "services/Senhas.h"
+#include "services/Session.h"
+#include "services/Venda.h"
+
+namespace services {
+namespace {
+
+bool NeedsOpenRegister(TipoDeLancamento tipo) {
+  return tipo != TipoDeLancamento::kAbertura;
+}
+
+bool LeavesRegisterOpen(TipoDeLancamento tipo) {
+  return tipo != TipoDeLancamento::kFechamento;
+}
+
+/// Throws the refusal for what the register's row would not let happen; returns when nothing is in
+/// the way any more.
+void Explain(Session& session, const Movimento& movement) {
+  static const Statement drawer("SELECT dinheiro FROM caixas WHERE numero = $1");
+  ExigirCaixa(session, movement.numeroDoCaixa, NeedsOpenRegister(movement.tipo));
+  session.Select(drawer, {movement.numeroDoCaixa}, [&](const Row& row) {
+    if (row.Money(0) >= -movement.valor) return;
+    throw Refusal{.sentence = "Há " + base::FormatMoney(row.Money(0)) +
+                              " em dinheiro neste caixa, menos do que os " +
+                              base::FormatMoney(-movement.valor) +
+                              " que sairiam. Informe um valor menor."};
+  });
+}
+
+void Write(Banco& banco, const Movimento& movement, Transaction& transaction) {
+  static const Statement move(
+      "UPDATE caixas SET aberto = $2, dinheiro = dinheiro + $3 WHERE numero = $1 AND ativo = 1"
+      " AND aberto = $4 AND (CAST($3 AS bigint) >= 0 OR dinheiro + $3 >= 0)");
+  static const Statement enter(
+      "INSERT INTO lancamentos_de_caixa (operacao, numero_do_caixa, data_e_hora, tipo, moeda,"
+      " valor, descricao, operador, situacao, observacao)"
+      " VALUES ($1, $2, $3, $4, $5, $6, $7, $8, $9, $10) RETURNING numero");
+  static const Statement proof(
+      "SELECT 1 FROM lancamentos_de_caixa WHERE numero = $1 AND operacao = $2");
+  Session& session = banco.Sessao();
+  const base::Currency cash = movement.moeda == kDinheiro ? movement.valor : base::Currency();
+  if (session.Run(move, {movement.numeroDoCaixa, LeavesRegisterOpen(movement.tipo), cash,
+                         NeedsOpenRegister(movement.tipo)}) == 0) {
+    Explain(session, movement);
+    throw DatabaseError(Trouble::kConflict, "caixas");
+  }
+  const auto operation = NumeroUnico();
+  std::int32_t number = 0;
+  session.Select(enter,
+                 {operation, movement.numeroDoCaixa, banco.Agora(),
+                  static_cast<std::int32_t>(movement.tipo), movement.moeda, movement.valor,
+                  movement.descricao, movement.operador, movement.situacao, movement.observacao},
+                 [&](const Row& row) { number = row.Number(0); });
+  transaction.ProvedBy(proof, {number, operation});
+}
+
+}  // namespace
+
+void RegistrarMovimento(Banco& banco, const Movimento& movimento) {
+  InTransaction(banco.Sessao(),
+                [&](Transaction& transaction) { Write(banco, movimento, transaction); });
+}
+
+}  // namespace services

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/Currency.h"
+#include "services/Banco.h"
+#include "services/Lancamento.h"
+
+namespace services {
+
+/// A movement of a register that is no sale.
+struct Movimento {
+  TipoDeLancamento tipo = TipoDeLancamento::kEntrada;
+  std::int32_t numeroDoCaixa = 0;
+  std::int32_t moeda = 1;
+  base::Currency valor;  ///< Negative when the money leaves the drawer.
+  std::string descricao, operador, situacao, observacao;
+};
+
+/// Writes the entry, moves the money in the drawer, opens or closes the register, all in one
+/// transaction. Throws Refusal: 41, 43, 51 or 52 for the register's state, 2 when more money would
+/// leave the drawer than is in it. Throws DatabaseError.
+void RegistrarMovimento(Banco& banco, const Movimento& movimento);
+
+}  // namespace services

@@ -1,0 +1,248 @@
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#include "services/Banco.h"
+#include "services/DatabaseError.h"
+#include "services/PostgresSession.h"
+#include "services/Schema.h"
+#include "services/SqliteSession.h"
+
+namespace services {
+namespace {
+
+using Motivo = FalhaDeAbertura::Motivo;
+
+constexpr std::string_view kSqlitePrefix = "sqlite:";
+constexpr std::string_view kPostgresPrefix = "postgresql:";
+
+struct Address {
+  Engine engine = Engine::kSqlite;
+  std::string target;  ///< The file, or the connection text.
+  std::string shown;   ///< How messages name the database: no connection text, it may hold secrets.
+
+  /// The command that creates or updates it.
+  std::string CreatingCommand() const {
+    return engine == Engine::kSqlite ? "caixa-banco sqlite:" + target + " criar"
+                                     : "caixa-banco postgresql:... criar";
+  }
+};
+
+/// A server that does not answer may not hold the screen for minutes.
+constexpr std::string_view kLimits[] = {"connect_timeout=5", "tcp_user_timeout=15000",
+                                        "keepalives_idle=15", "keepalives_interval=5",
+                                        "keepalives_count=3"};
+
+/// The connection text or address, with the limits that it does not set itself.
+std::string WithLimits(std::string_view connection) {
+  const bool isUri = connection.starts_with(kPostgresPrefix);
+  std::string text(connection);
+  for (const std::string_view limit : kLimits) {
+    if (connection.find(limit.substr(0, limit.find('=') + 1)) != std::string_view::npos) continue;
+    text += !isUri ? ' ' : text.find('?') == std::string::npos ? '?' : '&';
+    text += limit;
+  }
+  return text;
+}
+
+Address AddressOf(std::string_view text) {
+  if (text.starts_with(kSqlitePrefix) && text.size() > kSqlitePrefix.size()) {
+    const std::string file(text.substr(kSqlitePrefix.size()));
+    return {Engine::kSqlite, file, "'" + file + "'"};
+  }
+  if (!text.starts_with(kPostgresPrefix)) {
+    throw FalhaDeAbertura(Motivo::kEnderecoInvalido,
+                          "O endereço do banco de dados deve ser sqlite:ARQUIVO ou "
+                          "postgresql:CONEXÃO, como em sqlite:clinica.db.");
+  }
+  const std::string_view rest = text.substr(kPostgresPrefix.size());
+  return {Engine::kPostgres, WithLimits(rest.starts_with("//") ? text : rest),
+          "do servidor PostgreSQL"};
+}
+
+[[noreturn]] void Refuse(Motivo why, const std::string& sentence) {
+  throw FalhaDeAbertura(why, sentence);
+}
+
+[[noreturn]] void RefuseAsBusy(const Address& address) {
+  Refuse(Motivo::kOcupado, "O banco de dados " + address.shown +
+                               " está em uso exclusivo por outro programa. Feche esse programa e "
+                               "tente de novo.");
+}
+
+[[noreturn]] void RefuseForPermission(const Address& address) {
+  Refuse(Motivo::kSemPermissao,
+         "Este usuário do computador não tem permissão para ler e gravar o banco de dados " +
+             address.shown + " e a pasta em que ele está. Peça a permissão ao administrador.");
+}
+
+[[noreturn]] void RefuseAsForeign(const Address& address) {
+  Refuse(Motivo::kNaoEBanco,
+         address.engine == Engine::kSqlite
+             ? "O arquivo " + address.shown +
+                   " não é um banco de dados do caixa. Nada foi "
+                   "alterado nele; confira o caminho."
+             : "O banco de dados " + address.shown +
+                   " é de outro programa. Nada foi alterado nele; confira o endereço.");
+}
+
+/// The refusal that a fault at opening amounts to.
+[[noreturn]] void RefuseFor(const DatabaseError& error, const Address& address) {
+  const bool isFile = address.engine == Engine::kSqlite;
+  switch (error.What()) {
+    case Trouble::kBusy:
+      RefuseAsBusy(address);
+    case Trouble::kNotADatabase:
+      RefuseAsForeign(address);
+    case Trouble::kReadOnly:
+    case Trouble::kNoPermission:
+      if (isFile) RefuseForPermission(address);
+      Refuse(Motivo::kSemPermissao,
+             std::string("O usuário do banco de dados não tem as permissões de que o caixa precisa "
+                         "no servidor PostgreSQL. ") +
+                 error.what());
+    case Trouble::kStorage:
+      if (isFile) RefuseForPermission(address);
+      break;
+    case Trouble::kConnectionLost:
+      Refuse(Motivo::kServidorInacessivel,
+             std::string("Não foi possível entrar no servidor PostgreSQL. Confira se ele está "
+                         "ligado, o endereço, o usuário e a senha. ") +
+                 error.what());
+    default:
+      break;
+  }
+  Refuse(Motivo::kOutro,
+         "Não foi possível usar o banco de dados " + address.shown + ". " + error.what());
+}
+
+/// What can be told of a file before SQLite touches it; it would create journals beside it.
+void CheckFile(const Address& address) {
+  struct stat status {};
+  if (stat(address.target.c_str(), &status) != 0) {
+    if (errno == EACCES) RefuseForPermission(address);
+    Refuse(Motivo::kNaoExiste,
+           "O banco de dados " + address.shown +
+               " não existe. Confira o caminho ou crie-o com: " + address.CreatingCommand());
+  }
+  if (!S_ISREG(status.st_mode)) RefuseAsForeign(address);
+  const auto folder = std::filesystem::path(address.target).parent_path();
+  const bool isWritable = access(address.target.c_str(), R_OK | W_OK) == 0 &&
+                          access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) == 0;
+  if (!isWritable) RefuseForPermission(address);
+}
+
+std::unique_ptr<Session> Connect(const Address& address, const std::string& computer,
+                                 SqliteSession::File file) {
+  if (address.engine == Engine::kSqlite) {
+    return std::make_unique<SqliteSession>(address.target, file);
+  }
+  return std::make_unique<PostgresSession>(address.target, "caixa " + computer);
+}
+
+void CheckSchema(Session& session, const Address& address) {
+  const int schema = SchemaIn(session);
+  if (schema < 0) RefuseAsForeign(address);
+  if (schema == 0) {
+    Refuse(Motivo::kNaoCriado,
+           "O banco de dados " + address.shown +
+               " está vazio. Crie as tabelas com: " + address.CreatingCommand());
+  }
+  if (schema > CurrentSchema()) {
+    Refuse(Motivo::kEsquemaMaisNovo, "O banco de dados " + address.shown +
+                                         " foi gravado por uma versão mais nova do caixa "
+                                         "(esquema " +
+                                         std::to_string(schema) + "; este programa conhece até o " +
+                                         std::to_string(CurrentSchema()) +
+                                         "). Atualize este programa.");
+  }
+  if (schema < CurrentSchema()) {
+    Refuse(
+        Motivo::kEsquemaMaisAntigo,
+        "O banco de dados " + address.shown +
+            " é de uma versão anterior do caixa. Faça uma cópia de segurança e atualize-o com: " +
+            address.CreatingCommand());
+  }
+}
+
+/// Whether sales can be written, found out without writing.
+void CheckRights(Session& session, const Address& address) {
+  if (address.engine == Engine::kSqlite) {
+    const Transaction nothing(session);
+    return;
+  }
+  static const Statement rights(
+      "SELECT 1",
+      "SELECT current_setting('transaction_read_only') = 'off'"
+      " AND bool_and(has_table_privilege(c.oid, 'SELECT') AND has_table_privilege(c.oid, 'INSERT')"
+      " AND has_table_privilege(c.oid, 'UPDATE') AND has_table_privilege(c.oid, 'DELETE'))"
+      " FROM pg_class c WHERE c.relkind = 'r' AND c.relname <> 'esquema_do_caixa'"
+      " AND c.relnamespace = (SELECT relnamespace FROM pg_class"
+      " WHERE oid = to_regclass('esquema_do_caixa'))");
+  session.Select(rights, {}, [&](const Row& row) {
+    if (row.Text(0) != "t")
+      throw DatabaseError(Trouble::kNoPermission, "SELECT, INSERT, UPDATE, DELETE");
+  });
+}
+
+/// Makes a file that is known to be ours ready for work. SQLite keeps the kind of its journal in
+/// the file, but a restored copy has lost it.
+void Settle(Session& session) {
+  auto* const file = dynamic_cast<SqliteSession*>(&session);
+  if (file == nullptr) return;
+  file->RunScript("PRAGMA journal_mode = WAL");
+  file->BePatient();
+}
+
+/// The folder of a new file, which is what can be wrong before there is a file.
+void CheckFolder(const Address& address) {
+  const auto folder = std::filesystem::path(address.target).parent_path();
+  std::error_code ignored;
+  if (!folder.empty() && !std::filesystem::is_directory(folder, ignored)) {
+    Refuse(Motivo::kNaoExiste,
+           "A pasta '" + folder.string() + "' não existe. Crie-a antes do banco de dados.");
+  }
+  if (access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) != 0) RefuseForPermission(address);
+}
+
+}  // namespace
+
+std::shared_ptr<Banco> AbrirBanco(std::string_view endereco, const base::Clock& relogio,
+                                  std::string computador) {
+  const Address address = AddressOf(endereco);
+  if (address.engine == Engine::kSqlite) CheckFile(address);
+  try {
+    auto session = Connect(address, computador, SqliteSession::File::kMustExist);
+    CheckSchema(*session, address);
+    CheckRights(*session, address);
+    Settle(*session);
+    return std::make_shared<Banco>(std::move(session), relogio, std::move(computador));
+  } catch (const DatabaseError& error) {
+    RefuseFor(error, address);
+  }
+}
+
+void CriarBanco(std::string_view endereco) {
+  const Address address = AddressOf(endereco);
+  const bool isFile = address.engine == Engine::kSqlite;
+  std::error_code ignored;
+  const bool isNew = isFile && !std::filesystem::exists(address.target, ignored);
+  if (isFile && isNew) CheckFolder(address);
+  if (isFile && !isNew) CheckFile(address);
+  try {
+    const auto session = Connect(address, "", SqliteSession::File::kMayBeNew);
+    const int schema = SchemaIn(*session);
+    if (schema < 0) RefuseAsForeign(address);
+    if (schema > CurrentSchema()) CheckSchema(*session, address);
+    Settle(*session);
+    Migrate(*session);
+  } catch (const DatabaseError& error) {
+    if (isNew) std::filesystem::remove(address.target, ignored);
+    RefuseFor(error, address);
+  }
+}
+
+}  // namespace services

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "services/Session.h"
+
+namespace services {
+
+/// A database on a server that several computers share. A connection that is found dead before
+/// anything was asked of it, or while reading outside a transaction, is made again in silence; one
+/// that dies in a transaction makes that transaction fail, and the next use connects again.
+class PostgresSession : public Session {
+ public:
+  /// Connects. `connection` is a connection text or address of libpq; `label` names this program
+  /// and computer in the server's list of sessions.
+  PostgresSession(std::string connection, const std::string& label);
+  ~PostgresSession() override;
+
+  Engine Kind() const override { return Engine::kPostgres; }
+
+ private:
+  struct Connection;
+
+  std::int64_t DoRun(const Statement& statement, const Params& params) override;
+  std::int64_t DoSelect(const Statement& statement, const Params& params,
+                        const EachRow& each) override;
+  void DoRunScript(const std::string& script) override;
+  void DoBegin() override;
+  void DoCommit(const Proof& proof) override;
+  void DoRollback() noexcept override;
+
+  void Connect();
+  void EnsureConnected();
+  /// The connection; throws when it broke in mid-transaction.
+  Connection& Alive();
+  /// Carries out `work` on the connection, turning the library's exceptions into ours and letting
+  /// go of a connection that is dead.
+  template <class Work>
+  auto Translated(Work work);
+  /// The same, and once more over a new connection when the old one turns out dead. For what may
+  /// be done twice.
+  template <class Work>
+  auto Persistently(Work work);
+  /// After a commit whose answer never came: returns when the work stands, else throws.
+  void LookFor(const Proof& proof, const std::string& lostLabel);
+  bool IsGone(const std::string& label);
+
+  std::string text_;
+  std::string label_;
+  bool inTransaction_ = false;
+  std::unique_ptr<Connection> connection_;
+};
+
+}  // namespace services

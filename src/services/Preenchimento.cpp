@@ -1,0 +1,25 @@
+#include "services/Preenchimento.h"
+
+namespace services {
+
+void InsertRows(Session& session, const std::string& table, const std::string& columns,
+                const std::vector<Params>& rows) {
+  if (rows.empty()) return;
+  std::string places;
+  for (std::size_t place = 1; place <= rows.front().size(); ++place) {
+    if (place > 1) places += ", ";
+    places.append("$").append(std::to_string(place));
+  }
+  const Statement insert("INSERT INTO " + table + " (" + columns + ") VALUES (" + places + ")");
+  for (const Params& row : rows) session.Run(insert, row);
+}
+
+void ContinueKeys(Session& session, const std::string& table, const std::string& key) {
+  // SQLite goes on after the greatest key by itself.
+  if (session.Kind() == Engine::kSqlite) return;
+  const Statement next("SELECT setval(pg_get_serial_sequence('" + table + "', '" + key +
+                       "'), (SELECT max(" + key + ") FROM " + table + "))");
+  session.Select(next, {}, [](const Row&) {});
+}
+
+}  // namespace services

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "services/Session.h"
+
+namespace services {
+
+/// Inserts rows into a table, given the names of their columns parted by commas and one value a
+/// column. For filling a database: the statement is made anew at each call.
+void InsertRows(Session& session, const std::string& table, const std::string& columns,
+                const std::vector<Params>& rows);
+
+/// Lets a table that got its keys from outside go on numbering after them.
+void ContinueKeys(Session& session, const std::string& table, const std::string& key);
+
+}  // namespace services

@@ -1,0 +1,82 @@
+#include "services/RegistroDeVenda.h"
+
+#include "base/Numbers.h"
+#include "services/Caixas.h"
+#include "services/DatabaseError.h"
+#include "services/EscritaDeVenda.h"
+#include "services/Outcome.h"
+
+namespace services {
+namespace {
+
+/// The sale could not be written as it stands. Throws the refusal that says why; returns when
+/// whatever was in the way has gone meanwhile.
+void Explain(Session& session, const Venda& venda) {
+  static const Statement customer("SELECT credito FROM clientes WHERE codigo = $1");
+  static const Statement preSale(
+      "SELECT 1 FROM pre_vendas WHERE numero = $1 AND codigo_do_cliente = $2"
+      " AND numero_da_venda IS NULL");
+  try {
+    ExigirCaixa(session, venda.numeroDoCaixa, true);
+  } catch (Refusal& refusal) {
+    // The checkout knows no failure numbers.
+    refusal.status = servicos::kRecusa;
+    refusal.sentence += " A venda não foi registrada.";
+    throw;
+  }
+  base::Currency credit;
+  if (session.Select(customer, {venda.codigoDoCliente},
+                     [&](const Row& row) { credit = row.Money(0); }) == 0) {
+    throw Refusal{.sentence = "O cliente de código " + std::to_string(venda.codigoDoCliente) +
+                              " não está cadastrado. Limpe os campos e selecione o cliente de "
+                              "novo."};
+  }
+  if (credit < venda.creditoUsado) {
+    throw Refusal{.sentence = "O crédito do cliente agora é de " + base::FormatMoney(credit) +
+                              " e não cobre os " + base::FormatMoney(venda.creditoUsado) +
+                              " informados. Nada foi registrado; refaça o pagamento."};
+  }
+  for (const Venda::Item& item : venda.itens) {
+    if (item.numeroDeLancamento == 0) continue;
+    if (session.Select(preSale, {item.numeroDeLancamento, venda.codigoDoCliente},
+                       [](const Row&) {}) > 0) {
+      continue;
+    }
+    throw Refusal{.sentence = "O item de pré-venda '" + item.nome + "' (lançamento " +
+                              std::to_string(item.numeroDeLancamento) +
+                              ") não está mais em aberto: já foi vendido ou retirado. Limpe os "
+                              "campos e selecione o cliente de novo."};
+  }
+}
+
+/// Nothing when the database did not let the sale in; it is then as it was before.
+std::optional<std::int32_t> TryToWrite(Session& session, const Venda& venda) {
+  static const Statement proof("SELECT 1 FROM vendas WHERE numero = $1 AND operacao = $2");
+  struct NotLetIn {};
+  std::int32_t number = 0;
+  try {
+    InTransaction(session, [&](Transaction& transaction) {
+      const auto written = session.Kind() == Engine::kSqlite ? EscreverNoSqlite(session, venda)
+                                                             : EscreverNoPostgres(session, venda);
+      if (!written) throw NotLetIn{};
+      number = *written;
+      transaction.ProvedBy(proof, {number, venda.operacao});
+    });
+    return number;
+  } catch (const NotLetIn&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
+std::int32_t RegistrarVenda(Session& session, const Venda& venda) {
+  constexpr int kAttempts = 3;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    if (const auto number = TryToWrite(session, venda)) return *number;
+    Explain(session, venda);
+  }
+  throw DatabaseError(Trouble::kConflict, "vendas");
+}
+
+}  // namespace services

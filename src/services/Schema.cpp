@@ -1,0 +1,60 @@
+#include "services/Schema.h"
+
+#include "services/Migrations.h"
+
+namespace services {
+namespace {
+
+constexpr int kNothing = 0;
+constexpr int kSomethingElse = -1;
+
+std::int64_t SingleNumber(Session& session, const Statement& statement) {
+  std::int64_t number = 0;
+  session.Select(statement, {}, [&](const Row& row) { number = row.Integer(0); });
+  return number;
+}
+
+/// Keeps two programs from migrating at the same time; on SQLite the transaction does.
+void TakeTurns(Session& session) {
+  static const Statement turn("SELECT 1", "SELECT 1 FROM pg_advisory_xact_lock(7325001)");
+  SingleNumber(session, turn);
+}
+
+}  // namespace
+
+int CurrentSchema() {
+  return Migrations().back().version;
+}
+
+int SchemaIn(Session& session) {
+  static const Statement hasVersion(
+      "SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name = 'esquema_do_caixa'",
+      "SELECT count(*) FROM pg_class WHERE oid = to_regclass('esquema_do_caixa')");
+  static const Statement tables(
+      "SELECT count(*) FROM sqlite_schema",
+      "SELECT count(*) FROM information_schema.tables WHERE table_schema = current_schema()");
+  static const Statement version("SELECT versao FROM esquema_do_caixa");
+  if (SingleNumber(session, hasVersion) == 0) {
+    return SingleNumber(session, tables) == 0 ? kNothing : kSomethingElse;
+  }
+  return static_cast<int>(SingleNumber(session, version));
+}
+
+void Migrate(Session& session) {
+  Transaction transaction(session);
+  TakeTurns(session);
+  const int before = SchemaIn(session);
+  if (before == kNothing) {
+    session.RunScript("CREATE TABLE esquema_do_caixa (versao integer NOT NULL)");
+    session.RunScript("INSERT INTO esquema_do_caixa (versao) VALUES (0)");
+  }
+  if (before == kSomethingElse || before >= CurrentSchema()) return;
+  for (const Migration& migration : Migrations()) {
+    if (migration.version > before) session.RunScript(ScriptOf(migration, session.Kind()));
+  }
+  static const Statement update("UPDATE esquema_do_caixa SET versao = $1");
+  session.Run(update, {CurrentSchema()});
+  transaction.Commit();
+}
+
+}  // namespace services

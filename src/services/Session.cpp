@@ -1,0 +1,91 @@
+#include "services/Session.h"
+
+#include <atomic>
+#include <chrono>
+#include <random>
+#include <thread>
+
+#include "services/DatabaseError.h"
+
+namespace services {
+namespace {
+
+/// Waits a moment that grows with the tries and differs between computers.
+void PauseBeforeRetry(int attempt) {
+  static std::minstd_rand chance{std::random_device{}()};
+  std::uniform_int_distribution<int> milliseconds(1, 10 * attempt);
+  std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds(chance)));
+}
+
+}  // namespace
+
+Statement::Statement(std::string sqlite, std::string postgres, Planning planning)
+    : sqlite_(std::move(sqlite)), postgres_(std::move(postgres)), planning_(planning) {
+  static std::atomic<std::size_t> next{0};
+  id_ = next++;
+}
+
+template <class Step>
+auto Session::Observed(std::string_view name, Step step) {
+  if (!observer_) return step();
+  observer_("before " + std::string(name));
+  auto result = step();
+  observer_("after " + std::string(name));
+  return result;
+}
+
+std::int64_t Session::Run(const Statement& statement, const Params& params) {
+  return Observed("run", [&] { return DoRun(statement, params); });
+}
+
+std::int64_t Session::Select(const Statement& statement, const Params& params,
+                             const EachRow& each) {
+  return Observed("select", [&] { return DoSelect(statement, params, each); });
+}
+
+void Session::RunScript(const std::string& script) {
+  Observed("script", [&] {
+    DoRunScript(script);
+    return 0;
+  });
+}
+
+void Session::Begin() {
+  Observed("begin", [&] {
+    DoBegin();
+    return 0;
+  });
+}
+
+void Session::Commit(const Proof& proof) {
+  Observed("commit", [&] {
+    try {
+      DoCommit(proof);
+    } catch (...) {
+      DoRollback();
+      throw;
+    }
+    return 0;
+  });
+}
+
+void Session::Rollback() noexcept {
+  DoRollback();
+}
+
+void InTransaction(Session& session, const std::function<void(Transaction&)>& body) {
+  constexpr int kAttempts = 8;
+  for (int attempt = 1;; ++attempt) {
+    try {
+      Transaction transaction(session);
+      body(transaction);
+      transaction.Commit();
+      return;
+    } catch (const DatabaseError& error) {
+      if (error.What() != Trouble::kConflict || attempt == kAttempts) throw;
+    }
+    PauseBeforeRetry(attempt);
+  }
+}
+
+}  // namespace services

@@ -1,0 +1,122 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "base/Currency.h"
+#include "base/DateTime.h"
+#include "services/Param.h"
+#include "services/Statement.h"
+
+namespace services {
+
+/// One row of a result, read by column number from 0 and by type. A null reads as 0 or an empty
+/// text.
+class Row {
+ public:
+  virtual bool IsNull(int column) const = 0;
+  virtual std::int64_t Integer(int column) const = 0;
+  virtual std::string Text(int column) const = 0;
+
+  std::int32_t Number(int column) const { return static_cast<std::int32_t>(Integer(column)); }
+  bool Flag(int column) const { return Integer(column) != 0; }
+  base::Currency Money(int column) const {
+    return base::Currency::FromTenThousandths(Integer(column));
+  }
+  /// Not for nulls.
+  base::DateTime Moment(int column) const { return MomentOf(Text(column)); }
+
+ protected:
+  ~Row() = default;
+};
+
+/// How a transaction whose commit was cut off is looked for afterwards: it stands when this
+/// selection gives a row.
+struct Proof {
+  const Statement* statement = nullptr;
+  Params params;
+};
+
+/// One connection to a database of either engine. Everything throws DatabaseError. For one thread.
+class Session {
+ public:
+  using EachRow = std::function<void(const Row&)>;
+  /// Told of every step before and after it is taken; tests stop the process or the server there.
+  using Observer = std::function<void(std::string_view step)>;
+
+  virtual ~Session() = default;
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  virtual Engine Kind() const = 0;
+
+  /// Runs a statement; the count of rows that it wrote.
+  std::int64_t Run(const Statement& statement, const Params& params = {});
+  /// Calls `each` for every row of the result; their count. The rows may not be kept.
+  std::int64_t Select(const Statement& statement, const Params& params, const EachRow& each);
+  /// Runs the parts of a script, which binds nothing: definitions of tables.
+  void RunScript(const std::string& script);
+
+  void Begin();
+  /// Keeps the work of the transaction for good, or throws. A connection that breaks just here is
+  /// made again to look for the proof, if there is one: the answer is never a guess.
+  void Commit(const Proof& proof = {});
+  /// Never throws: what cannot be rolled back is gone with its connection.
+  void Rollback() noexcept;
+
+  void Observe(Observer observer) { observer_ = std::move(observer); }
+  /// How often the engine was asked so far: over a network, the round trips.
+  std::int64_t Calls() const { return calls_; }
+
+ protected:
+  Session() = default;
+
+  virtual std::int64_t DoRun(const Statement& statement, const Params& params) = 0;
+  virtual std::int64_t DoSelect(const Statement& statement, const Params& params,
+                                const EachRow& each) = 0;
+  virtual void DoRunScript(const std::string& script) = 0;
+  virtual void DoBegin() = 0;
+  virtual void DoCommit(const Proof& proof) = 0;
+  virtual void DoRollback() noexcept = 0;
+
+  void Count() { ++calls_; }
+
+ private:
+  template <class Step>
+  auto Observed(std::string_view name, Step step);
+
+  Observer observer_;
+  std::int64_t calls_ = 0;
+};
+
+/// A transaction: rolled back when it is left without Commit.
+class Transaction {
+ public:
+  explicit Transaction(Session& session) : session_(session) { session_.Begin(); }
+  ~Transaction() {
+    if (open_) session_.Rollback();
+  }
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+
+  void ProvedBy(const Statement& statement, Params params) {
+    proof_ = {&statement, std::move(params)};
+  }
+  void Commit() {
+    open_ = false;
+    session_.Commit(proof_);
+  }
+
+ private:
+  Session& session_;
+  Proof proof_;
+  bool open_ = true;
+};
+
+/// Runs `body` as one transaction, and again, a few times at most, when it came into the way of
+/// another one.
+void InTransaction(Session& session, const std::function<void(Transaction&)>& body);
+
+}  // namespace services

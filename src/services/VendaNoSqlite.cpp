@@ -1,0 +1,96 @@
+#include <deque>
+
+#include "services/DatabaseError.h"
+#include "services/EscritaDeVenda.h"
+#include "services/TabelasDaVenda.h"
+
+namespace services {
+namespace {
+
+/// INSERT of a row whose first columns are `guarded`, and then those of the table.
+std::string InsertText(std::string_view table, const std::string& guarded, int countOfGuarded,
+                       std::span<const Coluna> columns) {
+  std::string places;
+  const int count = countOfGuarded + static_cast<int>(columns.size());
+  for (int place = 1; place <= count; ++place) {
+    if (place > 1) places += ", ";
+    places.append("$").append(std::to_string(place));
+  }
+  return "INSERT INTO " + std::string(table) + " (" + guarded + ", " + Nomes(columns) +
+         ") VALUES (" + places + ")";
+}
+
+Params Joined(const Params& first, const Params& rest) {
+  Params all;
+  all.reserve(first.size() + rest.size());
+  all.insert(all.end(), first.begin(), first.end());
+  all.insert(all.end(), rest.begin(), rest.end());
+  return all;
+}
+
+bool TakeMoney(Session& session, const Venda& venda) {
+  static const Statement money(
+      "UPDATE caixas SET dinheiro = dinheiro + $2 WHERE numero = $1 AND ativo = 1 AND aberto = 1");
+  static const Statement credit(
+      "UPDATE clientes SET credito = credito - $2 + $3 WHERE codigo = $1 AND credito >= $2");
+  if (session.Run(money, {venda.numeroDoCaixa, venda.VariacaoDoDinheiro()}) == 0) return false;
+  if (venda.creditoUsado.IsZero() && venda.creditoMantido.IsZero()) return true;
+  return session.Run(credit, {venda.codigoDoCliente, venda.creditoUsado, venda.creditoMantido}) > 0;
+}
+
+std::int32_t InsertSale(Session& session, const Venda& venda) {
+  static const Statement insert(InsertText("vendas",
+                                           "numero_do_caixa, codigo_do_cliente, itens_de_pre_venda",
+                                           3, ColunasDaVenda()) +
+                                " RETURNING numero");
+  const Params guarded{venda.numeroDoCaixa, venda.codigoDoCliente, venda.PreVendas().size()};
+  std::int32_t number = 0;
+  session.Select(insert, Joined(guarded, LinhaDaVenda(venda)),
+                 [&](const Row& row) { number = row.Number(0); });
+  return number;
+}
+
+/// One statement for each table, made at the first sale.
+const Statement& InsertInto(std::size_t table) {
+  static const auto statements = [] {
+    std::deque<Statement> all;
+    for (const TabelaDaVenda& each : TabelasDaVenda()) {
+      all.emplace_back(InsertText(each.nome, "numero_da_venda", 1, each.colunas));
+    }
+    return all;
+  }();
+  return statements[table];
+}
+
+bool SettlePreSales(Session& session, const Venda& venda, std::int32_t number) {
+  static const Statement settle(
+      "UPDATE pre_vendas SET numero_da_venda = $2 WHERE numero = $1 AND codigo_do_cliente = $3"
+      " AND numero_da_venda IS NULL");
+  for (const std::int32_t preSale : venda.PreVendas()) {
+    if (session.Run(settle, {preSale, number, venda.codigoDoCliente}) == 0) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+std::optional<std::int32_t> EscreverNoSqlite(Session& session, const Venda& venda) {
+  try {
+    if (!TakeMoney(session, venda)) return std::nullopt;
+    const std::int32_t number = InsertSale(session, venda);
+    const Params ofThisSale(1, Param(number));
+    for (std::size_t table = 0; table < TabelasDaVenda().size(); ++table) {
+      for (const Params& row : TabelasDaVenda()[table].linhas(venda)) {
+        session.Run(InsertInto(table), Joined(ofThisSale, row));
+      }
+    }
+    if (!SettlePreSales(session, venda, number)) return std::nullopt;
+    return number;
+  } catch (const DatabaseError& error) {
+    // Nobody is registered under the customer's code.
+    if (error.What() != Trouble::kConstraint) throw;
+    return std::nullopt;
+  }
+}
+
+}  // namespace services

@@ -1,0 +1,88 @@
+#include "services/VendasRegistradas.h"
+
+#include <iterator>
+
+#include "services/Banco.h"
+#include "services/Lancamento.h"
+#include "services/Session.h"
+
+namespace services {
+namespace {
+
+constexpr const char* kMoedas[] = {"Dinheiro",           "Cheque", "Cartão de crédito",
+                                   "Cartão de débito",   "Boleto", "A crédito (Fiado)",
+                                   "Crédito do cliente", "PIX"};
+
+void AddItems(Session& session, VendaRegistrada& sale) {
+  static const Statement select(
+      "SELECT nome_do_item, nome_do_animal, quantidade, valor_unitario, desconto_em_valor,"
+      " valor_total, numero_de_lancamento FROM itens_de_venda WHERE numero_da_venda = $1"
+      " ORDER BY item");
+  session.Select(select, {sale.numero}, [&](const Row& row) {
+    sale.itens.push_back({.nome = row.Text(0),
+                          .animal = row.Text(1),
+                          .quantidade = row.Money(2),
+                          .valorUnitario = row.Money(3),
+                          .desconto = row.Money(4),
+                          .valorTotal = row.Money(5),
+                          .preVenda = row.Integer(6) != 0});
+  });
+}
+
+void AddTenders(Session& session, VendaRegistrada& sale) {
+  static const Statement tenders(
+      "SELECT moeda, valor FROM lancamentos_de_caixa WHERE numero_da_venda = $1 AND tipo = $2"
+      " ORDER BY numero");
+  static const Statement dueDates(
+      "SELECT data_de_vencimento FROM contas_a_receber WHERE numero_da_venda = $1 ORDER BY numero");
+  const auto tender = static_cast<std::int32_t>(TipoDeLancamento::kRecebimento);
+  session.Select(tenders, {sale.numero, tender}, [&](const Row& row) {
+    sale.recebimentos.push_back({.moeda = row.Number(0), .valor = row.Money(1), .vencimento = ""});
+  });
+  std::vector<std::string> due;
+  session.Select(dueDates, {sale.numero}, [&](const Row& row) {
+    due.push_back(base::Format(row.Moment(0), base::DateMask::kDayMonthYear));
+  });
+  auto next = due.begin();
+  for (VendaRegistrada::Recebimento& each : sale.recebimentos) {
+    constexpr std::int32_t kOnCredit = 6;
+    if (each.moeda == kOnCredit && next != due.end()) each.vencimento = *next++;
+  }
+}
+
+}  // namespace
+
+std::vector<VendaRegistrada> UltimasVendas(Banco& banco, std::int32_t quantas) {
+  static const Statement latest(
+      "SELECT numero, data_e_hora, numero_do_caixa, operador, codigo_do_cliente,"
+      " apelido_do_cliente, valor_bruto, valor_liquido, troco, credito_mantido, chave_sat"
+      " FROM vendas ORDER BY numero DESC LIMIT $1");
+  std::vector<VendaRegistrada> sales;
+  banco.Sessao().Select(latest, {quantas}, [&](const Row& row) {
+    sales.push_back({.numero = row.Number(0),
+                     .quando = row.Moment(1),
+                     .caixa = row.Number(2),
+                     .operador = row.Text(3),
+                     .codigoDoCliente = row.Number(4),
+                     .nomeDoCliente = row.Text(5),
+                     .bruto = row.Money(6),
+                     .liquido = row.Money(7),
+                     .troco = row.Money(8),
+                     .creditoParaOCliente = row.Money(9),
+                     .chaveSat = row.Text(10),
+                     .itens = {},
+                     .recebimentos = {}});
+  });
+  for (VendaRegistrada& sale : sales) {
+    AddItems(banco.Sessao(), sale);
+    AddTenders(banco.Sessao(), sale);
+  }
+  return sales;
+}
+
+std::string NomeDaMoeda(std::int32_t codigo) {
+  const auto count = static_cast<std::int32_t>(std::size(kMoedas));
+  return codigo >= 1 && codigo <= count ? kMoedas[codigo - 1] : "";
+}
+
+}  // namespace services

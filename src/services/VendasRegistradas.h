@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/Currency.h"
+#include "base/DateTime.h"
+
+namespace services {
+
+class Banco;
+
+/// A sale as it stands in the database, for whoever checks it from outside the cash desk.
+struct VendaRegistrada {
+  struct Item {
+    std::string nome;
+    std::string animal;
+    base::Currency quantidade, valorUnitario, desconto, valorTotal;
+    bool preVenda = false;
+  };
+  struct Recebimento {
+    std::int32_t moeda = 0;  ///< 1 cash to 8 PIX.
+    base::Currency valor;
+    std::string vencimento;  ///< dd/mm/yyyy for a sale on credit, else empty.
+  };
+
+  std::int32_t numero = 0;
+  base::DateTime quando;
+  std::int32_t caixa = 0;
+  std::string operador;
+  std::int32_t codigoDoCliente = 0;
+  std::string nomeDoCliente;
+  base::Currency bruto, liquido, troco, creditoParaOCliente;
+  std::string chaveSat;
+  std::vector<Item> itens;
+  std::vector<Recebimento> recebimentos;
+};
+
+/// The last sales, the latest first. Throws DatabaseError.
+std::vector<VendaRegistrada> UltimasVendas(Banco& banco, std::int32_t quantas);
+
+/// Goes through the books of all sales, registers and customers' credits, and gives a Portuguese
+/// sentence for everything that does not balance; empty when all does. Throws DatabaseError.
+std::vector<std::string> Conferir(Banco& banco);
+
+/// The name of a tender by its code, as in "Cartão de crédito"; empty for no such code.
+std::string NomeDaMoeda(std::int32_t codigo);
+
+}  // namespace services

@@ -1,0 +1,156 @@
+#include <cmath>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
+#include "services/Fabricas.h"
+#include "services/LeituraDeVenda.h"
+#include "services/Movimento.h"
+#include "services/RegistroDeVenda.h"
+#include "services/Search.h"
+#include "services/Senhas.h"
+#include "services/SobreBanco.h"
+
+namespace services {
+namespace {
+
+using Contrato = servicos::ZOVA_N_Caixa::clsCaixa;
+
+constexpr const char* kValorDoMovimento = "o valor";
+
+/// Read when the operation runs, so that what is no number is refused there.
+std::string TextoDe(double numero) {
+  return std::isfinite(numero) ? base::ToText(numero) : "?";
+}
+
+class clsCaixa : public SobreBanco<Contrato> {
+ public:
+  using SobreBanco::SobreBanco;
+
+  void NumeroDoCaixa(std::int32_t numero) override {
+    movimento_.numeroDoCaixa = numero;
+    venda_.numeroDoCaixa = numero;
+  }
+  void LocalDeAtendimentoDoCaixa(std::string_view) override {}  // The register's row has it.
+  void Operador(std::string_view operador) override {
+    movimento_.operador = operador;
+    venda_.operador = operador;
+  }
+  void Situacao(std::string_view situacao) override { movimento_.situacao = situacao; }
+  void Observacao(std::string_view observacao) override {
+    movimento_.observacao = observacao;
+    venda_.observacao = observacao;
+  }
+  void GradeDeItensDaVenda(const base::GradeLida* grade) override { itens_ = grade; }
+
+  void Descricao(std::string_view descricao) override { movimento_.descricao = descricao; }
+  void MOEDA(std::int16_t moeda) override { movimento_.moeda = moeda; }
+  void ValorDoLancamento(std::string_view valor) override { valor_ = valor; }
+  void ValorDoLancamento(double valor) override { valor_ = TextoDe(valor); }
+
+  void ApelidoOuNomeFantasiaDoCliente(std::string_view apelido) override {
+    venda_.apelidoDoCliente = apelido;
+  }
+  void NomeOuRazaoSocialDoCliente(std::string_view nome) override { venda_.nomeDoCliente = nome; }
+  void CodigoDoCliente(std::string_view codigo) override { cliente_ = codigo; }
+  void CodigoDoCliente(double codigo) override { cliente_ = TextoDe(codigo); }
+  void NumeroDaFichaClinica(std::int32_t numero) override { venda_.numeroDaFichaClinica = numero; }
+  void ValorBruto(base::Currency valor) override { venda_.valorBruto = valor; }
+  void ValorTotalDeDescontos(base::Currency valor) override { venda_.totalDeDescontos = valor; }
+  void ValorLiquido(base::Currency valor) override { venda_.valorLiquido = valor; }
+  void Custo(base::Currency valor) override { venda_.custo = valor; }
+  void Comissao(base::Currency valor) override { venda_.comissao = valor; }
+  void LucroEmValor(base::Currency valor) override { venda_.lucroEmValor = valor; }
+  void LucroEmPercentual(base::Currency valor) override { venda_.lucroEmPercentual = valor; }
+  // What the screen took the credit to be is kept with the sale; the database's own counts.
+  void CreditoAnteriorDoCliente(base::Currency valor) override { venda_.creditoAnterior = valor; }
+  using Contrato::CreditoAnteriorDoCliente;
+  void CreditoParaOCliente(base::Currency valor) override { venda_.creditoMantido = valor; }
+  void Troco(base::Currency valor) override { troco_ = valor; }
+  void GradeDePagamentosEfetuados(const base::GradeLida* grade) override { pagamentos_ = grade; }
+  void ChaveSAT(std::string_view chave) override { venda_.chaveSat = chave; }
+
+  std::int16_t RegistrarAbertura() override {
+    return Numerado("RegistrarAbertura", [this] {
+      Mover(TipoDeLancamento::kAbertura, "Abertura", Entrando(Sinal::kPodeSerZero));
+    });
+  }
+  std::int16_t RegistrarFechamento() override {
+    return Numerado("RegistrarFechamento", [this] {
+      const base::Currency valor = LerValor(valor_, kValorDoMovimento);
+      if (valor > base::Currency()) {
+        throw Refusal{.sentence =
+                          "O valor retirado no fechamento deve ser negativo ou zero. "
+                          "Informe o valor de novo."};
+      }
+      Mover(TipoDeLancamento::kFechamento, "Fechamento", valor);
+    });
+  }
+  std::int16_t RegistrarEntrada() override {
+    return Numerado("RegistrarEntrada", [this] {
+      Mover(TipoDeLancamento::kEntrada, "Entrada", Entrando(Sinal::kPositivo));
+    });
+  }
+  std::int16_t RegistrarSaida() override {
+    return Numerado("RegistrarSaida", [this] {
+      Mover(TipoDeLancamento::kSaida, "Saída", -Entrando(Sinal::kPositivo));
+    });
+  }
+
+  std::int16_t RegistrarPagamento() override {
+    return Numerado("RegistrarPagamento", [this] {
+      numeroDaVenda_ = 0;
+      Venda venda = venda_;
+      venda.codigoDoCliente = LerCodigoDoCliente(cliente_);
+      venda.itens = LerItens(itens_);
+      venda.recebimentos = LerRecebimentos(pagamentos_);
+      FecharContas(venda, troco_);
+      venda.quando = banco().Agora();
+      venda.operacao = NumeroUnico();
+      numeroDaVenda_ = RegistrarVenda(sessao(), venda);
+    });
+  }
+  std::int32_t NumeroDaVenda() override { return numeroDaVenda_; }
+
+ private:
+  enum class Sinal { kPodeSerZero, kPositivo };
+
+  base::Currency Entrando(Sinal sinal) const {
+    const base::Currency valor = LerValor(valor_, kValorDoMovimento);
+    if (valor < base::Currency() || (sinal == Sinal::kPositivo && valor.IsZero())) {
+      throw Refusal{.sentence =
+                        "O valor informado deve ser maior que 0,00 (zero). Informe o "
+                        "valor de novo."};
+    }
+    return valor;
+  }
+
+  void Mover(TipoDeLancamento tipo, const char* descricao, base::Currency valor) {
+    Movimento movimento = movimento_;
+    movimento.tipo = tipo;
+    movimento.valor = valor;
+    if (movimento.descricao.empty()) movimento.descricao = descricao;
+    if (movimento.moeda < kDinheiro || movimento.moeda > kUltimaMoeda) {
+      throw Refusal{.sentence = "A forma de pagamento " + std::to_string(movimento.moeda) +
+                                " não é conhecida. Refaça o lançamento."};
+    }
+    RegistrarMovimento(banco(), movimento);
+  }
+
+  Movimento movimento_;
+  Venda venda_;
+  std::string valor_ = "0";
+  std::string cliente_;
+  base::Currency troco_;
+  const base::GradeLida* itens_ = nullptr;
+  const base::GradeLida* pagamentos_ = nullptr;
+  std::int32_t numeroDaVenda_ = 0;
+};
+
+}  // namespace
+
+ServicoNovo NovoClsCaixa(const std::shared_ptr<Banco>& banco) {
+  return std::make_unique<clsCaixa>(banco);
+}
+
+}  // namespace services

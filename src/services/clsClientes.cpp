@@ -1,0 +1,125 @@
+#include "base/Text.h"
+#include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
+#include "services/Fabricas.h"
+#include "services/NameSearch.h"
+#include "services/Search.h"
+#include "services/SobreBanco.h"
+
+namespace services {
+namespace {
+
+using Contrato = servicos::ZOVA_N_ClientAnim::clsClientes;
+using enum Field::Kind;
+
+constexpr Field kFields[] = {
+    {"CodigoDoCliente", kNumber, "codigo"},
+    {"ApelidoOuNomeFantasia", kText, "apelido"},
+    {"NomeOuRazaoSocial", kText, "nome"},
+    {"Situacao", kNumber, "situacao"},
+    {"EnderecoCompleto", kText, "endereco_completo"},
+    {"TiposECanaisDeComunicacao", kText, "canais_de_comunicacao"},
+    {"Credito", kMoney, "credito"},
+    {"DescontoUnico", kYesNo, "desconto_unico"},
+    {"PercentualUnicoDeDescontos", kMoney, "desconto_unico_perc"},
+    {"PercentualDeDescontoEmClinicos", kMoney, "desconto_clinicos"},
+    {"PercentualDeDescontoEmCirurgiaSimples", kMoney, "desconto_cirurgia_simples"},
+    {"PercentualDeDescontoEmCirurgiaMedia", kMoney, "desconto_cirurgia_media"},
+    {"PercentualDeDescontoEmCirurgiaComplexa", kMoney, "desconto_cirurgia_complexa"},
+    {"PercentualDeDescontoEmBanhosTosasEEsteticas", kMoney, "desconto_banhos"},
+    {"PercentualDeDescontoEmHospedagens", kMoney, "desconto_hospedagens"},
+    {"PercentualDeDescontoEmAdestramentos", kMoney, "desconto_adestramentos"},
+    {"PercentualDeDescontoEmOutros", kMoney, "desconto_outros"},
+    {"VIP", kYesNo, "vip"},
+    {"CategoriaDaCurvaABC", kText, "categoria_da_curva_abc"},
+    {"CPFCNPJ", kText, "cpf_cnpj"},
+    {"CodigoIBGEDoMunicipio", kText, "codigo_ibge_do_municipio"},
+};
+
+constexpr NameSearch::Table kTable{"clientes", "codigo"};
+constexpr std::string_view kLimit = " LIMIT 201";  // One more than is shown, to know of it.
+
+std::string SelectCustomers(std::string_view where) {
+  return "SELECT " + ColumnsOf(kFields) + " FROM clientes WHERE " + std::string(where);
+}
+
+class clsClientes : public SobreBanco<Contrato> {
+ public:
+  using SobreBanco::SobreBanco;
+
+  std::int16_t Selecionar(std::int32_t, std::int16_t, std::int32_t,
+                          std::string_view textoDeQualquerCampo, std::string& nome, double& codigo,
+                          std::string_view, std::string_view, std::string_view, double,
+                          std::string_view) override {
+    return Numerado("Selecionar", [&] {
+      const std::string texto = base::Trim(textoDeQualquerCampo);
+      if (!texto.empty()) {
+        PorCodigoOuNome(texto);
+      } else if (!base::IsBlank(nome)) {
+        PorNome(nome);
+      } else {
+        PorCodigo(CodeIn(codigo).value_or(0));
+      }
+    });
+  }
+
+  std::int16_t RetornarInformacoesDoLimiteDeCredito(double& codigo, base::Currency& limite,
+                                                    base::Currency& utilizado,
+                                                    base::Currency& disponivel) override {
+    return Numerado("RetornarInformacoesDoLimiteDeCredito", [&] {
+      static const Statement select(
+          "SELECT limite_de_credito, (SELECT CAST(coalesce(sum(valor_do_documento), 0) AS bigint)"
+          " FROM contas_a_receber r WHERE r.codigo_do_cliente = c.codigo"
+          " AND r.data_de_recebimento IS NULL) FROM clientes c WHERE c.codigo = $1");
+      const auto found = sessao().Select(select, {CodeIn(codigo).value_or(0)}, [&](const Row& row) {
+        limite = row.Money(0);
+        utilizado = row.Money(1);
+        disponivel = limite - utilizado;
+      });
+      // Without a limit of his own a customer may buy on credit at will, so this may not pass as
+      // one.
+      if (found == 0) {
+        throw base::RuntimeError(
+            5, "Não há cliente cadastrado com o código " + base::ToText(codigo) + ".");
+      }
+    });
+  }
+
+ private:
+  void PorCodigo(std::int32_t codigo) {
+    static const Statement select(SelectCustomers("codigo = $1"));
+    Mostrar(select, {codigo});
+  }
+
+  void PorNome(std::string_view nome) {
+    static const NameSearch search(
+        SelectCustomers("codigo IN ({named}) ORDER BY nome_busca, codigo"), kTable, 0, kLimit);
+    const auto part = NameSearch::PartIn(nome);
+    part ? PorParte(search, *part, {}) : PorCodigo(0);
+  }
+
+  void PorCodigoOuNome(const std::string& texto) {
+    static const NameSearch search(
+        SelectCustomers("codigo IN (SELECT CAST($1 AS integer) UNION ALL"
+                        " SELECT * FROM ({named}) n) ORDER BY nome_busca, codigo"),
+        kTable, 1, kLimit);
+    const std::int32_t codigo = CodeIn(texto).value_or(0);
+    const auto part = NameSearch::PartIn(texto);
+    part ? PorParte(search, *part, {codigo}) : PorCodigo(codigo);
+  }
+
+  void PorParte(const NameSearch& search, const std::string& part, const Params& others) {
+    SelectNamed(sessao(), outcome_, kFields, search, part, others, "clientes");
+  }
+
+  void Mostrar(const Statement& statement, const Params& params) {
+    SelectCapped(sessao(), outcome_, kFields, statement, params, "clientes");
+  }
+};
+
+}  // namespace
+
+ServicoNovo NovoClsClientes(const std::shared_ptr<Banco>& banco) {
+  return std::make_unique<clsClientes>(banco);
+}
+
+}  // namespace services

@@ -1,0 +1,79 @@
+#include "base/Text.h"
+#include "frame/servicos/ZOVA_N_Servicos.clsServicos.h"
+#include "services/Fabricas.h"
+#include "services/NameSearch.h"
+#include "services/Search.h"
+#include "services/SobreBanco.h"
+
+namespace services {
+namespace {
+
+using Contrato = servicos::ZOVA_N_Servicos::clsServicos;
+using enum Field::Kind;
+
+constexpr Field kFields[] = {
+    {"Codigo", kNumber, "codigo"},     {"Nome", kText, "nome"},
+    {"Descricao", kText, "descricao"}, {"ValorDeVenda", kMoney, "valor_de_venda"},
+    {"Custo", kMoney, "custo"},        {"NumeroDoTipoDeServico", kNumber, "tipo"},
+};
+
+constexpr NameSearch::Table kTable{"servicos", "codigo"};
+
+/// The type is bound to $1; 0 stands for all of them.
+std::string SelectServices(std::string_view where) {
+  return "SELECT " + ColumnsOf(kFields) + " FROM servicos WHERE " + std::string(where) +
+         " AND (CAST($1 AS integer) = 0 OR tipo = $1) ORDER BY nome_busca, codigo LIMIT 201";
+}
+
+class clsServicos : public SobreBanco<Contrato> {
+ public:
+  using SobreBanco::SobreBanco;
+
+  bool Selecionar(std::int32_t, std::int16_t, std::int32_t, std::string_view, std::int16_t& tipo,
+                  std::string& nome, double& codigo) override {
+    return ComFalha("Selecionar", [&] {
+      codigo != 0 ? PorCodigo(CodeIn(codigo).value_or(0), tipo) : PorNome(nome, tipo);
+    });
+  }
+
+  bool Selecionar(std::int32_t, std::int16_t, std::int32_t, std::string_view codigoOuNome,
+                  std::int32_t tipo) override {
+    return ComFalha("Selecionar", [&] { PorCodigoOuNome(base::Trim(codigoOuNome), tipo); });
+  }
+
+ private:
+  void PorCodigo(std::int32_t codigo, std::int32_t tipo) {
+    static const Statement select(SelectServices("codigo = $2"));
+    Mostrar(select, {tipo, codigo});
+  }
+
+  void PorNome(const std::string& nome, std::int32_t tipo) {
+    static const NameSearch search(SelectServices("codigo IN ({named})"), kTable, 1);
+    const auto part = NameSearch::PartIn(nome);
+    part ? PorParte(search, *part, {tipo}) : PorCodigo(0, tipo);
+  }
+
+  void PorCodigoOuNome(const std::string& texto, std::int32_t tipo) {
+    static const NameSearch search(SelectServices("(codigo = $2 OR codigo IN ({named}))"), kTable,
+                                   2);
+    const std::int32_t codigo = CodeIn(texto).value_or(0);
+    const auto part = NameSearch::PartIn(texto);
+    part ? PorParte(search, *part, {tipo, codigo}) : PorCodigo(codigo, tipo);
+  }
+
+  void PorParte(const NameSearch& search, const std::string& part, const Params& others) {
+    SelectNamed(sessao(), outcome_, kFields, search, part, others, "serviços");
+  }
+
+  void Mostrar(const Statement& statement, const Params& params) {
+    SelectCapped(sessao(), outcome_, kFields, statement, params, "serviços");
+  }
+};
+
+}  // namespace
+
+ServicoNovo NovoClsServicos(const std::shared_ptr<Banco>& banco) {
+  return std::make_unique<clsServicos>(banco);
+}
+
+}  // namespace services

@@ -1,0 +1,103 @@
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <cstdio>
+
+#include "services/Database.h"
+
+#ifdef CAIXA_BANCO
+namespace services {
+namespace {
+
+using testing::HasSubstr;
+
+/// What a command line prints on both outputs, with its exit status in front.
+std::string AnswerTo(const std::string& arguments) {
+  const std::string command = std::string(CAIXA_BANCO) + " " + arguments + " 2>&1";
+  FILE* const pipe = popen(command.c_str(), "r");
+  std::string text;
+  std::array<char, 4096> part{};
+  while (fgets(part.data(), part.size(), pipe) != nullptr) text += part.data();
+  return std::to_string(WEXITSTATUS(pclose(pipe))) + " " + text;
+}
+
+/// The command that creates, lists, frees and checks.
+class CommandTest : public OverDatabase {
+ protected:
+  std::string OnDatabase(const std::string& arguments) {
+    return AnswerTo("'" + address_ + "' " + arguments);
+  }
+};
+OVER_BOTH_ENGINES(CommandTest);
+
+TEST_P(CommandTest, ListsASaleWithItsItemsTendersAndChange) {
+  const NewSale sale({.lines = Grid({ServiceLine("100,00")}),
+                      .tenders = Grid({Tender("1-Dinheiro", "50,00"),
+                                       Tender("6-A crédito (Fiado)", "80,00", "01/12/2026")}),
+                      .change = -30_brl});
+  ASSERT_EQ(0, sale->RegistrarPagamento()) << sale->DescricaoDaFalha();
+  EXPECT_EQ(
+      "0 Venda 1  22/11/2026 14:30:00  caixa 1  operador renata\n"
+      "  Cliente: 5 - Dudu\n"
+      "  Itens:\n"
+      "    1,00 x Banho d'água (Rex)                           100,00\n"
+      "    Valor bruto                                         100,00\n"
+      "    Valor líquido                                       100,00\n"
+      "  Pagamentos:\n"
+      "    Dinheiro                                             50,00\n"
+      "    A crédito (Fiado), vence em 01/12/2026               80,00\n"
+      "    Troco                                                30,00\n\n",
+      OnDatabase("vendas 1"));
+  EXPECT_EQ("0 As contas de todas as vendas fecham.\n", OnDatabase("conferir"));
+  Write("UPDATE caixas SET dinheiro = 1 WHERE numero = 1");
+  EXPECT_EQ(
+      "1 Caixa 1: o dinheiro na gaveta é 0,00, e os lançamentos somam 20,00.\n"
+      "As contas não fecham. Avise o suporte.\n",
+      OnDatabase("conferir"));
+}
+
+TEST_P(CommandTest, ListsAndFreesLocks) {
+  EXPECT_EQ("0 Nenhum cliente em atendimento.\n", OnDatabase("travas"));
+  Write("INSERT INTO travas_de_clientes VALUES (5, 'LOJA', 'LOJA', 'caio', '2026-11-22 08:00:00')");
+  EXPECT_EQ("0 5 - Dudu, com caio no computador LOJA desde 22/11/2026 08:00:00\n",
+            OnDatabase("travas"));
+  EXPECT_EQ("0 O cliente 5 foi liberado.\n", OnDatabase("liberar 5"));
+  EXPECT_EQ("1 O cliente 5 não está em atendimento.\n", OnDatabase("liberar 5"));
+}
+
+TEST_P(CommandTest, RefusesTheDemonstrationWhereThereAreData) {
+  EXPECT_EQ(
+      "1 O banco de dados já tem dados e não foi alterado. Crie a demonstração em um banco "
+      "de dados novo.\n",
+      OnDatabase("demonstracao"));
+}
+
+TEST_P(CommandTest, CreatesTheDemonstrationAroundAGivenDay) {
+  address_ = NewDatabase(GetParam());
+  EXPECT_THAT(OnDatabase("demonstracao --agora 2027-03-01T09:00:00"),
+              HasSubstr("usuário marina    senha "));
+  banco_ = AbrirBanco(address_, clock_, "RECEPCAO");
+  EXPECT_EQ("2027-02-28", Read("SELECT max(data_de_vencimento) FROM contas_a_receber"
+                               " WHERE data_de_vencimento < '2027-03-01'"));
+}
+
+TEST(CommandLineTest, WhatIsNotUnderstoodExitsWithTwo) {
+  for (const char* arguments :
+       {"", "sqlite:x.db", "sqlite:x.db apagar", "sqlite:x.db criar já", "sqlite:x.db liberar",
+        "sqlite:x.db liberar zero", "sqlite:x.db vendas -1", "--nada", "sqlite:x.db vendas 1 2",
+        "sqlite:x.db demonstracao --agora", "sqlite:x.db demonstracao --agora ontem"}) {
+    const std::string answer = AnswerTo(arguments);
+    EXPECT_EQ("2 ", answer.substr(0, 2)) << arguments;
+    EXPECT_THAT(answer, HasSubstr("Uso: caixa-banco BANCO COMANDO")) << arguments;
+  }
+  EXPECT_THAT(AnswerTo("--help"), testing::StartsWith("0 Uso: caixa-banco"));
+  EXPECT_EQ(
+      "1 O banco de dados 'x.db' não existe. Confira o caminho ou crie-o com: caixa-banco "
+      "sqlite:x.db criar\n",
+      AnswerTo("sqlite:x.db vendas"));
+}
+
+}  // namespace
+}  // namespace services
+#endif

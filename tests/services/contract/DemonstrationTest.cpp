@@ -1,0 +1,87 @@
+#include "frame/servicos/ZOVA_N_Caixa.clsDebitosVencCliente.h"
+#include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
+#include "frame/servicos/ZOVA_N_Login.clsLogin.h"
+#include "services/Database.h"
+#include "services/Demonstracao.h"
+
+namespace services {
+namespace {
+
+/// The invented clinic.
+class DemonstrationTest : public OverDatabase {
+ protected:
+  void SetUp() override {
+    OverDatabase::SetUp();
+    address_ = NewDatabase(GetParam());
+    CriarBanco(address_);
+    banco_ = AbrirBanco(address_, clock_, "RECEPCAO");
+    RegistrarServicos(banco_);
+    users_ = CriarDemonstracao(*banco_);
+  }
+  std::vector<UsuarioDeDemonstracao> users_;
+};
+OVER_BOTH_ENGINES(DemonstrationTest);
+
+TEST_P(DemonstrationTest, HoldsAClinicThatBalances) {
+  EXPECT_EQ(1, Count("empresa"));
+  EXPECT_EQ(3, Count("caixas"));
+  EXPECT_EQ(40, Count("clientes"));
+  EXPECT_EQ(300, Count("produtos"));
+  EXPECT_EQ(60, Count("servicos"));
+  EXPECT_EQ(8, Count("tipos_de_servico t WHERE EXISTS (SELECT 1 FROM servicos WHERE tipo = "
+                     "t.numero)"));
+  EXPECT_EQ(300, Count("(SELECT DISTINCT nome FROM produtos) n"));
+  EXPECT_LT(5, Count("pre_vendas"));
+  EXPECT_LT(3, Count("contas_a_receber WHERE data_de_vencimento < '2026-11-22'"));
+  EXPECT_EQ(3, Count("(SELECT DISTINCT situacao FROM clientes WHERE situacao > 1) s"));
+  ExpectBooksBalance();
+  EXPECT_THROW(CriarDemonstracao(*banco_), BancoNaoVazio);
+  EXPECT_EQ(300, Count("produtos"));
+}
+
+TEST_P(DemonstrationTest, EveryBarcodeIsValidAndItsOwn) {
+  static const Statement select(
+      "SELECT codigo_de_barras FROM produtos WHERE codigo_de_barras <> ''");
+  const auto count = session().Select(select, {}, [](const Row& row) {
+    const std::string code = row.Text(0);
+    ASSERT_EQ(13U, code.size());
+    int sum = 0;
+    for (std::size_t i = 0; i < code.size(); ++i) sum += (code[i] - '0') * (i % 2 == 0 ? 1 : 3);
+    EXPECT_EQ(0, sum % 10) << code;
+    EXPECT_NE('2', code[0]) << "that is a label of the scale";
+  });
+  EXPECT_EQ(288, count);
+  EXPECT_EQ(288, Count("(SELECT DISTINCT codigo_de_barras FROM produtos WHERE codigo_de_barras <> "
+                       "'') c"));
+  EXPECT_EQ(12, Count("produtos WHERE unidade_de_venda = 'KG' AND codigo_interno < 1000000"));
+}
+
+TEST_P(DemonstrationTest, ItsUsersSignInWithTheirDifferentRights) {
+  ASSERT_EQ(4U, users_.size());
+  std::vector<bool> admins;
+  for (const UsuarioDeDemonstracao& user : users_) {
+    const auto login = servicos::CriarServico<servicos::ZOVA_N_Login::clsLogin>();
+    login->NomeDeUsuario(user.nome);
+    login->SenhaDoUsuario(user.senha);
+    ASSERT_EQ(0, login->Autenticar()) << user.nome;
+    admins.push_back(base::ToBool(login->ResultadoDaSelecaoEmRecordSet()->Field("Administrador")));
+    EXPECT_EQ(0, Count("usuarios WHERE senha LIKE '%" + user.senha + "%'"));
+  }
+  EXPECT_EQ((std::vector<bool>{true, false, false, false}), admins);
+}
+
+TEST_P(DemonstrationTest, ItsPeopleAreFoundAndNewOnesGetNumbers) {
+  const auto customers = servicos::CriarServico<servicos::ZOVA_N_ClientAnim::clsClientes>();
+  std::string name = "CELIA";
+  double code = 0;
+  ASSERT_EQ(0, customers->Selecionar(2, 0, 0, "", name, code, "", "", "", 0, ""));
+  EXPECT_EQ(1, customers->ResultadoDaSelecaoEmRecordSet()->RecordCount());
+  const auto overdue = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsDebitosVencCliente>();
+  ASSERT_EQ(0, overdue->Selecionar(2, " WHERE [ContasAReceber.CodigoDoCliente]=9"));
+  EXPECT_EQ(2, overdue->ResultadoDaSelecaoEmRecordSet()->RecordCount());
+  Write("INSERT INTO clientes (apelido, nome, nome_busca) VALUES ('Novo', 'Novo', 'novo')");
+  EXPECT_EQ("41", Read("SELECT max(codigo) FROM clientes"));
+}
+
+}  // namespace
+}  // namespace services

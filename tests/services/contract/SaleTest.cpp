@@ -1,0 +1,267 @@
+#include "base/Text.h"
+#include "services/Database.h"
+#include "services/VendasRegistradas.h"
+
+namespace services {
+namespace {
+
+/// What RegistrarPagamento writes, read back.
+class SaleTest : public OverDatabase {
+ protected:
+  std::int32_t Register(const Sale& sale) {
+    const NewSale service(sale);
+    const auto status = service->RegistrarPagamento();
+    EXPECT_EQ(0, status) << service->DescricaoDaFalha() << service->DescricaoDoErro();
+    ExpectBooksBalance();
+    return service->NumeroDaVenda();
+  }
+
+  std::string OfSale(const std::string& columns) {
+    return Read("SELECT " + columns + " FROM vendas ORDER BY numero DESC LIMIT 1");
+  }
+};
+OVER_BOTH_ENGINES(SaleTest);
+
+TEST_P(SaleTest, EverythingOfASaleStands) {
+  const std::string key = "CFe3526";
+  const auto number = Register(
+      {.lines = Grid({ServiceLine("50,00"), ProductLine("70,00")}),
+       .tenders = Grid({Tender("1-Dinheiro", "100,00"), Tender("3-Cartão de crédito", "50,00")}),
+       .net = 120_brl,
+       .change = -30_brl,
+       .key = key});
+  const auto sales = UltimasVendas(*banco_, 5);
+  ASSERT_EQ(1U, sales.size());
+  EXPECT_EQ(number, sales[0].numero);
+  EXPECT_EQ(clock_.now, sales[0].quando);
+  EXPECT_EQ("renata", sales[0].operador);
+  EXPECT_EQ(5, sales[0].codigoDoCliente);
+  EXPECT_EQ(120_brl, sales[0].liquido);
+  EXPECT_EQ(30_brl, sales[0].troco);
+  EXPECT_EQ(key, sales[0].chaveSat);
+  ASSERT_EQ(2U, sales[0].itens.size());
+  EXPECT_EQ("Banho d'água", sales[0].itens[0].nome);
+  EXPECT_EQ("Rex", sales[0].itens[0].animal);
+  EXPECT_EQ("Ração do João 50% \"mix\"", sales[0].itens[1].nome);
+  ASSERT_EQ(2U, sales[0].recebimentos.size());
+  EXPECT_EQ(3, sales[0].recebimentos[1].moeda);
+  EXPECT_EQ(50_brl, sales[0].recebimentos[1].valor);
+  EXPECT_EQ(std::to_string((70_brl).TenThousandths()),
+            Read("SELECT dinheiro FROM caixas WHERE numero = 1"));
+  EXPECT_EQ("3", Read("SELECT codigo_do_funcionario FROM itens_de_venda WHERE item = 1"));
+  EXPECT_EQ(3, Count("lancamentos_de_caixa"));
+}
+
+TEST_P(SaleTest, BothFormsOfTheDiscountsReadTheSame) {
+  auto counter = ProductLine("1.234,50");
+  counter[9] = "-10,00";
+  counter[10] = "-1.234,50";
+  counter[6] = base::PadRight("Tati", 100) + base::PadRight("30,00", 50);
+  auto copy = ProductLine("1234,5");
+  copy[9] = "10";
+  copy[10] = "1234,5";
+  Register({.lines = Grid({counter, copy})});
+  const std::string columns =
+      "desconto_em_percentual || ' ' || desconto_em_valor || ' ' || valor_total FROM "
+      "itens_de_venda WHERE item = ";
+  EXPECT_EQ("100000 12345000 12345000", Read("SELECT " + columns + "1"));
+  EXPECT_EQ("100000 12345000 12345000", Read("SELECT " + columns + "2"));
+  EXPECT_EQ("Tati", Read("SELECT nome_do_funcionario FROM itens_de_venda WHERE item = 1"));
+}
+
+TEST_P(SaleTest, ChangeBelowOneRealArrivesAsZeroAndStillBalances) {
+  Register({.tenders = Grid({Tender("1-Dinheiro", "100,50")})});
+  EXPECT_EQ(std::to_string(Brl("0,50").TenThousandths()), OfSale("troco"));
+  EXPECT_EQ(std::to_string((100_brl).TenThousandths()),
+            Read("SELECT dinheiro FROM caixas WHERE numero = 1"));
+}
+
+TEST_P(SaleTest, ChangeKeptRaisesTheCredit) {
+  Register(
+      {.tenders = Grid({Tender("1-Dinheiro", "150,00")}), .change = -30_brl, .creditKept = 20_brl});
+  EXPECT_EQ(std::to_string((70_brl).TenThousandths()),
+            Read("SELECT credito FROM clientes WHERE codigo = 5"));
+}
+
+TEST_P(SaleTest, CreditIsTakenFromWhatTheDatabaseHolds) {
+  Register({.tenders = Grid({Tender("7-Crédito do cliente", "40,00"), Tender("8-PIX", "60,00")})});
+  EXPECT_EQ(std::to_string((10_brl).TenThousandths()),
+            Read("SELECT credito FROM clientes WHERE codigo = 5"));
+  const NewSale service(
+      {.tenders = Grid({Tender("7-Crédito do cliente", "10,01"), Tender("8-PIX", "89,99")})});
+  EXPECT_EQ(servicos::kRecusa, service->RegistrarPagamento());
+  EXPECT_EQ(
+      "O crédito do cliente agora é de 10,00 e não cobre os 10,01 informados. Nada foi "
+      "registrado; refaça o pagamento.",
+      service->DescricaoDaFalha());
+  EXPECT_EQ(1, Count("vendas"));
+}
+
+TEST_P(SaleTest, EveryTenderOnCreditIsAReceivable) {
+  Register({.tenders = Grid({Tender("1-Dinheiro", "25,00"),
+                             Tender("6-A crédito (Fiado)", "75,00", "28/02/2027")}),
+            .note = "Cliente: 5-Dudu\r\nAnimal: Rex"});
+  EXPECT_EQ("2027-02-28", Read("SELECT data_de_vencimento FROM contas_a_receber"));
+  EXPECT_EQ("750000", Read("SELECT valor_do_documento FROM contas_a_receber"));
+  EXPECT_EQ("250000", Read("SELECT percentual_recebido_a_vista FROM contas_a_receber"));
+  EXPECT_EQ("Venda a crédito (fiado)\u00A0Cliente: 5-Dudu\u00A0Animal: Rex",
+            Read("SELECT historico FROM contas_a_receber"));
+  EXPECT_EQ("28/02/2027", UltimasVendas(*banco_, 1)[0].recebimentos[1].vencimento);
+}
+
+TEST_P(SaleTest, ASaleOfNothingNeedsNoTender) {
+  Register({.lines = Grid({ProductLine("0,00")}), .tenders = Grid({Tender("", "")}), .net = 0_brl});
+  EXPECT_EQ(0, Count("lancamentos_de_caixa"));
+  EXPECT_EQ(1, Count("vendas"));
+}
+
+TEST_P(SaleTest, PreSaleLinesAreSettledOnceOnly) {
+  Write(
+      "INSERT INTO pre_vendas (numero, tipo_de_lancamento, codigo_do_cliente, data_de_lancamento,"
+      " codigo_do_item, nome_do_item, quantidade, valor_unitario, valor_total, incluido_em,"
+      " incluido_por) VALUES (41, 1, 5, '2026-11-20', 30, 'Banho', 10000, 500000, 500000,"
+      " '2026-11-20 09:00:00', 'marina')");
+  const Sale sale{.lines = Grid({PreSaleLine("50,00", 41), ProductLine("50,00")})};
+  const auto number = Register(sale);
+  EXPECT_EQ(std::to_string(number), Read("SELECT numero_da_venda FROM pre_vendas"));
+  const NewSale again(sale);
+  EXPECT_EQ(servicos::kRecusa, again->RegistrarPagamento());
+  EXPECT_EQ(
+      "O item de pré-venda 'Banho d'água' (lançamento 41) não está mais em aberto: já foi "
+      "vendido ou retirado. Limpe os campos e selecione o cliente de novo.",
+      again->DescricaoDaFalha());
+  EXPECT_EQ(1, Count("vendas"));
+  ExpectBooksBalance();
+}
+
+TEST_P(SaleTest, RoundTripsDoNotGrowWithTheLines) {
+  Register({});
+  std::vector<std::vector<std::string>> many(500, ProductLine("0,20"));
+  const NewSale service(
+      {.lines = Grid(many),
+       .tenders = Grid({Tender("1-Dinheiro", "60,00"), Tender("4-Cartão de débito", "40,00")})});
+  const auto before = session().Calls();
+  EXPECT_EQ(0, service->RegistrarPagamento());
+  if (GetParam() == Engine::kPostgres) {
+    EXPECT_LE(session().Calls() - before, 8);
+  }
+  EXPECT_EQ(501, Count("itens_de_venda"));
+  ExpectBooksBalance();
+}
+
+TEST_P(SaleTest, LongAndOddTextsComeBackAsTheyWere) {
+  const std::string odd = "{\"a\",\\n} 100% _ ' -- ção 🐶 \n\t" + std::string(20'000, 'x');
+  auto line = ProductLine("100,00");
+  line[2] = odd;
+  Register({.lines = Grid({line}), .note = odd});
+  EXPECT_EQ(odd, Read("SELECT nome_do_item FROM itens_de_venda"));
+  EXPECT_EQ(odd, OfSale("observacao"));
+  EXPECT_EQ(odd, Read("SELECT observacao FROM lancamentos_de_caixa"));
+}
+
+TEST_P(SaleTest, TextsThatNoEngineTakesAreMadeReadable) {
+  Register({.note = std::string("a\0b\xFFzo", 6)});
+  EXPECT_EQ("a\uFFFDb\uFFFDzo", OfSale("observacao"));
+}
+
+TEST_P(SaleTest, AmountsAtTheLimits) {
+  const std::string most = "922.337.203.685.477,5807";
+  Register({.lines = Grid({ProductLine(most)}),
+            .tenders = Grid({Tender("1-Dinheiro", most)}),
+            .net = Brl(most)});
+  const NewSale service({});
+  EXPECT_EQ(servicos::kRecusa, service->RegistrarPagamento()) << service->DescricaoDoErro();
+  EXPECT_EQ("Um valor ultrapassa o limite que o caixa registra. Confira os valores.",
+            service->DescricaoDaFalha());
+  const NewSale sum({.tenders = Grid({Tender("1-Dinheiro", most), Tender("8-PIX", "1,00")})});
+  EXPECT_EQ(servicos::kRecusa, sum->RegistrarPagamento());
+  EXPECT_EQ(1, Count("vendas"));
+  ExpectBooksBalance();
+}
+
+/// What must not be written, and why the operator is told it was not.
+TEST_P(SaleTest, RefusalsWriteNothing) {
+  struct Case {
+    const char* why;
+    Sale sale;
+    const char* words;
+  };
+  const Grid columns({Tender("8-PIX", "100,00")});
+  const Grid twice({PreSaleLine("50,00", 41), PreSaleLine("50,00", 41)});
+  const Grid line({ProductLine("100,00")});
+  const Case cases[] = {
+      {"no lines", {.lines = Grid({std::vector<std::string>(20)})}, "não tem itens"},
+      {"too few columns", {.lines = columns}, "incompleta"},
+      {"quantity", {.lines = line.With(1, 7, "abc")}, "'abc' em quantidade"},
+      {"negative price", {.lines = line.With(1, 8, "-1,00")}, "'-1,00' em valor unitário"},
+      {"code too large", {.lines = line.With(1, 1, "99999999999")}, "em código,"},
+      {"fraction of a code", {.lines = line.With(1, 15, "1,5")}, "em número do lançamento"},
+      {"kind of line", {.lines = line.With(1, 19, "3")}, "em tipo de lançamento"},
+      {"kind of sale", {.lines = line.With(1, 18, "")}, "em tipo de venda"},
+      {"pre-sale line twice", {.lines = twice}, "está duas vezes na venda"},
+      {"unknown tender", {.tenders = Grid({Tender("9-Vale", "100,00")})}, "não é conhecida"},
+      {"tender amount", {.tenders = Grid({Tender("8-PIX", "cem")})}, "'cem' não é um valor"},
+      {"negative tender", {.tenders = Grid({Tender("8-PIX", "-100,00")})}, "negativo"},
+      {"not all paid", {.tenders = Grid({Tender("8-PIX", "99,99")})}, "Restam 0,01 para pagar"},
+      {"no due date", {.tenders = Grid({Tender("6-Fiado", "100,00")})}, "data de vencimento"},
+      {"no such day", {.tenders = Grid({Tender("6-Fiado", "100,00", "29/02/2027")})}, "vencimento"},
+      {"month first", {.tenders = Grid({Tender("6-Fiado", "100,00", "12/31/2026")})}, "vencimento"},
+      {"net below zero", {.tenders = Grid({Tender("8-PIX", "0,00")}), .net = -1_brl}, "líquido"},
+      {"change unlike the tenders",
+       {.tenders = Grid({Tender("1-Dinheiro", "150,00")}), .change = -40_brl},
+       "O troco informado (40,00) não confere"},
+      {"change of a real or more as 0",
+       {.tenders = Grid({Tender("1-Dinheiro", "101,00")})},
+       "O troco informado (0,00) não confere"},
+      {"change and credit kept of the same money",
+       {.tenders = Grid({Tender("1-Dinheiro", "150,00")}), .change = -50_brl, .creditKept = 20_brl},
+       "não confere"},
+      {"more credit kept than left", {.creditKept = 1_brl}, "é maior que a sobra"},
+      {"credit kept below zero", {.creditKept = -1_brl}, "negativo"},
+      {"customer's code", {.customer = "x"}, "código de cliente 'x' não existe"},
+      {"unknown customer", {.customer = "77"}, "cliente de código 77 não está cadastrado"},
+      {"unknown pre-sale line", {.lines = Grid({PreSaleLine("100,00", 9)})}, "não está mais"},
+      {"closed register", {.registerNumber = 2}, "não está aberto"},
+      {"deactivated register", {.registerNumber = 3}, "foi desativado"},
+      {"no such register", {.registerNumber = 4}, "não existe mais"},
+  };
+  for (const Case& each : cases) {
+    const NewSale service(each.sale);
+    EXPECT_EQ(servicos::kRecusa, service->RegistrarPagamento())
+        << each.why << ": " << service->DescricaoDoErro();
+    EXPECT_NE(std::string::npos, service->DescricaoDaFalha().find(each.words))
+        << each.why << ": " << service->DescricaoDaFalha();
+    EXPECT_EQ(0, service->NumeroDaVenda()) << each.why;
+  }
+  EXPECT_EQ(0, Count("vendas"));
+  EXPECT_EQ(0, Count("lancamentos_de_caixa"));
+  ExpectBooksBalance();
+}
+
+TEST_P(SaleTest, UnknownCustomerWithCreditIsRefusedToo) {
+  const NewSale service({.tenders = Grid({Tender("7-Crédito", "100,00")}), .customer = "77"});
+  EXPECT_EQ(servicos::kRecusa, service->RegistrarPagamento());
+  EXPECT_NE(std::string::npos, service->DescricaoDaFalha().find("não está cadastrado"));
+}
+
+TEST_P(SaleTest, MembersOfLaterWorkAreMissing) {
+  const NewSale service({});
+  EXPECT_THROW(service->CancelarVenda(1, "engano"), base::RuntimeError);
+}
+
+TEST_P(SaleTest, TheBooksAreFoundOut) {
+  Register({.tenders = Grid({Tender("1-Dinheiro", "60,00"),
+                             Tender("6-A crédito (Fiado)", "40,00", "28/02/2027")})});
+  Write("UPDATE lancamentos_de_caixa SET valor = valor + 100 WHERE moeda = 1");
+  Write("DELETE FROM contas_a_receber");
+  Write("DELETE FROM itens_de_venda");
+  EXPECT_EQ((std::vector<std::string>{
+                "Venda 1: os recebimentos lançados somam 100,01, e o total recebido é 100,00.",
+                "Venda 1: as contas a receber somam 0,00, e o pagamento a crédito (fiado) é 40,00.",
+                "Venda 1: há 0 itens gravados, e a venda tem 1.",
+                "Caixa 1: o dinheiro na gaveta é 60,00, e os lançamentos somam 60,01."}),
+            Conferir(*banco_));
+}
+
+}  // namespace
+}  // namespace services

@@ -1,0 +1,123 @@
+#include <csignal>
+#include <thread>
+
+#include "services/Database.h"
+#include "services/VendasRegistradas.h"
+
+namespace services {
+namespace {
+
+/// A process that is killed while it registers: all of it stands afterwards, or nothing.
+class KillTest : public OverDatabase {
+ protected:
+  void SetUp() override {
+    OverDatabase::SetUp();
+    Write(
+        "INSERT INTO pre_vendas (numero, tipo_de_lancamento, codigo_do_cliente,"
+        " data_de_lancamento, codigo_do_item, nome_do_item, quantidade, valor_unitario,"
+        " valor_total, incluido_em, incluido_por) VALUES (41, 1, 5, '2026-11-20', 30, 'Banho',"
+        " 10000, 400000, 400000, '2026-11-20 09:00:00', 'marina')");
+  }
+
+  /// A sale that writes to every table that a sale can write to.
+  static Sale EverySide(bool withPreSale) {
+    return {.lines = Grid({withPreSale ? PreSaleLine("40,00", 41) : ServiceLine("40,00"),
+                           ProductLine("60,00")}),
+            .tenders = Grid({Tender("1-Dinheiro", "60,00"),
+                             Tender("6-A crédito (Fiado)", "50,00", "28/02/2027"),
+                             Tender("7-Crédito do cliente", "0,01")}),
+            .change = -Brl("5,01"),
+            .creditKept = 5_brl};
+  }
+
+  /// Kills the process at its n-th step, from 0 on, until it survives; the count of steps.
+  int KillAtEveryStep(const std::function<int()>& act, const std::function<void(bool)>& check) {
+    constexpr int kMost = 200;
+    for (int last = 0; last < kMost; ++last) {
+      const int answer = EndOf(Start("LOJA", [&] {
+        int step = 0;
+        session().Observe([&](std::string_view) {
+          if (step++ == last) raise(SIGKILL);
+        });
+        return act();
+      }));
+      EXPECT_LE(answer, 0);
+      const bool survived = answer == 0;
+      check(survived);
+      ExpectBooksBalance();
+      if (survived || HasFailure()) return last;
+    }
+    ADD_FAILURE() << "never came to its end";
+    return kMost;
+  }
+};
+OVER_BOTH_ENGINES(KillTest);
+
+TEST_P(KillTest, AtEveryStepOfASale) {
+  std::int64_t before = 0;
+  const int steps = KillAtEveryStep(
+      [] {
+        const NewSale sale(EverySide(true));
+        return int{sale->RegistrarPagamento()};
+      },
+      [&](bool survived) {
+        const auto now = Count("vendas");
+        EXPECT_TRUE(now == before || now == before + 1);
+        if (survived) {
+          EXPECT_EQ(before + 1, now);
+        }
+        // After the commit the sale stands though its process is dead: undo what lets it be
+        // registered once only, and go on to the next step.
+        if (now > before && !survived) {
+          EXPECT_EQ(1, Count("pre_vendas WHERE numero_da_venda IS NOT NULL"));
+          Write(
+              "UPDATE vendas SET itens_de_pre_venda = 0;"
+              "UPDATE pre_vendas SET numero_da_venda = NULL");
+          before = now;
+        }
+        if (survived) before = now;
+      });
+  EXPECT_GE(steps, GetParam() == Engine::kSqlite ? 20 : 6);
+}
+
+TEST_P(KillTest, AtEveryStepOfAnOpening) {
+  KillAtEveryStep(
+      [] {
+        const auto service = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsCaixa>();
+        service->NumeroDoCaixa(2);
+        service->ValorDoLancamento("100,00");
+        return int{service->RegistrarAbertura()};
+      },
+      [&](bool survived) {
+        const bool isOpen = Read("SELECT aberto FROM caixas WHERE numero = 2") == "1";
+        EXPECT_EQ(isOpen ? 1 : 0, Count("lancamentos_de_caixa"));
+        if (survived) {
+          EXPECT_TRUE(isOpen);
+        }
+        if (isOpen && !survived) {
+          Write(
+              "DELETE FROM lancamentos_de_caixa;"
+              "UPDATE caixas SET aberto = 0, dinheiro = 0 WHERE numero = 2");
+        }
+      });
+}
+
+TEST_P(KillTest, AtAnyMomentOfManySales) {
+  constexpr int kRounds = 40;
+  for (int round = 0; round < kRounds; ++round) {
+    const pid_t process = Start("LOJA", [] {
+      for (;;) {
+        const NewSale sale(EverySide(false));
+        if (sale->RegistrarPagamento() != 0) return 3;
+      }
+    });
+    std::this_thread::sleep_for(std::chrono::microseconds(15'000 + round * 1'237));
+    kill(process, SIGKILL);
+    ASSERT_EQ(-1, EndOf(process)) << "a sale was refused";
+    ExpectBooksBalance();
+  }
+  EXPECT_GT(Count("vendas"), kRounds / 4) << "the kills came too early to prove anything";
+}
+
+}  // namespace
+}  // namespace services
