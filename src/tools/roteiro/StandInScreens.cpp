@@ -1,0 +1,111 @@
+#include "frame/servicos/ZOVA_A_ClientAnim.clsClientAnim.h"
+#include "frame/servicos/ZOVA_A_ClientHist.clsHistDeVendas.h"
+#include "frame/servicos/ZOVA_A_EfeitosDeTela.clsFundoEscuro.h"
+#include "frame/servicos/ZOVA_A_MsgErro.clsMensagem.h"
+#include "frame/servicos/ZOVA_A_Orcamentos.clsOrcamentos.h"
+#include "frame/servicos/ZOVA_A_Produtos.clsProdutos.h"
+#include "frame/servicos/ZOVA_A_RelFin.clsRelFin.h"
+#include "platform/Desktop.h"
+#include "tools/roteiro/StandIn.h"
+
+namespace roteiro {
+namespace {
+
+using std::string_view;
+
+/// What all screens about one customer are given.
+template <class Contract>
+class CustomerScreenStandIn : public ScreenStandIn<Contract> {
+ public:
+  using ScreenStandIn<Contract>::ScreenStandIn;
+
+  void CodigoDoCliente(double v) override { this->Set(__func__, v); }
+  void ApelidoOuNomeFantasiaDoCliente(string_view v) override { this->Set(__func__, v); }
+  void NomeOuRazaoSocialDoCliente(string_view v) override { this->Set(__func__, v); }
+};
+
+class ClientAnim final : public CustomerScreenStandIn<servicos::ZOVA_A_ClientAnim::clsClientAnim> {
+ public:
+  using CustomerScreenStandIn::CustomerScreenStandIn;
+
+  std::int16_t AbrirFichaDeCadastroDeCodigoIBGEDoMunicipio() override { return Call(__func__); }
+};
+
+class HistDeVendas final
+    : public CustomerScreenStandIn<servicos::ZOVA_A_ClientHist::clsHistDeVendas> {
+ public:
+  using CustomerScreenStandIn::CustomerScreenStandIn;
+
+  void DataInicialDoHistorico(string_view v) override { Set(__func__, v); }
+  void AbrirFichaExibicao() override { Call(__func__); }
+};
+
+class Orcamentos final : public CustomerScreenStandIn<servicos::ZOVA_A_Orcamentos::clsOrcamentos> {
+ public:
+  using CustomerScreenStandIn::CustomerScreenStandIn;
+
+  void CodigoDoAnimal(std::int32_t v) override { Set(__func__, v); }
+  void NomeDoAnimal(string_view v) override { Set(__func__, v); }
+  void AbrirFicha() override { Call(__func__); }
+};
+
+class Produtos final : public ScreenStandIn<servicos::ZOVA_A_Produtos::clsProdutos> {
+ public:
+  using ScreenStandIn::ScreenStandIn;
+
+  void CodigoInterno(double v) override { Set(__func__, v); }
+  void Nome(string_view v) override { Set(__func__, v); }
+  std::int16_t AbrirFichaDeCadastroDeNCM() override { return Call(__func__); }
+};
+
+class RelFin final : public ScreenStandIn<servicos::ZOVA_A_RelFin::clsRelFin> {
+ public:
+  using ScreenStandIn::ScreenStandIn;
+
+  void ImprimirNotaPromissoria(string_view a, base::DateTime b, base::Currency c, double d,
+                               bool& e) override {
+    Call(__func__, a, b, c, d, e);
+  }
+};
+
+/// The dimming is told as an event.
+class FundoEscuro final : public StandInFor<servicos::ZOVA_A_EfeitosDeTela::clsFundoEscuro> {
+ public:
+  using StandInFor::StandInFor;
+
+  void Aplicar(std::int32_t& window, std::int16_t& intensity) override {
+    Call(__func__, window, intensity);
+    platform::Desktop::Current().Dim(window, intensity);
+  }
+  void Remover(std::int32_t& window) override {
+    Call(__func__, window);
+    platform::Desktop::Current().Undim(window);
+  }
+};
+
+/// The error viewer tells an event and does not keep the operator.
+class Mensagem final : public StandInFor<servicos::ZOVA_A_MsgErro::clsMensagem> {
+ public:
+  explicit Mensagem(StandIns& all) : StandInFor(all), all_(all) {}
+
+  void Exibir(std::int32_t number, string_view description, string_view location,
+              string_view application) override {
+    Call(__func__, number, description, location, application);
+    all_.TellError(number, description, location);
+  }
+
+ private:
+  StandIns& all_;
+};
+
+}  // namespace
+
+void RegisterScreenStandIns(StandIns& all) {
+  RegisterAll<ClientAnim, HistDeVendas, Orcamentos, Produtos, RelFin>(all);
+}
+
+void RegisterEffectStandIns(StandIns& all) {
+  RegisterAll<FundoEscuro, Mensagem>(all);
+}
+
+}  // namespace roteiro

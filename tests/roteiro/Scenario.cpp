@@ -1,0 +1,221 @@
+#include "roteiro/Scenario.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <stdexcept>
+#include <vector>
+
+#include "roteiro/Program.h"
+
+namespace roteiro_tests {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// A folder of the scenario's own, "${DIR}" in its lines.
+struct Folder {
+  Folder() : path((std::filesystem::temp_directory_path() / "cenario-XXXXXX").string()) {
+    if (mkdtemp(path.data()) == nullptr) throw std::runtime_error("no temporary folder");
+  }
+  ~Folder() { std::filesystem::remove_all(path); }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  std::string path;
+};
+
+/// Whether all that is expected stands in the actual value. Objects may hold more; lists are as
+/// long as expected; a double is no whole number.
+bool Contains(const Json& actual, const Json& expected) {
+  if (expected.is_object()) {
+    if (!actual.is_object()) return false;
+    for (const auto& [key, value] : expected.items()) {
+      if (!actual.contains(key) || !Contains(actual[key], value)) return false;
+    }
+    return true;
+  }
+  if (expected.is_array()) {
+    if (!actual.is_array() || actual.size() != expected.size()) return false;
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+      if (!Contains(actual[i], expected[i])) return false;
+    }
+    return true;
+  }
+  return expected.is_number_float() == actual.is_number_float() && actual == expected;
+}
+
+bool AnyContains(const Json& list, const Json& expected) {
+  for (const Json& each : list) {
+    if (Contains(each, expected)) return true;
+  }
+  return false;
+}
+
+void Replace(std::string& text, const std::string& from, const std::string& to) {
+  for (std::size_t at = text.find(from); at != std::string::npos;
+       at = text.find(from, at + to.size())) {
+    text.replace(at, from.size(), to);
+  }
+}
+
+/// One conversation: the last answer, and what the scenario has said of it so far.
+class Player {
+ public:
+  explicit Player(std::string program) : programPath_(std::move(program)) {}
+
+  void Play(const std::string& file) {
+    Read(file);
+    if (!ended_) End();
+  }
+
+ private:
+  /// Follows the lines of a file; one that it includes comes back here.
+  void Read(const std::string& file) {
+    std::ifstream in(file);
+    Require(in.good(), "no file " + file);
+    int number = 0;
+    for (std::string line; std::getline(in, line);) {
+      here_ = file + ":" + std::to_string(++number) + ": ";
+      if (line.empty() || line.starts_with('#')) continue;
+      Replace(line, "${DIR}", folder_.path);
+      Follow(line, std::filesystem::path(file).parent_path());
+    }
+  }
+
+  void Follow(const std::string& line, const std::filesystem::path& folder) {
+    const Json parsed = Json::parse(line, nullptr, false);
+    Require(parsed.is_object(), "not a JSON object: " + line);
+    if (parsed.contains("args") && !parsed.contains("do")) {
+      Require(!program_, "\"args\" comes first");
+      Start(parsed["args"].get<std::vector<std::string>>());
+      return;
+    }
+    if (parsed.contains("include")) {
+      Read(folder / parsed["include"].get<std::string>());
+      return;
+    }
+    if (parsed.contains("run") && !parsed.contains("do")) {
+      RunBeside(parsed);
+      return;
+    }
+    Require(!ended_, "the conversation has ended");
+    if (parsed.contains("end")) {
+      End();
+      return;
+    }
+    if (!program_) Start({});
+    if (parsed.contains("do") || parsed.contains("raw")) {
+      Conclude();
+      program_->Send(parsed.contains("do") ? line : parsed["raw"].get<std::string>());
+      TakeAnswer();
+      return;
+    }
+    for (const auto& [key, expected] : parsed.items()) Expect(key, expected);
+  }
+
+  void Start(const std::vector<std::string>& extra) {
+    std::vector<std::string> arguments{"--dir", folder_.path, "--now", "2026-11-22T14:30:00"};
+    arguments.insert(arguments.end(), extra.begin(), extra.end());
+    program_ = std::make_unique<Program>(programPath_, arguments);
+    TakeAnswer();
+  }
+
+  void End() {
+    if (!program_) Start({});
+    Conclude();
+    EXPECT_EQ(program_->Finish(), 0) << here_ << "exit status; " << program_->Complaint();
+    ended_ = true;
+  }
+
+  /// Runs another of our programs to its end.
+  void RunBeside(const Json& step) {
+    auto words = step["run"].get<std::vector<std::string>>();
+    Require(!words.empty(), "\"run\" names no program");
+    const auto path = std::filesystem::path(programPath_).parent_path() / words.front();
+    words.erase(words.begin());
+    Program beside(path, words);
+    std::string printed;
+    while (const std::optional<std::string> line = beside.Read()) printed += *line + "\n";
+    EXPECT_EQ(beside.Finish(), 0) << here_ << printed << beside.Complaint();
+    for (const Json& part : step.value("prints", Json::array())) {
+      EXPECT_NE(printed.find(part.get<std::string>()), std::string::npos)
+          << here_ << "expected " << part << " in\n"
+          << printed;
+    }
+  }
+
+  void TakeAnswer() {
+    const std::optional<std::string> line = program_->Read();
+    if (!line) program_->Finish();
+    Require(line.has_value(), "no answer; " + program_->Complaint());
+    answer_ = Json::parse(*line, nullptr, false);
+    Require(answer_.is_object(), "not an answer: " + *line);
+    answeredAt_ = here_;
+    refusalExpected_ = false;
+    errors_.clear();
+    for (const Json& event : answer_["events"]) {
+      if (event["event"] == "error") errors_.push_back(event);
+    }
+  }
+
+  void Expect(const std::string& key, const Json& expected) {
+    const Json& events = answer_["events"];
+    if (key == "expect") {
+      EXPECT_TRUE(Contains(answer_, expected))
+          << here_ << "expected " << expected << "\nbut got " << answer_;
+      if (expected.contains("ok")) refusalExpected_ = true;
+      for (const Json& each : expected.value("events", Json::array())) Forgive(each);
+    } else if (key == "event") {
+      EXPECT_TRUE(AnyContains(events, expected)) << here_ << "no such event in " << events;
+      Forgive(expected);
+    } else if (key == "no-event") {
+      EXPECT_FALSE(AnyContains(events, expected)) << here_ << "such an event in " << events;
+    } else {
+      Require(false, "neither a command nor an expectation: " + key);
+    }
+  }
+
+  void Forgive(const Json& event) {
+    if (event.value("event", "") != "error") return;
+    std::erase_if(errors_, [&](const Json& error) { return Contains(error, event); });
+  }
+
+  /// The scenario has nothing more to say of the last answer.
+  void Conclude() {
+    EXPECT_TRUE(answer_["ok"] == true || refusalExpected_) << answeredAt_ << "refused: " << answer_;
+    for (const Json& error : errors_)
+      ADD_FAILURE() << answeredAt_ << "error nobody expected: " << error;
+  }
+
+  /// What a scenario cannot go on without.
+  void Require(bool holds, const std::string& otherwise) const {
+    if (!holds) throw std::runtime_error(here_ + otherwise);
+  }
+
+  std::string programPath_;
+  Folder folder_;
+  std::unique_ptr<Program> program_;
+  bool ended_ = false;
+  std::string here_;  ///< File and line, for what is told of them.
+  Json answer_;
+  std::string answeredAt_;
+  bool refusalExpected_ = false;
+  std::vector<Json> errors_;
+};
+
+}  // namespace
+
+void Play(const std::string& program, const std::string& file) {
+  try {
+    Player(program).Play(file);
+  } catch (const std::exception& failure) {
+    ADD_FAILURE() << failure.what();
+  }
+}
+
+}  // namespace roteiro_tests
