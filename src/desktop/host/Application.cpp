@@ -1,0 +1,268 @@
+#include "desktop/host/Application.h"
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QScreen>
+#include <QSocketNotifier>
+#include <QStandardPaths>
+#include <QTimer>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "desktop/Convert.h"
+#include "desktop/DesktopQt.h"
+#include "desktop/Fonts.h"
+#include "desktop/host/MainWindow.h"
+#include "desktop/host/Options.h"
+#include "desktop/host/Player.h"
+#include "desktop/host/Process.h"
+#include "desktop/host/Scripts.h"
+#include "frame/servicos/Servico.h"
+#include "services/Banco.h"
+#include "services/Demonstracao.h"
+#include "services/RegistrarServicos.h"
+#include "siblings/RegistrarTelas.h"
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kName = "caixa";
+constexpr const char* kDefaultDatabase = "caixa.db";
+constexpr const char* kDemonstrationDatabase = "demonstracao.db";
+constexpr QSize kUsualSize{1024, 768};
+
+bool HasDisplay() {
+  return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr ||
+         std::getenv("QT_QPA_PLATFORM") != nullptr;
+}
+
+/// Qt's remarks on the platform mean nothing to the operator.
+void TellOnlyTrouble(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type == QtFatalMsg) {
+    // Nothing of ours runs yet: Qt gives up when it cannot reach the screen.
+    std::fputs("Não foi possível usar a tela. Confira se o ambiente gráfico está aberto.\n",
+               stderr);
+    std::_Exit(1);
+  }
+  if (type == QtCriticalMsg) std::fprintf(stderr, "%s\n", desktop::FromQt(text).c_str());
+}
+
+std::string UserFolder() {
+  return desktop::FromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+}
+
+/// A folder that exists from here on.
+std::string Made(const std::string& folder) {
+  std::error_code failed;
+  fs::create_directories(folder, failed);
+  if (!fs::is_directory(folder)) {
+    throw std::runtime_error("Não foi possível criar a pasta '" + folder +
+                             "'. Confira o caminho e as permissões.");
+  }
+  return folder;
+}
+
+/// A request of the system to end (logging out, shutting down) closes the window as the operator
+/// would, so that nobody stays locked.
+class EndRequests {
+ public:
+  explicit EndRequests(QWidget& window) {
+    if (socketpair(AF_UNIX, SOCK_STREAM, 0, sockets_) != 0) return;
+    notifier_ = std::make_unique<QSocketNotifier>(sockets_[1], QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, &window, [&window] {
+      char signal = 0;
+      if (read(sockets_[1], &signal, 1) == 1) window.close();
+    });
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) std::signal(signal, &Pass);
+  }
+
+ private:
+  static void Pass(int) {
+    const char signal = 1;
+    [[maybe_unused]] const auto written = write(sockets_[0], &signal, 1);
+  }
+
+  static inline int sockets_[2] = {-1, -1};
+  std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+/// One run of the application, its parts in the order in which they need each other.
+class Application {
+ public:
+  explicit Application(const Options& options)
+      : options_(options),
+        desktop_(Made(options.folder.empty() ? FolderOf(options) : options.folder)) {
+    platform::Desktop::Install(&desktop_);
+  }
+  ~Application() {
+    player_.reset();
+    window_.reset();
+    servicos::EsquecerTodos();
+    platform::Desktop::Install(nullptr);
+  }
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+
+  /// Throws std::runtime_error with a sentence for the operator.
+  int Run() {
+    OpenDatabase();
+    window_ = std::make_unique<MainWindow>(desktop_);
+    window_->onClosed = [] { QCoreApplication::exit(0); };
+    const EndRequests requests(*window_);
+    ShowWindow();
+    window_->ShowSignIn();
+    if (IsScripted()) Play();
+    if (options_.mode == Options::Mode::kMeasure) Measure();
+    const int status = QCoreApplication::exec();
+    return failed_ ? 1 : status;
+  }
+
+  /// Tells the operator what stood in the way, on the screen if there is one.
+  void TellFailure(const std::string& sentence) {
+    std::fprintf(stderr, "%s\n", sentence.c_str());
+    const bool offscreen = QGuiApplication::platformName() == QStringLiteral("offscreen");
+    if (options_.mode != Options::Mode::kWork || offscreen) return;
+    desktop_.Ask(
+        {sentence, "Caixa", platform::Icon::kStop, platform::Buttons::kOk, platform::Answer::kOk});
+  }
+
+ private:
+  static std::string FolderOf(const Options& options) {
+    return options.pictures.empty() ? UserFolder() : options.pictures;
+  }
+  bool IsScripted() const { return !options_.pictures.empty(); }
+
+  void OpenDatabase() {
+    std::string address = options_.database;
+    if (IsScripted()) {
+      address = CreateDemonstration();
+    } else if (address.empty()) {
+      address = "sqlite:" + (fs::path(Made(UserFolder())) / kDefaultDatabase).string();
+    }
+    services::RegistrarServicos(services::AbrirBanco(address, desktop_, desktop_.ComputerName()));
+    siblings::RegistrarTelas();
+  }
+
+  std::string CreateDemonstration() {
+    const fs::path file = fs::path(Made(options_.pictures)) / kDemonstrationDatabase;
+    std::error_code ignored;
+    for (const char* suffix : {"", "-wal", "-shm"}) fs::remove(file.string() + suffix, ignored);
+    std::string address = "sqlite:" + file.string();
+    services::CriarBanco(address);
+    const auto bank = services::AbrirBanco(address, desktop_, desktop_.ComputerName());
+    users_ = services::CriarDemonstracao(*bank);
+    return address;
+  }
+
+  void ShowWindow() {
+    window_->resize(kUsualSize);
+    // A cash desk has the screen to itself; pictures are all of one size.
+    IsScripted() ? window_->show() : window_->showMaximized();
+    window_->activateWindow();
+  }
+
+  void Play() {
+    const bool sale = options_.mode == Options::Mode::kDemonstration;
+    player_ = std::make_unique<Player>(desktop_, *window_,
+                                       sale ? scripts::Demonstration() : scripts::Portraits());
+    player_->folder = options_.pictures;
+    player_->words = {{"pasta", options_.pictures}};
+    constexpr const char* kRoles[] = {"administrador", "supervisor", "operador"};
+    for (std::size_t i = 0; i < std::size(kRoles) && i < users_.size(); ++i) {
+      player_->words[kRoles[i]] = users_[i].nome;
+      player_->words[std::string("senha do ") + kRoles[i]] = users_[i].senha;
+    }
+    player_->tell = [](const std::string& line) {
+      std::printf("%s\n", line.c_str());
+      std::fflush(stdout);
+    };
+    player_->onEnd = [this](bool done, const std::string& why) {
+      failed_ = !done;
+      if (failed_) std::fprintf(stderr, "A demonstração parou: %s.\n", why.c_str());
+      window_->close();
+    };
+    player_->Start();
+  }
+
+  /// Tells how long it took to bring the sign-in up, and how much memory, once it is painted.
+  void Measure() {
+    QTimer::singleShot(0, window_.get(), [this] {
+      QCoreApplication::processEvents();
+      window_->repaint();
+      std::printf("entrada em %.2f s, %ld MB\n", process::SecondsSinceStart(),
+                  process::PeakMemory() / 1024 / 1024);
+      window_->close();
+    });
+  }
+
+  const Options& options_;
+  desktop::DesktopQt desktop_;
+  std::vector<services::UsuarioDeDemonstracao> users_;
+  std::unique_ptr<MainWindow> window_;
+  std::unique_ptr<Player> player_;
+  bool failed_ = false;
+};
+
+int RunWithScreen(const Options& options) {
+  std::optional<Application> application;
+  try {
+    application.emplace(options);
+  } catch (const std::runtime_error& failure) {
+    std::fprintf(stderr, "%s\n", failure.what());
+    return 1;
+  }
+  try {
+    return application->Run();
+  } catch (const std::runtime_error& failure) {
+    application->TellFailure(failure.what());
+    return 1;
+  }
+}
+
+}  // namespace
+
+int Run(int argc, char** argv) {
+  Options options;
+  try {
+    options = Options::Read({argv + 1, argv + argc});
+  } catch (const BadOption& bad) {
+    std::fprintf(stderr, "%s\n\n%s", bad.what(), Options::Help());
+    return 2;
+  }
+  if (options.mode == Options::Mode::kHelp) {
+    std::fputs(Options::Help(), stdout);
+    return 0;
+  }
+  if (!HasDisplay()) {
+    if (options.mode == Options::Mode::kWork) {
+      std::fputs(
+          "Não há uma tela em que abrir o caixa. Abra-o em um ambiente gráfico, ou peça\n"
+          "uma demonstração sem tela com: caixa --demonstracao PASTA\n",
+          stderr);
+      return 1;
+    }
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  }
+  qInstallMessageHandler(&TellOnlyTrouble);
+  int qtArguments = 1;
+  QApplication application(qtArguments, argv);
+  QCoreApplication::setApplicationName(QString::fromLatin1(kName));
+  QApplication::setFont(desktop::fonts::Text());
+  // The close of the window ends the loop itself, once everything has unwound.
+  QApplication::setQuitOnLastWindowClosed(false);
+  return RunWithScreen(options);
+}
+
+}  // namespace host

@@ -1,0 +1,73 @@
+#include "desktop/host/ScriptParts.h"
+#include "desktop/host/Scripts.h"
+
+namespace host::scripts {
+namespace {
+
+constexpr std::array kSignIn{
+    Step{Act::kSay, "", "{administrador} entra."},
+    Step{Act::kScreen, "frmEntrada"},
+    Step{Act::kType, "zvtxtUsuario", "{administrador}"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kType, "zvtxtSenha", "{senha do administrador}"},
+    Step{Act::kPicture, "", "entrada"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kSay, "", "Escolhe o caixa da recepção e abre-o com 150,00 de fundo de troco."},
+};
+
+constexpr std::array kFindCustomer{
+    Step{Act::kSay, "", "Procura o cliente de código 2."},
+    Step{Act::kType, "zvfCodigoDoCliente", "2"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kTell, "zvfNomeOuRazaoSocialDoCliente", "Cliente:"},
+    Step{Act::kPicture, "", "cliente"},
+    Step{Act::kSay, "", "Registra um serviço."},
+};
+
+constexpr std::array kToldService{
+    Step{Act::kTell, "zvfNomeDoServico", "Serviço:"},
+};
+
+constexpr std::array kToProduct{
+    Step{Act::kSay, "", "Lê o código de barras de um produto, com 5% de desconto."},
+};
+
+constexpr std::array kToldProduct{
+    Step{Act::kTell, "zvfNomeDoProduto", "Produto:"},
+};
+
+constexpr std::array kPay{
+    Step{Act::kTell, "zvnumLiquidoAPagar", "Líquido a pagar:"},
+    Step{Act::kPicture, "", "venda"},
+    Step{Act::kSay, "", "Recebe 100,00 no cartão de crédito e 250,00 em dinheiro."},
+    Step{Act::kClick, "zvcmdPagamento"},
+    Step{Act::kSettle, "frmCaixaPagar"},
+    Step{Act::kPick, "zvcmbFormaDePagamento", "3-Cartão de crédito"},
+    Step{Act::kType, "zvnumValor", "100,00"},
+    Step{Act::kPicture, "", "pagamento"},
+    Step{Act::kClick, "zvcmdAdicionar"},
+    Step{Act::kSettle, "frmCaixaPagar"},
+    Step{Act::kPick, "zvcmbFormaDePagamento", "1-Dinheiro"},
+    Step{Act::kType, "zvnumValor", "250,00"},
+    Step{Act::kClick, "zvcmdAdicionar"},
+    Step{Act::kSettle, "frmCaixaPagar"},
+    Step{Act::kTell, "zvtxtSaldoDevedorOuTroco", "Troco:"},
+    Step{Act::kPicture, "", "troco"},
+    Step{Act::kClick, "zvcmdConfirmar"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kPicture, "", "proximo-cliente"},
+    Step{Act::kSay, "", "A venda está em {pasta}/demonstracao.db; para conferir:"},
+    Step{Act::kSay, "", "  caixa-banco sqlite:{pasta}/demonstracao.db vendas"},
+    Step{Act::kSay, "", "Os retratos das telas estão em {pasta}."},
+};
+
+}  // namespace
+
+std::vector<Step> Demonstration() {
+  return Joined({kSignIn, kOpenRegister, kFindCustomer, kFindService, kToldService, kAdd,
+                 kToProduct, kFindProduct, kToldProduct, kAdd, kPay});
+}
+
+}  // namespace host::scripts

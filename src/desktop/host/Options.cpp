@@ -1,0 +1,57 @@
+#include "desktop/host/Options.h"
+
+namespace host {
+
+const char* Options::Help() {
+  return "Uso: caixa [--banco ENDEREÇO] [--pasta PASTA]\n"
+         "     caixa --retratos PASTA | --demonstracao PASTA\n"
+         "\n"
+         "  --banco ENDEREÇO       sqlite:ARQUIVO ou postgresql:CONEXÃO\n"
+         "                         (padrão: caixa.db na pasta de dados do usuário)\n"
+         "  --pasta PASTA          onde fica o arquivo de configurações\n"
+         "                         (padrão: a pasta de dados do usuário)\n"
+         "  --demonstracao PASTA   cria em PASTA uma clínica de demonstração, faz nela uma venda\n"
+         "                         pelas telas, conta cada passo e deixa retratos em PASTA\n"
+         "  --retratos PASTA       deixa em PASTA um retrato de cada tela\n"
+         "  --medir-inicio         mostra em quanto tempo e com quanta memória a entrada aparece,\n"
+         "                         e sai\n"
+         "  --ajuda                mostra esta ajuda\n"
+         "\n"
+         "Sai com 0 quando deu certo, 1 quando não, 2 quando o comando não foi entendido.\n";
+}
+
+Options Options::Read(const std::vector<std::string>& arguments) {
+  Options options;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& name = arguments[i];
+    if (name == "--ajuda" || name == "--help" || name == "-h") {
+      options.mode = Mode::kHelp;
+      continue;
+    }
+    if (name == "--medir-inicio") {
+      options.mode = Mode::kMeasure;
+      continue;
+    }
+    std::string* value = nullptr;
+    if (name == "--banco") value = &options.database;
+    if (name == "--pasta") value = &options.folder;
+    if (name == "--retratos" || name == "--demonstracao") {
+      if (!options.pictures.empty()) {
+        throw BadOption("Peça os retratos ou a demonstração, não os dois.");
+      }
+      value = &options.pictures;
+      options.mode = name == "--retratos" ? Mode::kPortraits : Mode::kDemonstration;
+    }
+    if (value == nullptr) throw BadOption("A opção '" + name + "' não existe.");
+    if (i + 1 == arguments.size() || arguments[i + 1].empty()) {
+      throw BadOption("Falta o valor depois de " + name + ".");
+    }
+    *value = arguments[++i];
+  }
+  if (!options.pictures.empty() && !options.database.empty()) {
+    throw BadOption("A demonstração e os retratos usam um banco de dados próprio: tire --banco.");
+  }
+  return options;
+}
+
+}  // namespace host

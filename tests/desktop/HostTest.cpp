@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <memory>
+
+#include "desktop/DesktopQt.h"
+#include "desktop/FormView.h"
+#include "desktop/host/MainWindow.h"
+#include "desktop/host/Options.h"
+#include "desktop/host/Player.h"
+#include "desktop/host/Scripts.h"
+#include "frame/servicos/Servico.h"
+#include "platform/Screens.h"
+#include "services/Banco.h"
+#include "services/Demonstracao.h"
+#include "services/RegistrarServicos.h"
+#include "services/Travas.h"
+#include "siblings/RegistrarTelas.h"
+
+namespace {
+
+using host::Step;
+using Act = Step::Act;
+
+/// The host application in this process, over a demonstration clinic of its own.
+class HostTest : public testing::Test {
+ protected:
+  HostTest() : desktop(folder.path().toStdString()) {
+    platform::Desktop::Install(&desktop);
+    const std::string address = "sqlite:" + folder.filePath(QStringLiteral("c.db")).toStdString();
+    services::CriarBanco(address);
+    bank = services::AbrirBanco(address, desktop, desktop.ComputerName());
+    users = services::CriarDemonstracao(*bank);
+    services::RegistrarServicos(bank);
+    siblings::RegistrarTelas();
+    window = std::make_unique<host::MainWindow>(desktop);
+    window->onClosed = [this] { closed = true; };
+    window->resize(1024, 768);
+    window->show();
+    window->activateWindow();
+    window->ShowSignIn();
+  }
+  ~HostTest() override {
+    window.reset();
+    servicos::EsquecerTodos();
+    bank.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    platform::Desktop::Install(nullptr);
+  }
+
+  /// Plays the script, then `next` within the loops that it left open; until the window closes.
+  void Play(std::vector<Step> script, const std::function<void()>& next) {
+    host::Player player(desktop, *window, std::move(script));
+    player.words = {{"usuario", users.front().nome}, {"senha", users.front().senha}};
+    player.tell = [](const std::string&) {};
+    player.folder = folder.path().toStdString();
+    player.onEnd = [&](bool done, const std::string& why) {
+      EXPECT_TRUE(done) << why;
+      next();
+    };
+    player.Start();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return closed; }, 60'000));
+  }
+
+  QTemporaryDir folder;
+  desktop::DesktopQt desktop;
+  std::shared_ptr<services::Banco> bank;
+  std::vector<services::UsuarioDeDemonstracao> users;
+  std::unique_ptr<host::MainWindow> window;
+  bool closed = false;
+};
+
+const std::vector<Step> kUpToCustomer{
+    {Act::kType, "zvtxtUsuario", "{usuario}"},
+    {Act::kKey, "", "Enter"},
+    {Act::kType, "zvtxtSenha", "{senha}"},
+    {Act::kKey, "", "Enter"},
+    {Act::kSettle, "frmCaixaOperar"},
+    {Act::kPick, "zvcmbCaixas", "Recep"},
+    {Act::kTool, "tbMenuCaixa", "Abertura"},
+    {Act::kClick, "zvcmdSalvar"},
+    {Act::kSettle, "frmCaixaOperar"},
+    {Act::kType, "zvfCodigoDoCliente", "2"},
+    {Act::kKey, "", "Enter"},
+    {Act::kSettle, "frmCaixaOperar"},
+};
+
+TEST_F(HostTest, ClosingAtRestFreesTheCustomerWhoIsBeingServed) {
+  Play(kUpToCustomer, [&] {
+    EXPECT_EQ(services::ListarTravas(*bank).size(), 1U);
+    window->close();
+  });
+  EXPECT_TRUE(services::ListarTravas(*bank).empty());
+}
+
+TEST_F(HostTest, ClosingInMidWorkUnwindsFirstAndThenFreesTheCustomer) {
+  std::vector<Step> script = kUpToCustomer;
+  script.push_back({Act::kPick, "zvcmbTiposDeServicos", "Cl"});
+  script.push_back({Act::kSettle, "frmCaixaOperar"});
+  script.push_back({Act::kType, "zvfCodigoDoServico", "1"});
+  script.push_back({Act::kKey, "", "Enter"});
+  script.push_back({Act::kSettle, "frmCaixaOperar"});
+  script.push_back({Act::kClick, "zvcmdAdicionar"});
+  script.push_back({Act::kClick, "zvcmdPagamento"});
+  script.push_back({Act::kScreen, "frmCaixaPagar"});
+  script.push_back({Act::kClick, "zvcmdAdicionar"});  // Without a method: a box over the dialog.
+  script.push_back({Act::kBox, "", "Informe a forma de pagamento."});
+  Play(script, [&] {
+    window->close();
+    EXPECT_FALSE(closed) << "the box still stood on the stack";
+    EXPECT_EQ(services::ListarTravas(*bank).size(), 1U);
+  });
+  EXPECT_EQ(platform::screens::Modal(), nullptr);
+  EXPECT_TRUE(services::ListarTravas(*bank).empty());
+}
+
+TEST_F(HostTest, AWrongPasswordIsToldOnTheSpot) {
+  const std::vector<Step> script{
+      {Act::kClick, "zvcmdEntrar"},
+      {Act::kTell, "lblRecusa", ""},
+      {Act::kType, "zvtxtUsuario", "{usuario}"},
+      {Act::kType, "zvtxtSenha", "errada"},
+      {Act::kKey, "", "Enter"},
+      {Act::kTell, "lblRecusa", ""},
+  };
+  Play(script, [&] {
+    const platform::Form& form = *platform::screens::Front();
+    EXPECT_EQ(form.Name(), "frmEntrada");
+    EXPECT_EQ(form.ActiveControl()->Name(), "zvtxtSenha");
+    EXPECT_FALSE(form.FindControl("lblRecusa")->Words().empty());
+    window->close();
+  });
+}
+
+/// The program itself.
+class ProgramTest : public testing::Test {
+ protected:
+  struct Ended {
+    int status = -1;
+    std::string said, complained;
+  };
+  Ended Run(const QStringList& arguments, bool display = true) {
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), folder.filePath(QStringLiteral("dados")));
+    environment.remove(QStringLiteral("DISPLAY"));
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    if (display) {
+      environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    }
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(CAIXA_PROGRAM), arguments);
+    EXPECT_TRUE(program.waitForFinished(60'000)) << "it did not end";
+    return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1,
+            program.readAllStandardOutput().toStdString(),
+            program.readAllStandardError().toStdString()};
+  }
+  QString Path(const char* name) { return folder.filePath(QString::fromLatin1(name)); }
+  void Write(const char* name, const char* bytes) {
+    QFile file(Path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+  }
+
+  QTemporaryDir folder;
+};
+
+TEST_F(ProgramTest, WhatItDoesNotUnderstandEndsWithTwo) {
+  EXPECT_EQ(Run({QStringLiteral("--bano"), QStringLiteral("x")}).status, 2);
+  EXPECT_EQ(Run({QStringLiteral("--banco")}).status, 2);
+  const Ended both = Run({QStringLiteral("--retratos"), Path("a"), QStringLiteral("--banco"),
+                          QStringLiteral("sqlite:x.db")});
+  EXPECT_EQ(both.status, 2);
+  EXPECT_NE(both.complained.find("Uso: caixa"), std::string::npos);
+  EXPECT_EQ(Run({QStringLiteral("--ajuda")}, false).status, 0);
+}
+
+TEST_F(ProgramTest, ADatabaseThatCannotBeOpenedIsToldAndLeftAsItIs) {
+  Write("texto.db", "isto não é um banco de dados, e é comprido o bastante para parecer um");
+  Write("vazio.db", "");
+  for (const char* name : {"texto.db", "vazio.db", "nao-existe.db"}) {
+    const Ended ended = Run({QStringLiteral("--banco"), QStringLiteral("sqlite:") + Path(name)});
+    EXPECT_EQ(ended.status, 1) << name;
+    EXPECT_FALSE(ended.complained.empty()) << name;
+  }
+  EXPECT_FALSE(QFile::exists(Path("nao-existe.db")));
+  EXPECT_EQ(QFile(Path("vazio.db")).size(), 0);
+  EXPECT_EQ(Run({QStringLiteral("--banco"), QStringLiteral("oracle:x")}).status, 1);
+  EXPECT_EQ(Run({QStringLiteral("--pasta"), QStringLiteral("/proc/caixa")}).status, 1);
+}
+
+TEST_F(ProgramTest, WithoutAScreenItSaysSo) {
+  const Ended ended = Run({}, false);
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_NE(ended.complained.find("--demonstracao"), std::string::npos);
+}
+
+TEST_F(ProgramTest, TheDemonstrationSellsThroughTheWindows) {
+  const Ended ended = Run({QStringLiteral("--demonstracao"), Path("demo")}, false);
+  EXPECT_EQ(ended.status, 0) << ended.complained;
+  EXPECT_NE(ended.said.find("Líquido a pagar: 320,40"), std::string::npos) << ended.said;
+  EXPECT_NE(ended.said.find("Troco: -29,60"), std::string::npos);
+  const QStringList pictures = QDir(Path("demo")).entryList({QStringLiteral("*.png")});
+  EXPECT_GE(pictures.size(), 10);
+  EXPECT_FALSE(pictures.contains(QStringLiteral("falha.png")));
+}
+
+}  // namespace
