@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The house rules of the source tree, each a function from a file to what it finds there.
+namespace tidy {
+
+/// A file of the tree, by its path from the root with "/" for separator.
+struct Source {
+  std::string path;
+  std::string text;
+
+  bool IsUnder(std::string_view folder) const { return path.starts_with(folder); }
+  bool IsHeader() const { return path.ends_with(".h"); }
+  bool IsCode() const { return IsHeader() || path.ends_with(".cpp"); }
+};
+
+/// The text files of the tree: src, tests, bench, docs, cmake and what lies beside them.
+const std::vector<Source>& Tree();
+
+/// The text by lines, without their ends.
+std::vector<std::string_view> Lines(std::string_view text);
+
+/// C++ with everything blanked that is not code: comments, the insides of strings and characters,
+/// and preprocessor lines. Positions and lines stay where they are.
+struct Code {
+  std::string text;
+  std::vector<bool> inRawString;  ///< By line, from 0: the line begins inside a raw string.
+  std::vector<int> directives;    ///< The lines, from 1, on which a directive begins.
+};
+Code CodeOf(std::string_view text);
+
+/// What a file includes, and from where. What stands in a comment or a string is no include.
+struct Include {
+  int line = 0;  ///< From 1.
+  std::string target;
+  bool angled = false;  ///< In angle brackets, as against quotes.
+};
+std::vector<Include> IncludesOf(std::string_view text);
+
+/// A function with its length in lines, from its opening brace to the closing one. Lines of a table
+/// inside it, that is of a braced list or a raw string, do not count.
+struct Function {
+  int line = 0;  ///< Of the opening brace, from 1.
+  int length = 0;
+};
+/// Goes by braces in the layout that clang-format gives: a braced list follows its type without a
+/// blank or stands behind "(", ",", "=" or "{", a body follows a blank. Lambdas count with the
+/// function they stand in, but not inside a table. Braces that a macro hides are not seen.
+std::vector<Function> FunctionsOf(const Code& code);
+
+}  // namespace tidy
