@@ -101,7 +101,6 @@ Trouble TroubleOfSqlite(int extendedCode) {
     case SQLITE_READONLY:
       return Trouble::kReadOnly;
     case SQLITE_IOERR:
-    case SQLITE_CANTOPEN:
     case SQLITE_NOLFS:
       return Trouble::kStorage;
     case SQLITE_CORRUPT:
@@ -110,6 +109,7 @@ Trouble TroubleOfSqlite(int extendedCode) {
       return Trouble::kNotADatabase;
     case SQLITE_PERM:
     case SQLITE_AUTH:
+    case SQLITE_CANTOPEN:
       return Trouble::kNoPermission;
     case SQLITE_SCHEMA:
       return Trouble::kSchema;

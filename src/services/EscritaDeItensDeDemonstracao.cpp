@@ -13,11 +13,20 @@ constexpr std::int64_t kPercent = base::Currency::kScale;
 constexpr std::int64_t kCostPercent = 62;
 
 /// A barcode of thirteen digits, the last of which checks the others.
-std::string Barcode(std::size_t product) {
-  const std::string twelve = "78900000" + std::to_string(1000 + product);
+std::string Checked(const std::string& twelve) {
   int sum = 0;
   for (std::size_t i = 0; i < twelve.size(); ++i) sum += (twelve[i] - '0') * (i % 2 == 0 ? 1 : 3);
   return twelve + std::to_string((10 - sum % 10) % 10);
+}
+
+std::string Barcode(std::size_t product) {
+  return Checked("78900000" + std::to_string(1000 + product));
+}
+
+/// What the scale prints, before it has weighed: 2, six digits of code, five of weight.
+std::string EmptyLabel(std::int32_t code) {
+  constexpr std::int32_t kSixDigits = 1'000'000;
+  return Checked("2" + std::to_string(kSixDigits + code).substr(1) + "00000");
 }
 
 void AddPackedGoods(std::vector<Params>& rows) {
@@ -42,9 +51,9 @@ void AddPackedGoods(std::vector<Params>& rows) {
 void AddBulkGoods(std::vector<Params>& rows) {
   for (const Granel& goods : Graneis()) {
     const std::int64_t price = goods.preco * kCentavo;
-    rows.push_back({goods.codigo, "", goods.nome, SearchForm(goods.nome), "23099010", "A granel",
-                    "Balança", "SC", "KG", price * kCostPercent / 100 / kCentavo * kCentavo, price,
-                    0});
+    rows.push_back({goods.codigo, EmptyLabel(goods.codigo), goods.nome, SearchForm(goods.nome),
+                    "23099010", "A granel", "Balança", "SC", "KG",
+                    price * kCostPercent / 100 / kCentavo * kCentavo, price, 0});
   }
 }
 

@@ -1,7 +1,5 @@
 #include "services/LeituraDeVenda.h"
 
-#include <algorithm>
-#include <cmath>
 #include <limits>
 #include <set>
 

@@ -1,6 +1,8 @@
 #include "services/NameSearch.h"
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "base/Text.h"
@@ -20,16 +22,33 @@ bool IsSampled(Engine engine, const std::string& part) {
   return engine == Engine::kSqlite || base::Length(part) >= kLongPart;
 }
 
-/// Trigrams that do not overlap, spread evenly from the first to the last; at most kSamples.
+/// At most kSamples trigrams: one of every word, since names have their words in common one by one,
+/// then others of the longest words. None twice, and none that lies across two words while there is
+/// another: of those PostgreSQL's index knows no more than how the second one begins.
 std::vector<std::string> Samples(const std::string& part) {
-  const std::u32string characters = base::ToCharacters(part);
-  const std::size_t last = characters.size() - kTrigram;
-  const std::size_t count = std::min(kSamples, last / kTrigram + 1);
+  const std::u32string text = base::ToCharacters(part);
+  const std::size_t most = std::min(kSamples, text.size() / kTrigram);
   std::vector<std::string> samples;
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::size_t at = count == 1 ? 0 : last * i / (count - 1);
-    samples.push_back(base::FromCharacters(characters.substr(at, kTrigram)));
+  const auto take = [&](std::size_t at) {
+    if (samples.size() == most) return;
+    std::string sample = base::FromCharacters(text.substr(at, kTrigram));
+    if (std::ranges::find(samples, sample) == samples.end()) samples.push_back(std::move(sample));
+  };
+  std::vector<std::pair<std::size_t, std::size_t>> longWords;  // Length and place.
+  for (std::size_t at = 0, end = 0; at < text.size(); at = end + 1) {
+    end = std::min(text.find(U' ', at), text.size());
+    const std::size_t length = end - at;
+    if (length >= kTrigram) take(at);
+    // A word of two letters, with the blank on one of its sides.
+    if (length + 1 == kTrigram) take(at == 0 ? at : at - 1);
+    if (length > kTrigram) longWords.emplace_back(length, at);
   }
+  std::ranges::stable_sort(longWords, std::greater(), [](const auto& word) { return word.first; });
+  for (const auto& [length, at] : longWords) {
+    take(at + length - kTrigram);
+    take(at + 1);
+  }
+  for (std::size_t at = 0; at + kTrigram <= text.size(); ++at) take(at);
   return samples;
 }
 
@@ -110,11 +129,20 @@ Params NameSearch::Bound(Engine engine, const std::string& part, Params others) 
   return others;
 }
 
-void SelectNamed(Session& session, Outcome& outcome, std::span<const Field> fields,
-                 const NameSearch& search, const std::string& part, const Params& others,
-                 std::string_view what) {
-  SelectCapped(session, outcome, fields, search.For(session.Kind(), part),
-               NameSearch::Bound(session.Kind(), part, others), what);
+void Listing::Show(const Statement& statement, const Params& params) const {
+  const Selected selected = SelectRows(session, fields, statement, params, kMostRows);
+  outcome.rows = selected.rows;
+  if (!selected.more) return;
+  const std::string most = std::to_string(kMostRows);
+  outcome.sentence = "Há mais de " + most + ' ' + std::string(what) + " com esse nome e só " +
+                     most + " são mostrados. Digite mais letras para reduzir a lista.";
+}
+
+void Listing::ShowNamed(const NameSearch& search, const Statement& shorter, std::string_view text,
+                        const Params& others) const {
+  const auto part = NameSearch::PartIn(text);
+  if (!part) return Show(shorter, others);
+  Show(search.For(session.Kind(), *part), NameSearch::Bound(session.Kind(), *part, others));
 }
 
 }  // namespace services

@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "services/Search.h"
+#include "services/Fields.h"
+#include "services/Outcome.h"
 #include "services/Session.h"
 
 namespace services {
@@ -13,7 +14,7 @@ namespace services {
 /// A selection of rows of a table by part of their names, through the index of trigrams.
 ///
 /// A part such as "maria silva" is made of trigrams that half the clinic's customers share, and the
-/// index has a list of rows for each. So only a few of them are looked up, spread over the part,
+/// index has a list of rows for each. So only a few of them are looked up, from all of its words,
 /// and the rows that have those are held against the whole part.
 class NameSearch {
  public:
@@ -40,9 +41,19 @@ class NameSearch {
   Statement bySamples_;  ///< For parts that are long.
 };
 
-/// SelectCapped by part of a name; `others` are the values of the other places.
-void SelectNamed(Session& session, Outcome& outcome, std::span<const Field> fields,
-                 const NameSearch& search, const std::string& part, const Params& others,
-                 std::string_view what);
+/// The rows that an operator looks through, kMostRows at most; when there are more, the outcome
+/// says so.
+struct Listing {
+  Session& session;
+  Outcome& outcome;
+  std::span<const Field> fields;
+  std::string_view what;  ///< The rows in the plural, as in "clientes".
+
+  void Show(const Statement& statement, const Params& params) const;
+  /// By a text that the operator typed: those whose names have it, or those of `shorter` where it
+  /// is too short for that. Both have the same `others` in their own places.
+  void ShowNamed(const NameSearch& search, const Statement& shorter, std::string_view text,
+                 const Params& others) const;
+};
 
 }  // namespace services

@@ -1,7 +1,10 @@
+#include <libpq-fe.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <system_error>
 
@@ -31,6 +34,9 @@ struct Address {
   }
 };
 
+/// How long a writer waits for the other one. A sale takes milliseconds; this is for slow disks.
+constexpr auto kWorkingPatience = std::chrono::seconds(10);
+
 /// A server that does not answer may not hold the screen for minutes.
 constexpr std::string_view kLimits[] = {"connect_timeout=5", "tcp_user_timeout=15000",
                                         "keepalives_idle=15", "keepalives_interval=5",
@@ -48,6 +54,14 @@ std::string WithLimits(std::string_view connection) {
   return text;
 }
 
+/// Whether the server's library understands a connection text. It is asked beforehand, since what
+/// it would complain of afterwards quotes the text, and with it the password.
+bool IsUnderstood(const std::string& connection) {
+  const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(
+      PQconninfoParse(connection.c_str(), nullptr), PQconninfoFree);
+  return options != nullptr;
+}
+
 Address AddressOf(std::string_view text) {
   if (text.starts_with(kSqlitePrefix) && text.size() > kSqlitePrefix.size()) {
     const std::string file(text.substr(kSqlitePrefix.size()));
@@ -59,8 +73,13 @@ Address AddressOf(std::string_view text) {
                           "postgresql:CONEXÃO, como em sqlite:clinica.db.");
   }
   const std::string_view rest = text.substr(kPostgresPrefix.size());
-  return {Engine::kPostgres, WithLimits(rest.starts_with("//") ? text : rest),
-          "do servidor PostgreSQL"};
+  const std::string connection = WithLimits(rest.starts_with("//") ? text : rest);
+  if (!IsUnderstood(connection)) {
+    throw FalhaDeAbertura(Motivo::kEnderecoInvalido,
+                          "O endereço do servidor PostgreSQL não foi entendido. Escreva-o como em "
+                          "\"postgresql:host=servidor dbname=caixa user=caixa\".");
+  }
+  return {Engine::kPostgres, connection, "do servidor PostgreSQL"};
 }
 
 [[noreturn]] void Refuse(Motivo why, const std::string& sentence) {
@@ -104,9 +123,6 @@ Address AddressOf(std::string_view text) {
              std::string("O usuário do banco de dados não tem as permissões de que o caixa precisa "
                          "no servidor PostgreSQL. ") +
                  error.what());
-    case Trouble::kStorage:
-      if (isFile) RefuseForPermission(address);
-      break;
     case Trouble::kConnectionLost:
       Refuse(Motivo::kServidorInacessivel,
              std::string("Não foi possível entrar no servidor PostgreSQL. Confira se ele está "
@@ -140,7 +156,7 @@ std::unique_ptr<Session> Connect(const Address& address, const std::string& comp
   if (address.engine == Engine::kSqlite) {
     return std::make_unique<SqliteSession>(address.target, file);
   }
-  return std::make_unique<PostgresSession>(address.target, "caixa " + computer);
+  return std::make_unique<PostgresSession>(address.target, computer);
 }
 
 void CheckSchema(Session& session, const Address& address) {
@@ -177,6 +193,7 @@ void CheckRights(Session& session, const Address& address) {
   static const Statement rights(
       "SELECT 1",
       "SELECT current_setting('transaction_read_only') = 'off'"
+      " AND has_sequence_privilege('vendas_numero_seq', 'USAGE')"
       " AND bool_and(has_table_privilege(c.oid, 'SELECT') AND has_table_privilege(c.oid, 'INSERT')"
       " AND has_table_privilege(c.oid, 'UPDATE') AND has_table_privilege(c.oid, 'DELETE'))"
       " FROM pg_class c WHERE c.relkind = 'r' AND c.relname <> 'esquema_do_caixa'"
@@ -184,7 +201,7 @@ void CheckRights(Session& session, const Address& address) {
       " WHERE oid = to_regclass('esquema_do_caixa'))");
   session.Select(rights, {}, [&](const Row& row) {
     if (row.Text(0) != "t")
-      throw DatabaseError(Trouble::kNoPermission, "SELECT, INSERT, UPDATE, DELETE");
+      throw DatabaseError(Trouble::kNoPermission, "SELECT, INSERT, UPDATE, DELETE, USAGE");
   });
 }
 
@@ -194,7 +211,7 @@ void Settle(Session& session) {
   auto* const file = dynamic_cast<SqliteSession*>(&session);
   if (file == nullptr) return;
   file->RunScript("PRAGMA journal_mode = WAL");
-  file->BePatient();
+  file->BePatientFor(kWorkingPatience);
 }
 
 /// The folder of a new file, which is what can be wrong before there is a file.
@@ -240,7 +257,8 @@ void CriarBanco(std::string_view endereco) {
     Settle(*session);
     Migrate(*session);
   } catch (const DatabaseError& error) {
-    if (isNew) std::filesystem::remove(address.target, ignored);
+    // Busy is who came second: the file is then the other one's, and being created.
+    if (isNew && error.What() != Trouble::kBusy) std::filesystem::remove(address.target, ignored);
     RefuseFor(error, address);
   }
 }

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <iterator>
+
 #include "services/ClinicaDeDemonstracao.h"
 #include "services/DadosDeDemonstracao.h"
 #include "services/Preenchimento.h"
@@ -6,6 +9,8 @@ namespace services::demonstracao {
 namespace {
 
 constexpr std::int64_t kReal = base::Currency::kScale;
+constexpr std::int64_t kCentavo = base::Currency::kScale / 100;
+constexpr std::int64_t kPercent = base::Currency::kScale;
 
 /// Lines of work done or goods set aside, by the codes of customer, item, animal and employee.
 struct PreSale {
@@ -40,13 +45,13 @@ Params AnimalOf(Session& session, std::int32_t customer, std::int32_t at) {
   return animal;
 }
 
-/// Type or barcode, name, unit, price and cost of the item.
+/// Type or barcode, name, unit, price, cost and the goods' own commission of the item.
 Params ItemOf(Session& session, const PreSale& line) {
   static const Statement service(
-      "SELECT tipo, '', nome, '', valor_de_venda, custo FROM servicos WHERE codigo = $1");
+      "SELECT tipo, '', nome, '', valor_de_venda, custo, 0 FROM servicos WHERE codigo = $1");
   static const Statement product(
-      "SELECT 0, codigo_de_barras, nome, unidade_de_venda, valor_de_venda, valor_de_custo"
-      " FROM produtos WHERE codigo_interno = $1");
+      "SELECT 0, codigo_de_barras, nome, unidade_de_venda, valor_de_venda, valor_de_custo,"
+      " percentual_de_comissao FROM produtos WHERE codigo_interno = $1");
   Params item;
   session.Select(line.kind == 1 ? service : product, {line.item}, [&](const Row& row) {
     item = {line.kind == 1 ? Param(row.Integer(0)) : Param(),
@@ -54,9 +59,22 @@ Params ItemOf(Session& session, const PreSale& line) {
             row.Text(2),
             row.Text(3),
             row.Integer(4),
-            row.Integer(5)};
+            row.Integer(5),
+            row.Integer(6)};
   });
   return item;
+}
+
+/// The employee's share of the line in ten-thousandths of a percent: for goods their own, for work
+/// by its type.
+std::int64_t Commission(const PreSale& line, const Params& item) {
+  if (line.employee == 0) return 0;
+  if (line.kind == 2) return *item[6].Integer();
+  const Funcionario& employee = Funcionarios()[line.employee - 1];
+  // The last share is for the other types, whose number is 99.
+  const auto last = std::ssize(employee.percentuais);
+  const std::int32_t share = employee.percentuais[std::min(*item[0].Integer(), last) - 1];
+  return (employee.unica ? employee.percentualUnico : share) * kPercent;
 }
 
 Params PreSaleRow(Session& session, const PreSale& line, base::DateTime now) {
@@ -65,7 +83,8 @@ Params PreSaleRow(Session& session, const PreSale& line, base::DateTime now) {
       line.kind == 1 ? AnimalOf(session, line.customer, line.animalAt) : Params{Param(), ""};
   const base::DateTime when = now.PlusDays(-line.daysAgo);
   const std::int64_t gross = *item[4].Integer() * line.quantity;
-  const std::int64_t discount = gross * line.discountPercent / 100;
+  const std::int64_t discount = gross * line.discountPercent / 100 / kCentavo * kCentavo;
+  const std::int64_t commission = Commission(line, item);
   const Param employee = line.employee == 0 ? Param() : Param(line.employee);
   const std::string_view name =
       line.employee == 0 ? std::string_view() : Funcionarios()[line.employee - 1].apelido;
@@ -86,6 +105,8 @@ Params PreSaleRow(Session& session, const PreSale& line, base::DateTime now) {
           discount,
           gross - discount,
           item[5],
+          commission,
+          (gross - discount) * commission / 100 / kPercent / kCentavo * kCentavo,
           item[3],
           when,
           "marina"};
@@ -115,13 +136,14 @@ Params DebtRow(const Debt& debt, base::DateTime now) {
 void EscreverPendencias(Session& session, base::DateTime agora) {
   std::vector<Params> lines;
   for (const PreSale& line : kPreSales) lines.push_back(PreSaleRow(session, line, agora));
-  InsertRows(session, "pre_vendas",
-             "tipo_de_lancamento, codigo_do_cliente, data_de_lancamento, tipo_de_servico,"
-             " codigo_de_barras, codigo_do_item, nome_do_item, codigo_do_animal, nome_do_animal,"
-             " codigo_do_funcionario, nome_do_funcionario, quantidade, valor_unitario,"
-             " desconto_em_percentual, desconto_em_valor, valor_total, custo, unidade, incluido_em,"
-             " incluido_por",
-             lines);
+  InsertRows(
+      session, "pre_vendas",
+      "tipo_de_lancamento, codigo_do_cliente, data_de_lancamento, tipo_de_servico,"
+      " codigo_de_barras, codigo_do_item, nome_do_item, codigo_do_animal, nome_do_animal,"
+      " codigo_do_funcionario, nome_do_funcionario, quantidade, valor_unitario,"
+      " desconto_em_percentual, desconto_em_valor, valor_total, custo, percentual_de_comissao,"
+      " valor_da_comissao, unidade, incluido_em, incluido_por",
+      lines);
   std::vector<Params> debts;
   for (const Debt& debt : kDebts) debts.push_back(DebtRow(debt, agora));
   InsertRows(session, "contas_a_receber",

@@ -66,8 +66,10 @@ class Texts {
   std::vector<const char*> texts_;
 };
 
-std::string RandomLabel(const std::string& label) {
-  return label + ' ' + std::to_string(randombytes_random());
+/// Tells this connection from every other one. The server keeps no more than 63 characters of it,
+/// so the number stands in front of the computer's name.
+std::string RandomLabel(const std::string& computer) {
+  return "caixa " + std::to_string(randombytes_random()) + ' ' + computer;
 }
 
 }  // namespace
@@ -93,8 +95,8 @@ struct PostgresSession::Connection {
   }
 };
 
-PostgresSession::PostgresSession(std::string connection, const std::string& label)
-    : text_(std::move(connection)), label_(label) {
+PostgresSession::PostgresSession(std::string connection, std::string computer)
+    : text_(std::move(connection)), computer_(std::move(computer)) {
   if (sodium_init() < 0) throw DatabaseError(Trouble::kOther, "libsodium");
   Connect();
 }
@@ -137,9 +139,14 @@ void PostgresSession::Connect() {
     // A connection that came back by itself in mid-transaction would keep half of it.
     fresh->link.inhibit_reactivation(true);
 #pragma GCC diagnostic pop
-    fresh->label = RandomLabel(label_);
     fresh->work.exec(kSettings);
-    fresh->work.exec_params("SELECT set_config('application_name', $1, false)", fresh->label);
+    // The server answers with the label as it will list it: cut short, and without accents.
+    fresh->label =
+        fresh->work
+            .exec_params("SELECT set_config('application_name', $1, false)", RandomLabel(computer_))
+            .front()
+            .front()
+            .c_str();
     connection_ = std::move(fresh);
   });
 }

@@ -13,9 +13,9 @@ namespace services {
 /// that dies in a transaction makes that transaction fail, and the next use connects again.
 class PostgresSession : public Session {
  public:
-  /// Connects. `connection` is a connection text or address of libpq; `label` names this program
-  /// and computer in the server's list of sessions.
-  PostgresSession(std::string connection, const std::string& label);
+  /// Connects. `connection` is a connection text or address of libpq; `computer` is shown behind
+  /// the name of this program in the server's list of sessions.
+  PostgresSession(std::string connection, std::string computer);
   ~PostgresSession() override;
 
   Engine Kind() const override { return Engine::kPostgres; }
@@ -48,7 +48,7 @@ class PostgresSession : public Session {
   bool IsGone(const std::string& label);
 
   std::string text_;
-  std::string label_;
+  std::string computer_;
   bool inTransaction_ = false;
   std::unique_ptr<Connection> connection_;
 };

@@ -2,15 +2,20 @@
 
 namespace services {
 
-void InsertRows(Session& session, const std::string& table, const std::string& columns,
-                const std::vector<Params>& rows) {
-  if (rows.empty()) return;
+std::string Places(std::size_t count) {
   std::string places;
-  for (std::size_t place = 1; place <= rows.front().size(); ++place) {
+  for (std::size_t place = 1; place <= count; ++place) {
     if (place > 1) places += ", ";
     places.append("$").append(std::to_string(place));
   }
-  const Statement insert("INSERT INTO " + table + " (" + columns + ") VALUES (" + places + ")");
+  return places;
+}
+
+void InsertRows(Session& session, const std::string& table, const std::string& columns,
+                const std::vector<Params>& rows) {
+  if (rows.empty()) return;
+  const Statement insert("INSERT INTO " + table + " (" + columns + ") VALUES (" +
+                         Places(rows.front().size()) + ")");
   for (const Params& row : rows) session.Run(insert, row);
 }
 

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
 #include "services/Session.h"
 
 namespace services {
+
+/// "$1, $2, $3" and so on, for a row of `count` values.
+std::string Places(std::size_t count);
 
 /// Inserts rows into a table, given the names of their columns parted by commas and one value a
 /// column. For filling a database: the statement is made anew at each call.

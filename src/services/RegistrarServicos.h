@@ -11,8 +11,9 @@ class Banco;
 /// (servicos::EsquecerTodos).
 ///
 /// What the contract leaves open is settled thus for all of them:
-/// - a search by part of a name gives at most 200 rows, in the order of the names; when there are
-///   more, the status is a success and DescricaoDaFalha says so in a sentence, else it is empty;
+/// - a search by part of a name gives at most 200 rows, in the order of the names, and in a pick
+///   list what has just that code before them; when there are more, the status is a success and
+///   DescricaoDaFalha says so in a sentence, else it is empty;
 /// - fewer than three characters find nobody by name, only by code;
 /// - a fault of the database has the number of its services::Trouble (DatabaseError.h).
 void RegistrarServicos(const std::shared_ptr<Banco>& banco);

@@ -30,9 +30,10 @@ int SchemaIn(Session& session) {
   static const Statement hasVersion(
       "SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name = 'esquema_do_caixa'",
       "SELECT count(*) FROM pg_class WHERE oid = to_regclass('esquema_do_caixa')");
-  static const Statement tables(
-      "SELECT count(*) FROM sqlite_schema",
-      "SELECT count(*) FROM information_schema.tables WHERE table_schema = current_schema()");
+  static const Statement tables("SELECT count(*) FROM sqlite_schema",
+                                "SELECT count(*) FROM pg_class WHERE relnamespace ="
+                                " (SELECT oid FROM pg_namespace WHERE nspname = current_schema())"
+                                " AND relkind IN ('r', 'p', 'v', 'm', 'f')");
   static const Statement version("SELECT versao FROM esquema_do_caixa");
   if (SingleNumber(session, hasVersion) == 0) {
     return SingleNumber(session, tables) == 0 ? kNothing : kSomethingElse;

@@ -40,16 +40,6 @@ std::string SearchForm(std::string_view nickname, std::string_view name) {
   return SearchForm(nickname).append("\n").append(SearchForm(name));
 }
 
-void SelectCapped(Session& session, Outcome& outcome, std::span<const Field> fields,
-                  const Statement& statement, const Params& params, std::string_view what) {
-  const Selected selected = SelectRows(session, fields, statement, params, kMostRows);
-  outcome.rows = selected.rows;
-  if (!selected.more) return;
-  const std::string most = std::to_string(kMostRows);
-  outcome.sentence = "Há mais de " + most + ' ' + std::string(what) + " com esse nome e só " +
-                     most + " são mostrados. Digite mais letras para reduzir a lista.";
-}
-
 std::optional<std::int32_t> CodeIn(std::string_view text) {
   const std::string digits = base::Trim(text);
   std::int32_t code = 0;

@@ -2,29 +2,21 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
-
-#include "services/Fields.h"
-#include "services/Outcome.h"
-#include "services/Session.h"
 
 namespace services {
 
 /// A search by part of a name gives no more rows than an operator can look through.
 inline constexpr std::int64_t kMostRows = 200;
+/// For such a selection: one row more than is shown, to know of it.
+inline constexpr std::string_view kLimit = " LIMIT 201";
 
 /// The form in which a name stands in a column nome_busca: without case, accents and superfluous
 /// blanks.
 std::string SearchForm(std::string_view name);
 /// The same of a customer's two names, so that no part is found across both.
 std::string SearchForm(std::string_view nickname, std::string_view name);
-
-/// Runs a selection of which an operator sees at most kMostRows rows; when there are more, says so
-/// in the outcome. `what` names them in the plural, as in "clientes".
-void SelectCapped(Session& session, Outcome& outcome, std::span<const Field> fields,
-                  const Statement& statement, const Params& params, std::string_view what);
 
 /// The whole number that a text is, if it is one of 32 bits above 0: how a code is typed.
 std::optional<std::int32_t> CodeIn(std::string_view text);

@@ -14,8 +14,6 @@ namespace {
 
 /// How long opening waits for a file that another program holds for itself.
 constexpr auto kOpeningPatience = std::chrono::seconds(2);
-/// How long a writer waits for the other one. A sale takes milliseconds; this is for slow disks.
-constexpr auto kWorkingPatience = std::chrono::seconds(10);
 
 constexpr const char* kSettings =
     "PRAGMA foreign_keys = ON;"
@@ -111,8 +109,8 @@ SqliteSession::SqliteSession(const std::string& path, File file) {
   });
 }
 
-void SqliteSession::BePatient() {
-  wait_.patience = kWorkingPatience;
+void SqliteSession::BePatientFor(std::chrono::steady_clock::duration patience) {
+  wait_.patience = patience;
 }
 
 SqliteSession::~SqliteSession() {

@@ -29,9 +29,9 @@ class SqliteSession : public Session {
   ~SqliteSession() override;
 
   Engine Kind() const override { return Engine::kSqlite; }
-  /// Opening gives up early on a file that is held by another program; once it is known to be
-  /// ours, writers wait for each other.
-  void BePatient();
+  /// How long to wait for other writers. Opening gives up early on a file that is held by another
+  /// program; once it is known to be ours, it is worth waiting longer.
+  void BePatientFor(std::chrono::steady_clock::duration patience);
 
  private:
   std::int64_t DoRun(const Statement& statement, const Params& params) override;

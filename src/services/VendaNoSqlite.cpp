@@ -2,22 +2,17 @@
 
 #include "services/DatabaseError.h"
 #include "services/EscritaDeVenda.h"
+#include "services/Preenchimento.h"
 #include "services/TabelasDaVenda.h"
 
 namespace services {
 namespace {
 
 /// INSERT of a row whose first columns are `guarded`, and then those of the table.
-std::string InsertText(std::string_view table, const std::string& guarded, int countOfGuarded,
-                       std::span<const Coluna> columns) {
-  std::string places;
-  const int count = countOfGuarded + static_cast<int>(columns.size());
-  for (int place = 1; place <= count; ++place) {
-    if (place > 1) places += ", ";
-    places.append("$").append(std::to_string(place));
-  }
+std::string InsertText(std::string_view table, const std::string& guarded,
+                       std::size_t countOfGuarded, std::span<const Coluna> columns) {
   return "INSERT INTO " + std::string(table) + " (" + guarded + ", " + Nomes(columns) +
-         ") VALUES (" + places + ")";
+         ") VALUES (" + Places(countOfGuarded + columns.size()) + ")";
 }
 
 Params Joined(const Params& first, const Params& rest) {

@@ -5,6 +5,7 @@
 #include "services/Banco.h"
 #include "services/Lancamento.h"
 #include "services/Session.h"
+#include "services/Venda.h"
 
 namespace services {
 namespace {
@@ -45,8 +46,7 @@ void AddTenders(Session& session, VendaRegistrada& sale) {
   });
   auto next = due.begin();
   for (VendaRegistrada::Recebimento& each : sale.recebimentos) {
-    constexpr std::int32_t kOnCredit = 6;
-    if (each.moeda == kOnCredit && next != due.end()) each.vencimento = *next++;
+    if (each.moeda == kACredito && next != due.end()) each.vencimento = *next++;
   }
 }
 

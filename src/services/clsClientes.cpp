@@ -36,7 +36,6 @@ constexpr Field kFields[] = {
 };
 
 constexpr NameSearch::Table kTable{"clientes", "codigo"};
-constexpr std::string_view kLimit = " LIMIT 201";  // One more than is shown, to know of it.
 
 std::string SelectCustomers(std::string_view where) {
   return "SELECT " + ColumnsOf(kFields) + " FROM clientes WHERE " + std::string(where);
@@ -85,34 +84,28 @@ class clsClientes : public SobreBanco<Contrato> {
   }
 
  private:
+  Listing Lista() { return {sessao(), outcome_, kFields, "clientes"}; }
+
   void PorCodigo(std::int32_t codigo) {
     static const Statement select(SelectCustomers("codigo = $1"));
-    Mostrar(select, {codigo});
+    Lista().Show(select, {codigo});
   }
 
   void PorNome(std::string_view nome) {
     static const NameSearch search(
         SelectCustomers("codigo IN ({named}) ORDER BY nome_busca, codigo"), kTable, 0, kLimit);
-    const auto part = NameSearch::PartIn(nome);
-    part ? PorParte(search, *part, {}) : PorCodigo(0);
+    static const Statement nobody(SelectCustomers("1 = 0"));
+    Lista().ShowNamed(search, nobody, nome, {});
   }
 
+  /// Whoever has the code comes first, lest the cap cut him off.
   void PorCodigoOuNome(const std::string& texto) {
     static const NameSearch search(
         SelectCustomers("codigo IN (SELECT CAST($1 AS integer) UNION ALL"
-                        " SELECT * FROM ({named}) n) ORDER BY nome_busca, codigo"),
+                        " SELECT * FROM ({named}) n) ORDER BY codigo <> $1, nome_busca, codigo"),
         kTable, 1, kLimit);
-    const std::int32_t codigo = CodeIn(texto).value_or(0);
-    const auto part = NameSearch::PartIn(texto);
-    part ? PorParte(search, *part, {codigo}) : PorCodigo(codigo);
-  }
-
-  void PorParte(const NameSearch& search, const std::string& part, const Params& others) {
-    SelectNamed(sessao(), outcome_, kFields, search, part, others, "clientes");
-  }
-
-  void Mostrar(const Statement& statement, const Params& params) {
-    SelectCapped(sessao(), outcome_, kFields, statement, params, "clientes");
+    static const Statement code(SelectCustomers("codigo = $1"));
+    Lista().ShowNamed(search, code, texto, {CodeIn(texto).value_or(0)});
   }
 };
 

@@ -26,7 +26,6 @@ constexpr Field kFields[] = {
 };
 
 constexpr NameSearch::Table kTable{"produtos", "codigo_interno"};
-constexpr std::string_view kLimit = " LIMIT 201";  // One more than is shown, to know of it.
 
 std::string SelectProducts(std::string_view where) {
   return "SELECT " + ColumnsOf(kFields) + " FROM produtos WHERE " + std::string(where);
@@ -61,17 +60,20 @@ class clsProdutos : public SobreBanco<Contrato> {
   }
 
  private:
+  Listing Lista() { return {sessao(), outcome_, kFields, "produtos"}; }
+
   void PorCodigo(double codigo, const std::string& barras) {
     static const Statement select(
         base::Replace(SelectProducts("codigo_interno = $1"), "codigo_de_barras", kReadLabel));
     const std::string label = barras.starts_with('2') ? barras : "";
-    Mostrar(select, {CodeIn(codigo).value_or(0), label});
+    Lista().Show(select, {CodeIn(codigo).value_or(0), label});
   }
 
   void PorCodigoDeBarras(const std::string& barras) {
     static const Statement select(
-        SelectProducts("codigo_de_barras = $1 ORDER BY nome_busca, codigo_interno LIMIT 201"));
-    Mostrar(select, {barras});
+        SelectProducts("codigo_de_barras = $1 ORDER BY nome_busca, codigo_interno") +
+        std::string(kLimit));
+    Lista().Show(select, {barras});
   }
 
   void PorNome(const std::string& nome) {
@@ -79,31 +81,23 @@ class clsProdutos : public SobreBanco<Contrato> {
         SelectProducts("codigo_interno IN ({named}) ORDER BY nome_busca, codigo_interno"), kTable,
         0, kLimit);
     static const Statement none(SelectProducts("1 = 0"));
-    const auto part = NameSearch::PartIn(nome);
-    part ? PorParte(search, *part, {}) : Mostrar(none, {});
+    Lista().ShowNamed(search, none, nome, {});
   }
 
-  /// What stands in the search field of a pick list; a code read by the scanner counts too.
+  /// What stands in the search field of a pick list; a code read by the scanner counts too. What
+  /// has the code comes first, lest the cap cut it off.
   void PorCodigoOuNome(const std::string& texto) {
     static const std::string byCode =
         "codigo_interno IN (SELECT CAST($1 AS integer) UNION ALL"
         " SELECT codigo_interno FROM produtos WHERE codigo_de_barras = $2{or})"
-        " ORDER BY nome_busca, codigo_interno";
+        " ORDER BY CASE WHEN codigo_interno = $1 OR codigo_de_barras = $2 THEN 0 ELSE 1 END,"
+        " nome_busca, codigo_interno";
     static const NameSearch search(
         SelectProducts(base::Replace(byCode, "{or}", " UNION ALL SELECT * FROM ({named}) n")),
         kTable, 2, kLimit);
     static const Statement code(SelectProducts(base::Replace(byCode, "{or}", "")));
     const Params codes{CodeIn(texto) ? Param(*CodeIn(texto)) : Param(), texto};
-    const auto part = NameSearch::PartIn(texto);
-    part ? PorParte(search, *part, codes) : Mostrar(code, codes);
-  }
-
-  void PorParte(const NameSearch& search, const std::string& part, const Params& others) {
-    SelectNamed(sessao(), outcome_, kFields, search, part, others, "produtos");
-  }
-
-  void Mostrar(const Statement& statement, const Params& params) {
-    SelectCapped(sessao(), outcome_, kFields, statement, params, "produtos");
+    Lista().ShowNamed(search, code, texto, codes);
   }
 };
 

@@ -19,10 +19,11 @@ constexpr Field kFields[] = {
 
 constexpr NameSearch::Table kTable{"servicos", "codigo"};
 
-/// The type is bound to $1; 0 stands for all of them.
-std::string SelectServices(std::string_view where) {
+/// The type is bound to $1; 0 stands for all of them. `first` is put in front of the order.
+std::string SelectServices(std::string_view where, std::string_view first = "") {
   return "SELECT " + ColumnsOf(kFields) + " FROM servicos WHERE " + std::string(where) +
-         " AND (CAST($1 AS integer) = 0 OR tipo = $1) ORDER BY nome_busca, codigo LIMIT 201";
+         " AND (CAST($1 AS integer) = 0 OR tipo = $1) ORDER BY " + std::string(first) +
+         "nome_busca, codigo" + std::string(kLimit);
 }
 
 class clsServicos : public SobreBanco<Contrato> {
@@ -42,31 +43,25 @@ class clsServicos : public SobreBanco<Contrato> {
   }
 
  private:
+  Listing Lista() { return {sessao(), outcome_, kFields, "serviços"}; }
+
   void PorCodigo(std::int32_t codigo, std::int32_t tipo) {
     static const Statement select(SelectServices("codigo = $2"));
-    Mostrar(select, {tipo, codigo});
+    Lista().Show(select, {tipo, codigo});
   }
 
   void PorNome(const std::string& nome, std::int32_t tipo) {
     static const NameSearch search(SelectServices("codigo IN ({named})"), kTable, 1);
-    const auto part = NameSearch::PartIn(nome);
-    part ? PorParte(search, *part, {tipo}) : PorCodigo(0, tipo);
+    static const Statement none(SelectServices("1 = 0"));
+    Lista().ShowNamed(search, none, nome, {tipo});
   }
 
+  /// What has the code comes first, lest the cap cut it off.
   void PorCodigoOuNome(const std::string& texto, std::int32_t tipo) {
-    static const NameSearch search(SelectServices("(codigo = $2 OR codigo IN ({named}))"), kTable,
-                                   2);
-    const std::int32_t codigo = CodeIn(texto).value_or(0);
-    const auto part = NameSearch::PartIn(texto);
-    part ? PorParte(search, *part, {tipo, codigo}) : PorCodigo(codigo, tipo);
-  }
-
-  void PorParte(const NameSearch& search, const std::string& part, const Params& others) {
-    SelectNamed(sessao(), outcome_, kFields, search, part, others, "serviços");
-  }
-
-  void Mostrar(const Statement& statement, const Params& params) {
-    SelectCapped(sessao(), outcome_, kFields, statement, params, "serviços");
+    static const NameSearch search(
+        SelectServices("(codigo = $2 OR codigo IN ({named}))", "codigo <> $2, "), kTable, 2);
+    static const Statement code(SelectServices("codigo = $2"));
+    Lista().ShowNamed(search, code, texto, {tipo, CodeIn(texto).value_or(0)});
   }
 };
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "roteiro/Scenario.h"
+#include "support/PrivatePostgres.h"
 
 namespace roteiro_tests {
 namespace {
@@ -42,6 +43,17 @@ TEST_P(Cenarios, Played) {
 }
 INSTANTIATE_TEST_SUITE_P(, Cenarios, testing::ValuesIn(FilesIn("cenarios")), NameOf);
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Cenarios);
+
+/// Whole scenarios over a database, each on both engines.
+class Bancos : public testing::TestWithParam<std::string> {};
+TEST_P(Bancos, PlayedOnSqlite) {
+  Play(ROTEIRO_OF_CAIXA, GetParam(), "sqlite:${DIR}/clinica.db");
+}
+TEST_P(Bancos, PlayedOnPostgres) {
+  support::PrivatePostgres server;
+  Play(ROTEIRO_OF_CAIXA, GetParam(), server.NewDatabase());
+}
+INSTANTIATE_TEST_SUITE_P(, Bancos, testing::ValuesIn(FilesIn("bancos")), NameOf);
 #endif
 
 }  // namespace

@@ -66,7 +66,8 @@ void Replace(std::string& text, const std::string& from, const std::string& to) 
 /// One conversation: the last answer, and what the scenario has said of it so far.
 class Player {
  public:
-  explicit Player(std::string program) : programPath_(std::move(program)) {}
+  Player(std::string program, std::string bank)
+      : programPath_(std::move(program)), bank_(std::move(bank)) {}
 
   void Play(const std::string& file) {
     Read(file);
@@ -82,6 +83,7 @@ class Player {
     for (std::string line; std::getline(in, line);) {
       here_ = file + ":" + std::to_string(++number) + ": ";
       if (line.empty() || line.starts_with('#')) continue;
+      Replace(line, "${BANCO}", bank_);
       Replace(line, "${DIR}", folder_.path);
       Follow(line, std::filesystem::path(file).parent_path());
     }
@@ -198,6 +200,7 @@ class Player {
   }
 
   std::string programPath_;
+  std::string bank_;
   Folder folder_;
   std::unique_ptr<Program> program_;
   bool ended_ = false;
@@ -210,9 +213,9 @@ class Player {
 
 }  // namespace
 
-void Play(const std::string& program, const std::string& file) {
+void Play(const std::string& program, const std::string& file, const std::string& bank) {
   try {
-    Player(program).Play(file);
+    Player(program, bank).Play(file);
   } catch (const std::exception& failure) {
     ADD_FAILURE() << failure.what();
   }

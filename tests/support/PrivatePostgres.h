@@ -25,6 +25,8 @@ class PrivatePostgres {
   /// The connection text of a database by its name.
   std::string ConnectionText(const std::string& name) const;
 
+  int Port() const { return port_; }
+
   /// Takes the server away as a power failure does, without a word to its clients.
   void TakeDown();
   /// Brings it back on the same port, and waits until it answers.

@@ -1,6 +1,5 @@
 #include "tools/banco/Comandos.h"
 
-#include <charconv>
 #include <chrono>
 #include <ctime>
 #include <exception>
@@ -11,6 +10,7 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "services/Banco.h"
+#include "services/Search.h"
 #include "tools/banco/Relatorios.h"
 
 namespace banco {
@@ -82,12 +82,8 @@ base::DateTime LerMomento(const std::string& texto) {
 }
 
 std::int32_t LerNumero(const std::string& texto) {
-  std::int32_t numero = 0;
-  const auto [fim, erro] = std::from_chars(texto.data(), texto.data() + texto.size(), numero);
-  if (erro != std::errc{} || fim != texto.data() + texto.size() || numero <= 0) {
-    throw MauUso{"'" + texto + "' não é um número inteiro maior que zero."};
-  }
-  return numero;
+  if (const auto numero = services::CodeIn(texto)) return *numero;
+  throw MauUso{"'" + texto + "' não é um número inteiro maior que zero."};
 }
 
 Pedido Ler(const std::vector<std::string>& argumentos) {

@@ -141,6 +141,18 @@ TEST_P(LookupTest, ASearchThatFindsTooManyIsCutAndSaysSo) {
   EXPECT_EQ("", search("maria", 200)) << "just 200 are all of them";
 }
 
+TEST_P(LookupTest, WhoHasTheCodeIsNotCutOff) {
+  for (std::int32_t code = 1000; code < 1201; ++code) {
+    Customer(code, "Casa 777", "Casa 777 " + std::to_string(code));
+    Product(code, "", "Caixa 777 " + std::to_string(code));
+  }
+  Customer(777, "Zulmira", "Zulmira");
+  Product(777, "", "Zinco");
+  Product(778, "777", "Zinco em pó");
+  EXPECT_TRUE(CustomersByAny("777").starts_with("777; 1000; "));
+  EXPECT_TRUE(ProductsByAny("777").starts_with("777; 778; 1000; "));
+}
+
 TEST_P(LookupTest, ProductsAreFoundByCodeThenBarcodeThenName) {
   Product(1, "7890000010015", "Ração Farejão 1 kg");
   Product(2, "", "Ração a granel");

@@ -32,8 +32,8 @@ int Connect(int port) {
   return server;
 }
 
-/// Passes everything on between the two; true when it cut them at a commit.
-bool Pass(int client, int server, bool mayCut) {
+/// Passes everything on between the two; true when they are to be cut at a commit.
+bool Pass(int client, int server, bool mayCut, CuttingProxy::Cut cut) {
   std::array<char, 65'536> part{};
   bool isCommitting = false;
   for (;;) {
@@ -47,15 +47,16 @@ bool Pass(int client, int server, bool mayCut) {
       if (from == 1 && isCommitting) return true;
       isCommitting = mayCut && from == 0 && words.find("COMMIT") != std::string_view::npos;
       if (write(ends[1 - from].fd, words.data(), words.size()) != length) return false;
+      if (isCommitting && cut == CuttingProxy::Cut::kWhileCommitting) return true;
     }
   }
 }
 
-[[noreturn]] void Serve(int listener, int serverPort, bool& hasCut) {
+[[noreturn]] void Serve(int listener, int serverPort, CuttingProxy::Cut cut, bool& hasCut) {
   for (;;) {
     const int client = accept(listener, nullptr, nullptr);
     const int server = Connect(serverPort);
-    if (Pass(client, server, !hasCut)) hasCut = true;
+    if (Pass(client, server, !hasCut, cut)) hasCut = true;
     close(client);
     close(server);
   }
@@ -63,7 +64,7 @@ bool Pass(int client, int server, bool mayCut) {
 
 }  // namespace
 
-CuttingProxy::CuttingProxy(int serverPort)
+CuttingProxy::CuttingProxy(int serverPort, Cut cut)
     : hasCut_(static_cast<bool*>(
           mmap(nullptr, sizeof(bool), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))) {
   const int listener = socket(AF_INET, SOCK_STREAM, 0);
@@ -80,7 +81,7 @@ CuttingProxy::CuttingProxy(int serverPort)
   if (process_ == 0) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     signal(SIGPIPE, SIG_IGN);
-    Serve(listener, serverPort, *hasCut_);
+    Serve(listener, serverPort, cut, *hasCut_);
   }
   close(listener);
 }

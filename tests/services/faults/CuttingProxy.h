@@ -5,11 +5,14 @@
 namespace services {
 
 /// Stands between a client and a server on the loopback address, in a process of its own, and cuts
-/// the first connection on which the client says COMMIT: once the server has carried it out, but
-/// before its answer goes back. Later connections pass whole.
+/// the first connection on which the client says COMMIT. Later connections pass whole.
 class CuttingProxy {
  public:
-  explicit CuttingProxy(int serverPort);
+  enum class Cut {
+    kWhenCommitted,    ///< Once the server has carried it out, but before its answer goes back.
+    kWhileCommitting,  ///< As soon as the server has been told.
+  };
+  CuttingProxy(int serverPort, Cut cut);
   ~CuttingProxy();
   CuttingProxy(const CuttingProxy&) = delete;
   CuttingProxy& operator=(const CuttingProxy&) = delete;

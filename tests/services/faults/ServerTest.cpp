@@ -1,4 +1,3 @@
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
 #include "services/Database.h"
@@ -38,12 +37,19 @@ class ServerTest : public OverDatabase {
     lastNumber_ = sale->NumeroDaVenda();
     return status;
   }
+  /// Another computer's connection, that leads through a proxy.
+  void OpenThrough(const CuttingProxy& proxy, const std::string& computer) {
+    banco_ = AbrirBanco(base::Replace(address_, "port=" + std::to_string(server_->Port()),
+                                      "port=" + std::to_string(proxy.Port())),
+                        clock_, computer);
+    RegistrarServicos(banco_);
+  }
   /// Ends the connection of the cash desk from the server's side.
   void CutConnection() {
     const auto other = AbrirBanco(address_, clock_, "SUPORTE");
     static const Statement cut(
         "SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity"
-        " WHERE application_name LIKE 'caixa RECEPCAO%' AND datname = current_database()");
+        " WHERE application_name LIKE 'caixa % RECEPCAO' AND datname = current_database()");
     EXPECT_EQ(1, other->Sessao().Select(cut, {}, [](const Row&) {}));
   }
 
@@ -95,18 +101,28 @@ TEST_P(ServerTest, AConnectionThatBreaksInMidSaleLeavesNothing) {
 }
 
 TEST_P(ServerTest, ACommitWhoseAnswerIsLostIsLookedUpAndCounts) {
-  const std::size_t at = address_.find("port=") + 5;
-  const int port = base::ToInt32(base::Val(address_.substr(at, address_.find(' ', at) - at)));
-  const CuttingProxy proxy(port);
-  const std::string detour = base::Replace(address_, "port=" + std::to_string(port),
-                                           "port=" + std::to_string(proxy.Port()));
-  banco_ = AbrirBanco(detour, clock_, "LOJA");
-  RegistrarServicos(banco_);
+  const CuttingProxy proxy(server_->Port(), CuttingProxy::Cut::kWhenCommitted);
+  OpenThrough(proxy, "LOJA");
   EXPECT_EQ(0, Sell()) << lastWords_;
   EXPECT_TRUE(proxy.HasCut());
   EXPECT_EQ(1, Count("vendas"));
   EXPECT_EQ(Read("SELECT numero FROM vendas"), std::to_string(lastNumber_));
   ExpectBooksBalance();
+}
+
+TEST_P(ServerTest, ACommitThatTheServerIsStillAtIsEndedBeforeItIsSaidToHaveFailed) {
+  Write(
+      "CREATE FUNCTION demorar() RETURNS trigger LANGUAGE plpgsql AS"
+      " 'BEGIN PERFORM pg_sleep(3600); RETURN NULL; END';"
+      "CREATE CONSTRAINT TRIGGER devagar AFTER INSERT ON vendas DEFERRABLE INITIALLY DEFERRED"
+      " FOR EACH ROW EXECUTE FUNCTION demorar()");
+  const CuttingProxy proxy(server_->Port(), CuttingProxy::Cut::kWhileCommitting);
+  OpenThrough(proxy, "Recepção da clínica veterinária, balcão ao lado da porta de entrada");
+  EXPECT_EQ(servicos::kErro, Sell());
+  EXPECT_TRUE(proxy.HasCut());
+  EXPECT_EQ(static_cast<std::int32_t>(Trouble::kConnectionLost), lastError_) << lastWords_;
+  EXPECT_EQ(0, Count("pg_stat_activity WHERE wait_event = 'PgSleep'"));
+  EXPECT_EQ(0, Count("vendas"));
 }
 
 TEST_P(ServerTest, AServerGoneAtTheCommitLeavesTheSaleInDoubt) {

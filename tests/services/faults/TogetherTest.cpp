@@ -1,5 +1,7 @@
+#include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
 #include "services/Database.h"
 #include "services/DatabaseError.h"
+#include "services/SqliteSession.h"
 
 namespace services {
 namespace {
@@ -94,6 +96,37 @@ TEST_P(TogetherTest, OneRegisterIsOpenedOnce) {
               return int{service->RegistrarAbertura()};
             }));
   EXPECT_EQ(1, Count("lancamentos_de_caixa"));
+}
+
+TEST_P(TogetherTest, OneCustomerIsTakenByOneComputer) {
+  EXPECT_EQ(servicos::kRecusa, TwoAtOnce([](int) {
+              const SessionRecord user("renata");
+              const auto service =
+                  servicos::CriarServico<servicos::ZOVA_N_Administrativo::clsAdministrativo>();
+              service->DadosDoUsuario(&user);
+              double code = 5;
+              return int{service->BloquearCliente(1, code, 2)};
+            }));
+  EXPECT_EQ(1, Count("travas_de_clientes"));
+}
+
+TEST_P(TogetherTest, WhatAnotherHoldsTooLongIsAFaultThatLeavesNothing) {
+  const auto other = Another("LOJA");
+  if (auto* const file = dynamic_cast<SqliteSession*>(&session())) {
+    file->BePatientFor(std::chrono::milliseconds(20));
+  } else {
+    Write("SET lock_timeout = '20ms'");
+  }
+  other->Sessao().Begin();
+  other->Sessao().RunScript("UPDATE caixas SET dinheiro = dinheiro WHERE numero = 1");
+  const NewSale sale{Sale{}};
+  EXPECT_EQ(servicos::kErro, sale->RegistrarPagamento());
+  EXPECT_EQ(static_cast<std::int32_t>(Trouble::kBusy), sale->NumeroDoErro())
+      << sale->DescricaoDoErro();
+  EXPECT_EQ(0, Count("vendas"));
+  other->Sessao().Rollback();
+  EXPECT_EQ(0, sale->RegistrarPagamento()) << sale->DescricaoDoErro();
+  ExpectBooksBalance();
 }
 
 TEST_P(TogetherTest, ATransactionInTheWayOfAnotherIsTriedAgain) {
