@@ -45,8 +45,7 @@ void FiltrarTeclaDeInteiro(char32_t& tecla) {
 }
 
 void SelecionarTudo(platform::EditBox& campo) {
-  campo.SelStart = 0;
-  campo.SelLength = static_cast<std::int32_t>(base::Length(campo.Text()));
+  campo.SelectAll();
 }
 
 std::string TextoDeValor(const base::Value& valor) {

@@ -9,8 +9,6 @@
 namespace frame {
 namespace {
 
-constexpr std::int16_t kAtrasDeEspera = 1;
-constexpr std::int16_t kAtrasDeTela = 0;
 constexpr std::uint8_t kRaioDoPainel = 30;
 constexpr double kSegundosDoPainel = 1;
 
@@ -18,29 +16,32 @@ constexpr double kSegundosDoPainel = 1;
 
 void PainelDeMensagem::ExibirOcultar(bool exibir, bool somenteCursor) {
   if (picMensagem_.Visible() == exibir) return;
-  const platform::WindowHandle janela = valores().HandleDaJanelaPrincipal;
   if (!exibir) {
-    RemoverFundoEscuro(janela);
+    RemoverFundoEscuro(valores().HandleDaJanelaPrincipal);
     picMensagem_.Visible = false;
     formulario_.MousePointer = platform::kDefaultPointer;
     formulario_.Refresh();
     return;
   }
-  AplicarFundoEscuro(janela, kAtrasDeEspera);
+  // Until the panel counts as shown nobody else would clear the window.
+  FundoEscuro fundo(kAtrasDeEspera);
   if (somenteCursor) {
     formulario_.MousePointer = platform::kHourglassPointer;
     // Without a size it is not seen, but it counts as shown, so that the end is the same.
     picMensagem_.Width = 0;
     picMensagem_.Height = 0;
     picMensagem_.Visible = true;
+    fundo.Manter();
     return;
   }
   formulario_.MousePointer = platform::kDefaultPointer;
   ArredondarCantosDoObjeto(picMensagem_, kRaioDoPainel);
+  // The size comes before the place: after an hourglass the panel has none to be centred by.
   picMensagem_.Height = valores().AlturaOriginalDopicMensagem;
   picMensagem_.Width = valores().LarguraOriginalDopicMensagem;
   Centralizar();
   picMensagem_.Visible = true;
+  fundo.Manter();
   Pausar(kSegundosDoPainel);
 }
 
@@ -76,8 +77,8 @@ void Espera::Ocultar() {
   painel_.ExibirOcultar(false, false);
 }
 
-FundoEscuro::FundoEscuro() {
-  AplicarFundoEscuro(valores().HandleDaJanelaPrincipal, kAtrasDeTela);
+FundoEscuro::FundoEscuro(Intensidade intensidade) {
+  AplicarFundoEscuro(valores().HandleDaJanelaPrincipal, intensidade);
   aplicado_ = true;
 }
 

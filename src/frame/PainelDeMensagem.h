@@ -59,15 +59,20 @@ class PonteiroDeEspera {
   platform::Form& formulario_;
 };
 
+/// What the host's window is darkened for, in the numbers of the component that does it.
+enum Intensidade : std::int16_t { kAtrasDeTela = 0, kAtrasDeEspera = 1 };
+
 /// Darkens the host's main window while a screen is open over it.
 class FundoEscuro {
  public:
-  FundoEscuro();
+  explicit FundoEscuro(Intensidade intensidade = kAtrasDeTela);
   ~FundoEscuro();
   FundoEscuro(const FundoEscuro&) = delete;
   FundoEscuro& operator=(const FundoEscuro&) = delete;
 
   void Remover();
+  /// Leaves the window dark for somebody else to clear.
+  void Manter() { aplicado_ = false; }
 
  private:
   bool aplicado_ = false;

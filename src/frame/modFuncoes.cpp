@@ -42,22 +42,17 @@ std::int16_t VerificarBloqueioDoClienteParaOperacoesNosCaixas(double codigo) {
 }
 
 void BloquearOuDesbloquearClienteParaOperacoesNosCaixas(double codigo, std::int16_t acao) {
-  constexpr std::int16_t kBloquear = 1;
-  Procedimento(", modFuncoes, BloquearOuDesbloquearClienteParaOperacoesNosCaixas, Ponto: ",
-               [&](Ponto& ponto) {
-                 auto administrativo = servicos::CriarServico<clsAdministrativo>();
-                 if (acao == kBloquear) administrativo->NomeDoComputador(PegarNomeDoComputador());
-                 administrativo->DadosDoUsuario(valores().DadosDoUsuario);
-                 ponto = 2;
-                 std::int32_t& bloqueado = valores().CodigoDoClienteComOperacoesBloqueadas;
-                 if (acao == kBloquear) {
-                   administrativo->BloquearCliente(1, codigo, 2);
-                   bloqueado = base::ToInt32(codigo);
-                 } else {
-                   administrativo->DesbloquearCliente(1, codigo, 2);
-                   bloqueado = 0;
-                 }
-               });
+  auto administrativo = servicos::CriarServico<clsAdministrativo>();
+  if (acao == kBloquear) administrativo->NomeDoComputador(PegarNomeDoComputador());
+  administrativo->DadosDoUsuario(valores().DadosDoUsuario);
+  std::int32_t& bloqueado = valores().CodigoDoClienteComOperacoesBloqueadas;
+  if (acao == kBloquear) {
+    administrativo->BloquearCliente(1, codigo, 2);
+    bloqueado = base::ToInt32(codigo);
+  } else {
+    administrativo->DesbloquearCliente(1, codigo, 2);
+    bloqueado = 0;
+  }
 }
 
 bool RetornarCreditoDoCliente(double codigo, base::Currency& credito) {

@@ -10,8 +10,11 @@ namespace frame {
 /// when this very computer holds him or the question failed.
 std::int16_t VerificarBloqueioDoClienteParaOperacoesNosCaixas(double codigo);
 
+/// The two actions of BloquearOuDesbloquearClienteParaOperacoesNosCaixas.
+enum : std::int16_t { kBloquear = 1, kDesbloquear = 2 };
+
 /// Locks a customer for this computer (action 1) or frees him (any other). What the database makes
-/// of it is not acted upon: the lock is advisory.
+/// of it is not acted upon: the lock is advisory. A run-time error is the caller's to report.
 void BloquearOuDesbloquearClienteParaOperacoesNosCaixas(double codigo, std::int16_t acao);
 
 /// Reads the customer's credit; with any number of customers but one, `credito` stays as it came.

@@ -11,7 +11,6 @@ namespace frame {
 namespace {
 
 constexpr std::string_view kNomeDoModulo = "ZOVA_A_Caixa";
-constexpr std::int16_t kDesbloquear = 2;
 
 /// How many reports are being made: an error inside one goes up instead of being reported.
 int relatos = 0;

@@ -50,14 +50,14 @@ Control::~Control() {
 
 bool Control::IsShown() const {
   for (const Control* each = this; each != nullptr; each = each->parent_.AsControl()) {
-    if (!each->Visible()) return false;
+    if (!each->Visible.Peek()) return false;
   }
   return true;
 }
 
 bool Control::IsUsable() const {
   for (const Control* each = this; each != nullptr; each = each->parent_.AsControl()) {
-    if (!each->Visible() || !each->Enabled()) return false;
+    if (!each->Visible.Peek() || !each->Enabled.Peek()) return false;
   }
   return true;
 }

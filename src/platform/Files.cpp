@@ -25,6 +25,15 @@ using base::RuntimeError;
   throw RuntimeError(fs::exists(path, ignored) ? Fault::kPermissionDenied : Fault::kFileNotFound);
 }
 
+/// Renaming over a file asks nothing of that file, so its protection is looked at first.
+bool IsReadOnly(const std::string& path) {
+  constexpr fs::perms kWritable = fs::perms::owner_write | fs::perms::group_write;
+  std::error_code failed;
+  const fs::perms perms = fs::status(path, failed).permissions();
+  return Exists(path) &&
+         ((perms & kWritable) == fs::perms::none || access(path.c_str(), W_OK) != 0);
+}
+
 }  // namespace
 
 bool Exists(const std::string& path) {
@@ -47,6 +56,7 @@ std::string Read(const std::string& path) {
 }
 
 void Write(const std::string& path, const std::string& bytes) {
+  if (IsReadOnly(path)) throw RuntimeError(Fault::kPermissionDenied);
   // Written beside and renamed over: a machine that dies in between leaves the old file whole.
   const std::string beside = path + ".novo";
   std::FILE* const out = std::fopen(beside.c_str(), "wb");

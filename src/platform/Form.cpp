@@ -68,7 +68,6 @@ void Form::SetParent(WindowHandle container) {
 }
 
 void Form::ShowNow() {
-  if (state_ == State::kUnloaded) state_ = State::kReady;
   EnsureLoaded();
   if (state_ != State::kLoaded) return;  // Its Load unloaded it again.
   const bool wasVisible = visible_;
@@ -133,10 +132,10 @@ void Form::Unload() {
   UnloadEvent(refused);
   if (refused) return;
   Hide();
-  state_ = State::kUnloaded;
   resized_ = false;
   active_ = nullptr;
   LeaveDesktop();
+  state_ = State::kReady;
 }
 
 void Form::Refresh() {

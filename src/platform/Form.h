@@ -42,7 +42,7 @@ class Form : public Object, public Container {
   Property<std::int16_t> MousePointer{*this, "MousePointer", kDefaultPointer};
   Property<std::int16_t> CornerRadius{*this, "CornerRadius"};
 
-  /// The form is touched for the first time.
+  /// A control of the form is touched for the first time, or for the first time after an Unload.
   Event<> Load;
   /// The form was shown.
   Event<> Activate;
@@ -60,13 +60,14 @@ class Form : public Object, public Container {
   /// or unloaded. On a form that is already shown modally it only makes it visible again.
   void ShowModal();
   void Hide();
-  /// Raises Unload, and unless that refuses, hides the form for good.
+  /// Raises Unload, and unless that refuses, hides the form and lets go of it. A touch of a control
+  /// afterwards loads it anew.
   void Unload();
   void Refresh();
   bool IsVisible() const { return visible_; }
   bool IsLoaded() const { return state_ == State::kLoaded; }
   bool IsModal() const { return modal_; }
-  /// Loads the form if nothing has touched it yet.
+  /// Loads the form if nothing has touched it yet, or not since it was unloaded.
   void EnsureLoaded();
 
   /// The window that the form lies in, 0 when it is one of its own.
@@ -127,7 +128,7 @@ class Form : public Object, public Container {
   friend class Control;
   friend class MenuItem;
 
-  enum class State { kDesign, kReady, kLoaded, kUnloaded };
+  enum class State { kDesign, kReady, kLoaded };
 
   void Written(const PropertyBase& property) override;
   void ShowNow();

@@ -32,8 +32,7 @@ Outcome Drop() {
 Outcome Act(Form& form, bool possible, bool busy, const std::function<void()>& act) {
   if (!possible || !screens::IsReachable(form)) return Outcome::kRefused;
   if (busy || form.AreCommandsHeld()) return Drop();
-  Run(act);
-  return Outcome::kDone;
+  return Run(act);
 }
 
 /// Whether moving the focus would enter a handler again.
@@ -76,10 +75,13 @@ Outcome Deliver(Form& form, KeyStroke stroke) {
   return Outcome::kDone;
 }
 
+/// Whether the key would enter a running handler of the control: typing into a field goes on while
+/// the search that it started waits.
 bool KeyIsBusy(const Control& control, const KeyStroke& stroke) {
   if (control.KeyDown.IsRunning() || control.KeyPress.IsRunning()) return true;
   if (stroke.key == Key::kTab) return control.Validate.IsRunning() || control.LostFocus.IsRunning();
-  return control.Click.IsRunning();
+  const bool isField = dynamic_cast<const EditBox*>(&control) != nullptr;
+  return control.Click.IsRunning() && (!isField || stroke.key == Key::kEnter);
 }
 
 }  // namespace
@@ -88,7 +90,8 @@ int Depth() {
   return depth;
 }
 
-void Run(const std::function<void()>& act) {
+Outcome Run(const std::function<void()>& act) {
+  Outcome outcome = Outcome::kDone;
   struct Scope {
     Scope() { ++depth; }
     ~Scope() { --depth; }
@@ -111,9 +114,11 @@ void Run(const std::function<void()>& act) {
       }
     } catch (const Shutdown&) {
       // The loops above unwind by themselves.
+      outcome = Outcome::kUnwound;
     }
   }
   desktop.HandlerEnded();
+  return outcome;
 }
 
 Outcome Focus(Control& control) {
@@ -194,7 +199,12 @@ Outcome ClickCell(MSFlexGrid& grid, std::int32_t row, std::int32_t col, MouseBut
     };
     if (still()) grid.SelectCell(row, col);
     if (still()) grid.Click();
-    if (twice && still()) grid.DblClick();
+    if (!twice) return;
+    if (still()) {
+      grid.DblClick();
+    } else {
+      Drop();
+    }
   });
 }
 
@@ -219,7 +229,7 @@ Outcome DropDown(ZVComboBox& combo) {
 }
 
 Outcome Pick(ZVComboBox& combo, std::int32_t index) {
-  if (index < 0 || index >= combo.ListCount()) return Outcome::kRefused;
+  if (index < 0 || index >= combo.ListCount.Peek()) return Outcome::kRefused;
   Form& form = combo.OwnerForm();
   return Act(form, combo.IsUsable(), combo.Click.IsRunning() || MovingIsBusy(form, combo), [&] {
     if (form.MoveFocus(combo)) combo.Pick(index);

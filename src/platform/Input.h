@@ -28,6 +28,7 @@ enum class Outcome {
   kDone,
   kRefused,  ///< An operator could not do it: hidden, disabled, or behind a modal screen.
   kDropped,  ///< The handler that it would run has not ended, or the screen's commands are held.
+  kUnwound,  ///< The host closed on the way: nothing more is to be done.
 };
 
 /// The focus as a click or Tab would move it.
@@ -60,8 +61,8 @@ Outcome Close(Form& form);
 void SendKeys(std::string_view keys);
 
 /// Runs something on the operator's behalf with the guards of an act: errors that no procedure took
-/// end in a plain box, an unwinding ends here.
-void Run(const std::function<void()>& act);
+/// end in a plain box, an unwinding ends here and is answered with kUnwound.
+Outcome Run(const std::function<void()>& act);
 /// How many acts are being carried out, one inside the other.
 int Depth();
 

@@ -60,6 +60,9 @@ class Property final : public PropertyBase {
     return value_;
   }
   const T* operator->() const { return &(*this)(); }
+  /// The value, without the touch that a read by code is: for the platform's own questions, which
+  /// must not load a form that is gone.
+  const T& Peek() const { return value_; }
 
   /// A new value that is not a write by code: what the operator did, or what follows from another
   /// property. Only observers hear of it.

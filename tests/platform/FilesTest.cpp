@@ -73,6 +73,12 @@ TEST_F(Files, ThatCannotBeReplacedStayWhole) {
   EXPECT_EQ(ResultOf([&] { return files::Write(path, "depois"), std::string("done"); }),
             "error 70");
   EXPECT_EQ(files::Read(path), "antes");
+
+  fs::remove(path + ".novo");
+  fs::permissions(path, fs::perms::owner_read);
+  EXPECT_EQ(ResultOf([&] { return files::Write(path, "depois"), std::string("done"); }), "error 70")
+      << "a file that is protected";
+  EXPECT_EQ(files::Read(path), "antes");
 }
 
 }  // namespace

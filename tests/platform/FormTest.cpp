@@ -127,6 +127,21 @@ TEST_F(FormLife, IsNewWhenShownAfterAnUnload) {
   EXPECT_EQ(trace.Take(), "frm.Load, frm.Resize, frm.Activate, first.GotFocus");
 }
 
+TEST_F(FormLife, LoadsAnewWhenTouchedAfterAnUnload) {
+  form.Show();
+  form.Unload();
+  trace.Take();
+  EXPECT_EQ(platform::input::Click(form.ok), Outcome::kRefused);
+  EXPECT_EQ(trace.Take(), "") << "an act that comes too late is no touch";
+  form.first.Text = "novo";
+  EXPECT_EQ(trace.Take(), "frm.Load");
+  EXPECT_EQ(screens::Loaded(), (std::vector<platform::Form*>{&form}));
+  EXPECT_FALSE(form.IsVisible());
+  form.Unload();
+  EXPECT_EQ(trace.Take(), "frm.Unload");
+  EXPECT_TRUE(screens::Loaded().empty());
+}
+
 TEST_F(FormLife, ThatUnloadsWhileLoadingIsNeverSeen) {
   form.Load = [&] { form.Unload(); };
   form.ShowModal();

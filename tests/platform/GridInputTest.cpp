@@ -125,8 +125,10 @@ TEST_F(GridActs, TheSecondHalfOfADoubleClickThatClosedTheScreenIsLost) {
   };
   input::Focus(grid);
   trace.Take();
+  desktop.TakeJournal();
   ClickAt(1, 0, MouseButton::kLeft, true);
   EXPECT_EQ(trace.Take(), "MouseDown at 1.0, Click");
+  EXPECT_EQ(support::Joined(desktop.TakeJournal()), "hide frm, beep");
 }
 
 TEST_F(GridActs, DoNotEnterAHandlerThatIsStillRunning) {

@@ -7,6 +7,7 @@
 #include "platform/Menu.h"
 #include "platform/Toolbar.h"
 #include "platform/ZVComboBox.h"
+#include "platform/ZVFind.h"
 #include "support/FakeDesktop.h"
 
 namespace {
@@ -18,6 +19,7 @@ using support::Press;
 
 /// A screen with commands of every kind.
 struct CommandForm : support::SampleForm {
+  platform::ZVFind find{*this, "find"};
   platform::ZVComboBox combo{*this, "combo"};
   platform::Toolbar toolbar{*this, "toolbar"};
   platform::ToolbarButton& opening = toolbar.Add("Abertura", "Abertura", "abrir");
@@ -65,6 +67,20 @@ TEST_F(Acts, OnOtherControlsRunDuringAWait) {
   desktop.After(0.5, [&] { EXPECT_EQ(input::Click(form.cancel), Outcome::kDone); });
   input::Click(form.ok);
   EXPECT_EQ(trace.Take(), "cancel.Click");
+}
+
+TEST_F(Acts, TypeIntoAFieldWhileItsOwnSearchWaits) {
+  form.find.Click = [&] {
+    trace("search");
+    Wait();
+  };
+  form.find.SetFocus();
+  desktop.After(0.3, [&] { EXPECT_EQ(input::Type(form, "7"), Outcome::kDone); });
+  desktop.After(0.6, [&] { EXPECT_EQ(Press(form, "Enter"), Outcome::kDropped); });
+  EXPECT_EQ(Press(form, "Enter"), Outcome::kDone);
+  EXPECT_EQ(trace.Take(), "search");
+  EXPECT_EQ(form.find.Text(), "7");
+  EXPECT_EQ(Journal(), "beep");
 }
 
 TEST_F(Acts, ThroughTheDefaultButtonAreDroppedToo) {
@@ -181,7 +197,7 @@ TEST_F(Acts, ThatFailWhileTheHostClosesEndQuietly) {
     desktop.Close();
     throw base::RuntimeError(base::Fault::kOverflow);
   };
-  EXPECT_EQ(input::Click(form.ok), Outcome::kDone);
+  EXPECT_EQ(input::Click(form.ok), Outcome::kUnwound);
   EXPECT_EQ(input::Depth(), 0);
 }
 
@@ -209,6 +225,16 @@ TEST_F(Acts, TypeCharacterByCharacterUntilOneIsNotTaken) {
   };
   EXPECT_EQ(input::Type(form, "1x2"), Outcome::kRefused);
   EXPECT_EQ(form.first.Text(), "ção1");
+}
+
+TEST_F(Acts, TypeNothingMoreOnceTheHostHasClosed) {
+  form.first.KeyPress = [&](char32_t& character) {
+    if (character != U'x') return;
+    desktop.Close();
+    desktop.ProcessEvents();
+  };
+  EXPECT_EQ(input::Type(form, "1x2"), Outcome::kUnwound);
+  EXPECT_EQ(form.first.Text(), "1");
 }
 
 TEST_F(Acts, TypeALineBreakAsOneEnter) {

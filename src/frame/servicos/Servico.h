@@ -51,7 +51,7 @@ class ServicoDeNegocio : public Servico {
   virtual std::string DescricaoDoErro() { Ausente(); }
   virtual std::string LocalDoErro() { Ausente(); }
   virtual std::string DescricaoDaFalha() { Ausente(); }
-  /// The rows of the last selection.
+  /// The rows of the last selection, an empty set when it found none; never null.
   virtual base::RecordSetPtr ResultadoDaSelecaoEmRecordSet() { Ausente(); }
 };
 
@@ -75,10 +75,10 @@ std::unique_ptr<Servico> Criar(std::string_view identificador);
 template <class Classe>
 std::unique_ptr<Classe> CriarServico() {
   std::unique_ptr<Servico> servico = Criar(Classe::kIdentificador);
-  auto* const classe = dynamic_cast<Classe*>(servico.get());
-  if (classe == nullptr) throw base::RuntimeError(base::Fault::kCannotCreateObject);
-  servico.release();
-  return std::unique_ptr<Classe>(classe);
+  if (dynamic_cast<Classe*>(servico.get()) == nullptr) {
+    throw base::RuntimeError(base::Fault::kCannotCreateObject);
+  }
+  return std::unique_ptr<Classe>(static_cast<Classe*>(servico.release()));
 }
 
 }  // namespace servicos

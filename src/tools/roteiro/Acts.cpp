@@ -77,12 +77,13 @@ std::optional<Json> Type(Stage& stage, const Arguments& arguments) {
   }
   platform::Form& form = control.OwnerForm();
   std::string_view left = text;
-  while (!left.empty() && !stage.conversation.IsClosing()) {
+  while (!left.empty()) {
     const std::string_view rest = left;
     base::TakeCharacter(left);
     if (rest.starts_with("\r\n")) base::TakeCharacter(left);  // One line break, one Enter.
     const input::Outcome outcome = input::Type(form, rest.substr(0, rest.size() - left.size()));
     if (outcome == input::Outcome::kDone) continue;
+    if (outcome == input::Outcome::kUnwound) break;
     if (rest.size() == text.size()) Require(outcome, control);
     // What went before has been typed: the command was carried out, and lost its end.
     stage.conversation.Tell({{"event", "dropped"}, {"do", "type"}});

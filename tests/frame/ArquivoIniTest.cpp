@@ -1,0 +1,65 @@
+// The settings file: what is read from it, and what a write leaves of it.
+
+#include <gtest/gtest.h>
+
+#include "frame/ArquivoIni.h"
+#include "support/ModuleServices.h"
+
+namespace frame {
+namespace {
+
+class ArquivoIni : public testing::Test {
+ protected:
+  static constexpr const char* kPath = "/modulo/Caixa.ini";
+
+  support::Module module;
+  std::string& file = module.desktop.files[kPath];
+};
+
+TEST_F(ArquivoIni, ReadsAKeyOfItsOwnSection) {
+  file =
+      "[Grade]\nFontSize=9\nNumeroDoCaixa=8\n\n[CAIXA]\r\n numerodocaixa = 3 \r\nNome=\"Ana \"\n"
+      "Vazio=\n[Caixa de baixo]\nOutro=1\n";
+  const std::pair<const char*, const char*> keys[] = {
+      {"NumeroDoCaixa", "3"},
+      {"Nome", "Ana "},
+      {"Vazio", ""},
+      {"FontSize", "Nenhum valor lido"},
+      {"Outro", "Nenhum valor lido"},
+  };
+  for (const auto& [key, value] : keys) {
+    EXPECT_EQ(LerValorDoArquivoIni("Caixa", key), value) << key;
+  }
+  EXPECT_EQ(LerValorDoArquivoIni("Nada", "FontSize"), "Nenhum valor lido");
+  module.desktop.files.clear();
+  EXPECT_EQ(LerValorDoArquivoIni("Caixa", "NumeroDoCaixa"), "Nenhum valor lido") << "first start";
+}
+
+TEST_F(ArquivoIni, CutsALongValue) {
+  file = "[Caixa]\nTexto=" + std::string(300, 'x');
+  EXPECT_EQ(LerValorDoArquivoIni("Caixa", "Texto"), std::string(255, 'x'));
+}
+
+TEST_F(ArquivoIni, KeepsAllElseWhenItWrites) {
+  module.desktop.files.clear();
+  EXPECT_EQ(GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "-1"), "");
+  EXPECT_EQ(module.desktop.files[kPath], "[Caixa]\nNumeroDoCaixa=-1\n");
+
+  file = "; escrito à mão\n[caixa]\nNUMERODOCAIXA=1\nOutra=2\n\n[Grade]\nFontSize=9";
+  GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "3");
+  GravarValorNoArquivoIni("Caixa", "Nova", "4");
+  GravarValorNoArquivoIni("Tela", "Cor", "5");
+  EXPECT_EQ(module.desktop.files[kPath],
+            "; escrito à mão\n[caixa]\nNumeroDoCaixa=3\nOutra=2\nNova=4\n\n[Grade]\nFontSize=9\n"
+            "[Tela]\nCor=5\n");
+}
+
+TEST_F(ArquivoIni, FailsInSilenceWhenItCannotBeWritten) {
+  file = "[Caixa]\nNumeroDoCaixa=1\n";
+  module.desktop.readOnly.insert(kPath);
+  EXPECT_EQ(GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "3"), "");
+  EXPECT_EQ(LerValorDoArquivoIni("Caixa", "NumeroDoCaixa"), "1");
+}
+
+}  // namespace
+}  // namespace frame
