@@ -55,10 +55,10 @@ void frmCaixaPagar::AtualizarSaldoSemPagamento() {
 }
 
 void frmCaixaPagar::RetirarDoCreditoParaOCliente(Currency valor) {
-  const Currency credito = base::ToCurrency(lblCreditoParaOCliente.Tag());
-  if (credito.IsZero()) return;
-  lblCreditoParaOCliente.Tag = base::FormatMoney(credito - valor);
-  if (credito - valor <= Currency()) {
+  Currency credito = base::ToCurrency(lblCreditoParaOCliente.Tag());
+  if (!credito.IsZero()) credito = credito - valor;
+  lblCreditoParaOCliente.Tag = base::FormatMoney(credito);
+  if (credito <= Currency()) {
     lblCreditoParaOCliente.Tag = "0";
     lblCreditoParaOCliente.Visible = false;
   } else {

@@ -15,7 +15,6 @@ using frame::Informar;
 using platform::ZVFind;
 using servicos::ZOVA_N_ClientAnim::clsClientes;
 
-constexpr std::string_view kRotuloOriginal = "Cliente*";
 constexpr std::size_t kMenorPesquisa = 3;
 
 std::string NinguemEncontrado(const ProcuraDeCliente& procura) {
@@ -155,8 +154,8 @@ void CaixaDoCliente::Habilitar(bool habilitar) {
   for (ZVFind* campo : campos_) campo->Enabled = habilitar;
 }
 
-void CaixaDoCliente::RestaurarRotulo() {
-  lblCliente_.Caption = std::string(kRotuloOriginal);
+void CaixaDoCliente::Rotular(std::string_view sufixo) {
+  lblCliente_.Caption = "Cliente*" + std::string(sufixo);
 }
 
 bool PesquisaCurtaDemais(ZVFind& campo) {

@@ -68,7 +68,9 @@ class CaixaDoCliente {
   void Preencher(const std::string& codigo, const std::string& apelido, const std::string& nome);
   void Esvaziar();
   void Habilitar(bool habilitar);
-  void RestaurarRotulo();
+  /// The label of the box, with what follows "Cliente*" for the customer on the screen.
+  void Rotular(std::string_view sufixo);
+  void RestaurarRotulo() { Rotular({}); }
 
  private:
   void Recomecar(platform::ZVFind& campo);

@@ -15,12 +15,6 @@ using frame::Procedimento;
 using frame::valores;
 using platform::ZVFind;
 
-namespace {
-
-constexpr std::int16_t kBloquear = 1;
-
-}  // namespace
-
 void frmCaixaOperar::zvfApelidoOuNomeFantasiaDoCliente_KeyDown() {
   caixaDoCliente_.KeyDown(zvfApelidoOuNomeFantasiaDoCliente);
 }
@@ -69,7 +63,7 @@ void frmCaixaOperar::PreencherCliente(const base::RecordSet& cliente) {
   valores().CPFCNPJDoCliente = texto("CPFCNPJ");
   valores().SufixoDoRotuloDoCliente =
       lookup::SufixoDoRotulo(texto("VIP"), texto("CategoriaDaCurvaABC"));
-  lblCliente.Caption = "Cliente*" + valores().SufixoDoRotuloDoCliente;
+  caixaDoCliente_.Rotular(valores().SufixoDoRotuloDoCliente);
   EnderecoDoCliente = texto("EnderecoCompleto");
   CanalDeComunicacaoDoCliente = texto("TiposECanaisDeComunicacao");
   DescontoUnico = texto("DescontoUnico");
@@ -101,9 +95,12 @@ void frmCaixaOperar::AceitarCliente(ZVFind& campo) {
   caixaDoCliente_.Habilitar(false);
   zvcmbTiposDeServicos.Enabled = true;
   PermissaoDoUsuario();
+  // The operator may clear the counter during a wait: then nobody is left to warn of or to lock.
   PreencherGradeComServicosEfetuadosEProdutosReservados(codigo);
+  if (CodigoDoCliente() != codigo) return;
   PesquisarDebitosDoCliente(codigo);
-  frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(codigo, kBloquear);
+  if (CodigoDoCliente() != codigo) return;
+  frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(codigo, frame::kBloquear);
   std::int16_t falha = 0;
   PreencherComboboxAnimal(codigo, falha);
   if (falha == 0 && zvcmbAnimal.ListCount() > 0) {

@@ -35,9 +35,7 @@ void frmCaixaOperar::zvfCodigoDeBarrasDoProduto_Click() {
   Procedimento(", frmCaixaOperar, zvfCodigoDeBarrasDoProduto_Click, Ponto: ", [&](Ponto& ponto) {
     ZVFind& campo = zvfCodigoDeBarrasDoProduto;
     if (campo.Status() == ZVFind::kEmpty) {
-      RecomecarItem(campo);
-      campo.Enabled = true;
-      campo.SetFocus();
+      VoltarAoCampo(campo);
       return;
     }
     if (campo.Status() != ZVFind::kTyped) return;
@@ -62,28 +60,25 @@ void frmCaixaOperar::zvfCodigoDeBarrasDoProduto_Click() {
 }
 
 void frmCaixaOperar::PesquisarPorCodigoDeBarras() {
-  ZVFind& campo = zvfCodigoDeBarrasDoProduto;
   if (ProcurarProdutoDosCampos()) {
     AbrirCamposDoProdutoEncontrado();
-    return;
+  } else {
+    RecusarCodigoDeBarras();
   }
-  RecomecarItem(campo);
-  campo.Status = ZVFind::kFound;
-  campo.Enabled = true;
-  campo.SetFocus();
+}
+
+// Nothing of the item found before stays behind: neither its price nor its quantity can be added.
+void frmCaixaOperar::RecusarCodigoDeBarras() {
+  zvfCodigoDeBarrasDoProduto.Status = ZVFind::kFound;
+  VoltarAoCampo(zvfCodigoDeBarrasDoProduto);
 }
 
 void frmCaixaOperar::PesquisarPorCodigoDeBalanca(const std::string& codigo) {
-  ZVFind& campo = zvfCodigoDeBarrasDoProduto;
   zvfCodigoInternoDoProduto.Status = ZVFind::kFound;
   zvfCodigoInternoDoProduto.Text = base::ToText(
       base::Val(base::Trim(base::Mid(codigo, kCodigoInternoEm, kDigitosDoCodigoInterno))));
   if (!ProcurarProdutoDosCampos()) {
-    zvfCodigoInternoDoProduto.Status = ZVFind::kEmpty;
-    zvfCodigoInternoDoProduto.Text = "";
-    campo.Status = ZVFind::kFound;
-    campo.Enabled = true;
-    campo.SetFocus();
+    RecusarCodigoDeBarras();
     return;
   }
   const LeituraDaEmpresa leitura = LerEmpresa();

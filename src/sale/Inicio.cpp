@@ -71,10 +71,7 @@ void frmCaixaOperar::MontarExibirFormulario(platform::WindowHandle conteiner) {
       return;
     }
     ponto = 10;
-    Grade_Configurar(falha);
-    if (falha == 1) return;
-    IniciarClassificacao();
-    Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
+    RecomecarGrade(falha);
     if (falha == 1) return;
     ponto = 11;
     HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(false);
@@ -173,6 +170,13 @@ void frmCaixaOperar::Grade_Configurar(std::int16_t& falha) {
     lblItensDaPreVenda.Visible = false;
     falha = 0;
   });
+}
+
+void frmCaixaOperar::RecomecarGrade(std::int16_t& falha) {
+  Grade_Configurar(falha);
+  if (falha == 1) return;
+  IniciarClassificacao();
+  Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
 }
 
 void frmCaixaOperar::IniciarClassificacao() {

@@ -34,13 +34,14 @@ void frmCaixaOperar::optServico_Click() {
     lblCodigoDoServico.Visible = true;
     for (platform::Control* campo : {static_cast<platform::Control*>(&zvcmbTiposDeServicos),
                                      static_cast<platform::Control*>(&zvfNomeDoServico),
-                                     static_cast<platform::Control*>(&zvfCodigoDoServico),
-                                     static_cast<platform::Control*>(&zvcmbAnimal)}) {
+                                     static_cast<platform::Control*>(&zvfCodigoDoServico)}) {
       campo->Visible = true;
       campo->Enabled = true;
     }
+    zvcmbAnimal.Visible = true;
     ponto = 3;
-    // An only animal needs no choosing.
+    // An only animal needs no choosing: it is chosen, and the list stays closed.
+    if (zvcmbAnimal.ListCount() >= 2) zvcmbAnimal.Enabled = true;
     if (zvcmbAnimal.ListCount() == 1) zvcmbAnimal.ListIndex = 0;
     zvnumQuantidade.Text = "0";
     zvnumValorUnitario.Text = std::string(kZeroEmDinheiro);
@@ -152,13 +153,17 @@ void frmCaixaOperar::RecomecarItem(ZVFind& campo) {
   HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(false);
 }
 
+void frmCaixaOperar::VoltarAoCampo(ZVFind& campo) {
+  RecomecarItem(campo);
+  campo.Enabled = true;
+  campo.SetFocus();
+}
+
 // One routine for the four fields of names and codes: a search, or a clear, by the field's status.
 void frmCaixaOperar::PesquisarOuLimparItem(ZVFind& campo) {
   const bool deServico = &campo == &zvfCodigoDoServico || &campo == &zvfNomeDoServico;
   if (campo.Status() == ZVFind::kEmpty) {
-    RecomecarItem(campo);
-    campo.Enabled = true;
-    campo.SetFocus();
+    VoltarAoCampo(campo);
     return;
   }
   if (campo.Status() != ZVFind::kTyped) return;

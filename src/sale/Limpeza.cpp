@@ -20,7 +20,6 @@ using platform::ZVFind;
 
 namespace {
 
-constexpr std::int16_t kDesbloquear = 2;
 constexpr platform::Color kCinzaClaro = platform::Rgb(249, 249, 249);
 
 }  // namespace
@@ -141,8 +140,10 @@ void frmCaixaOperar::zvcmdLimparCampos_Click() {
     zvfNumeroDaFichaClinica.Enabled = true;
     caixaDoCliente_.Habilitar(true);
     ponto = 2;
-    if (CodigoDoCliente() > 0) {
-      frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(CodigoDoCliente(), kDesbloquear);
+    // A code that was typed and not searched for names nobody who is being served.
+    if (zvfCodigoDoCliente.Status() == ZVFind::kFound && CodigoDoCliente() > 0) {
+      frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(CodigoDoCliente(),
+                                                                frame::kDesbloquear);
     }
     ponto = 3;
     optServico.Value = true;
@@ -155,18 +156,25 @@ void frmCaixaOperar::zvcmdLimparCampos_Click() {
     ExibirOcultarpicMensagem(false, false);
     if (zvcmbCaixas.ListCount() > 0) SelecionarCaixa(valores().NumeroDoCaixa);
     ponto = 5;
-    Grade_Configurar(falha);
-    if (falha == 1) return;
-    IniciarClassificacao();
-    Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
-    HabilitarDesabilitarCampos(false);
-    zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+    EsperarCliente();
   });
+}
+
+// Nobody is being served: an empty sale, and only the customer box open.
+void frmCaixaOperar::EsperarCliente() {
+  std::int16_t falha = 0;
+  RecomecarGrade(falha);
+  if (falha == 1) return;
+  HabilitarDesabilitarCampos(false);
+  zvfNumeroDaFichaClinica.Enabled = true;
+  caixaDoCliente_.Habilitar(true);
+  zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
 }
 
 void frmCaixaOperar::zvcmdDetalhes_Click() {
   Procedimento(", frmCaixaOperar,  zvcmdDetalhes_Click, Ponto: ", [&](Ponto&) {
-    if (!GradeComItens()) {
+    // A line without a code has nothing to look its details up by.
+    if (msfgGrade.Rows() == 2 && msfgGrade.TextMatrix(1, kCodigo).empty()) {
       frame::Informar("Nenhum item para ser detalhado da grade.");
       return;
     }

@@ -15,12 +15,6 @@ using frame::Ponto;
 using frame::Procedimento;
 using frame::valores;
 
-namespace {
-
-constexpr std::int16_t kDesbloquear = 2;
-
-}  // namespace
-
 void frmCaixaOperar::tbMenuCaixa_ButtonClick(platform::ToolbarButton& botao) {
   Procedimento(", frmCaixaOperar, tbMenuCaixas, Ponto: ", [&](Ponto&) {
     struct Entrada {
@@ -99,22 +93,13 @@ void frmCaixaOperar::AbrirOuFechar(const registers::Movimento& movimento) {
   if (falha == 1) return;
   RessincronizarCaixas();
   if (codigo > 0) {
-    frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(codigo, kDesbloquear);
+    frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(codigo, frame::kDesbloquear);
   }
   if (!msfgGrade.Visible()) {
     zvcmbCaixas.SetFocus();
     return;
   }
-  Grade_Configurar(falha);
-  if (falha == 1) return;
-  IniciarClassificacao();
-  Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
-  if (falha == 1) return;
-  // Nobody is being served: only the customer box is open.
-  HabilitarDesabilitarCampos(false);
-  zvfNumeroDaFichaClinica.Enabled = true;
-  caixaDoCliente_.Habilitar(true);
-  zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+  EsperarCliente();
 }
 
 void frmCaixaOperar::CreditoDoCliente() {

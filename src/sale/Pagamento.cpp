@@ -12,12 +12,6 @@ using frame::Ponto;
 using frame::Procedimento;
 using frame::valores;
 
-namespace {
-
-constexpr std::int16_t kDesbloquear = 2;
-
-}  // namespace
-
 void frmCaixaOperar::zvcmdPagamento_Click() {
   Procedimento(", frmCaixaOperar, zvcmdPagamento_Click, Ponto: ", [&](Ponto& ponto) {
     if (ValidarCampos() == 1) return;
@@ -43,7 +37,8 @@ void frmCaixaOperar::zvcmdPagamento_Click() {
 
 void frmCaixaOperar::EncerrarVenda() {
   if (CodigoDoCliente() != 0) {
-    frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(CodigoDoCliente(), kDesbloquear);
+    frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(CodigoDoCliente(),
+                                                              frame::kDesbloquear);
   }
   std::int16_t falha = 0;
   LimparCampos(falha);
@@ -53,15 +48,7 @@ void frmCaixaOperar::EncerrarVenda() {
   if (falha == 1) return;
   espera.Ocultar();
   SelecionarCaixa(valores().NumeroDoCaixa);
-  Grade_Configurar(falha);
-  if (falha == 1) return;
-  IniciarClassificacao();
-  Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
-  if (falha == 1) return;
-  HabilitarDesabilitarCampos(false);
-  zvfNumeroDaFichaClinica.Enabled = true;
-  caixaDoCliente_.Habilitar(true);
-  zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+  EsperarCliente();
 }
 
 std::int16_t frmCaixaOperar::MontarExibirFormulario_Caixa_Pagar() {

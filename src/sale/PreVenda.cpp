@@ -22,7 +22,8 @@ std::int16_t frmCaixaOperar::PreencherGradeComServicosEfetuadosEProdutosReservad
         }
         ponto = 2;
         const base::RecordSetPtr itens = preVenda->ResultadoDaSelecaoEmRecordSet();
-        if (itens->RecordCount() == 0) return;
+        const bool aindaEmAtendimento = CodigoDoCliente() == codigo;
+        if (itens->RecordCount() == 0 || !aindaEmAtendimento) return;
         {
           const frame::SemRedesenho semRedesenho(msfgGrade);
           msfgGrade.Rows(itens->RecordCount() + 1);

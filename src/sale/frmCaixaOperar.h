@@ -190,6 +190,7 @@ class frmCaixaOperar final : public platform::Form {
   void Form_Load();
   void Form_Resize();
   void MostrarFaixa();
+  void RecomecarGrade(std::int16_t& falha);
   void IniciarClassificacao();
   void GuardarTamanhoDopicMensagem();
 
@@ -224,6 +225,7 @@ class frmCaixaOperar final : public platform::Form {
   void RestaurarCaptionOriginalDalblCliente();
   void LimparCamposDeQuantidadeEValoresDoItemDaVenda();
   void zvcmdLimparCampos_Click();
+  void EsperarCliente();
   void zvcmdDetalhes_Click();
 
   // The customer (Cliente.cpp).
@@ -238,7 +240,7 @@ class frmCaixaOperar final : public platform::Form {
   void PreencherComboboxAnimal(double codigo, std::int16_t& falha);
   void RecuperaDescontoDoCliente();
 
-  // Items (Produtos.cpp, Servicos.cpp, CodigoDeBarras.cpp, Comissionados.cpp).
+  // Items (Itens.cpp, Produtos.cpp, CodigoDeBarras.cpp, Comissionados.cpp).
   void optServico_Click();
   void optProduto_Click();
   void zvcmbTiposDeServicos_Click();
@@ -257,6 +259,7 @@ class frmCaixaOperar final : public platform::Form {
   void EsvaziarCompanheiros(const platform::ZVFind& campo);
   void PesquisarOuLimparItem(platform::ZVFind& campo);
   void PesquisarPorCodigoDeBarras();
+  void RecusarCodigoDeBarras();
   void PesquisarPorCodigoDeBalanca(const std::string& codigo);
   std::optional<base::Currency> QuantidadeDaBalanca(std::int32_t formato);
   bool ProcurarProdutoDosCampos();
@@ -268,8 +271,9 @@ class frmCaixaOperar final : public platform::Form {
   void AbrirCamposDoProdutoEncontrado();
   std::vector<platform::ZVFind*> Companheiros(const platform::ZVFind& campo);
   void RecomecarItem(platform::ZVFind& campo);
+  void VoltarAoCampo(platform::ZVFind& campo);
 
-  // Lines (Linhas.cpp, Alteracao.cpp, Validacao.cpp, Totais.cpp).
+  // Lines (Linhas.cpp, Alteracao.cpp, Validacao.cpp).
   struct NovaLinha;
   void zvcmdAdicionar_Click();
   NovaLinha MontarLinha();

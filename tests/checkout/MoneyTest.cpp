@@ -73,11 +73,12 @@ TEST_F(MoneyTest, ChangeThatIsNotHandedOverBecomesCredit) {
 }
 
 TEST_F(MoneyTest, RemovalsCorrectWhatTheTendersDid) {
+  // Where there was change, a removal that leaves no credit to keep notes a plain 0.
   Check(R"(
     100 | 0  | 1 40; -1                | 0,00     | 100,00    | Saldo | 60,00     | 0,00  | (0,00)
     100 | 0  | 1 40; 2 30; -1          | 30,00    | 70,00     | Saldo | 30,00     | 0,00  | (0,00)
-    100 | 0  | 1 100; 2 30; -2         | 100,00   | 0,00      | Saldo | -30,00    | 0,00  | (0,00)
-    100 | 0  | 1 120; 2 40; -2         | 120,00   | -20,00    | Troco | -60,00    | 0,00  | (0,00)
+    100 | 0  | 1 100; 2 30; -2         | 100,00   | 0,00      | Saldo | -30,00    | 0,00  | (0)
+    100 | 0  | 1 120; 2 40; -2         | 120,00   | -20,00    | Troco | -60,00    | 0,00  | (0)
     0   | 0  | 1 0; -1                 | 0,00     | 0,00      | Saldo | 0,00      | 0,00  | (0,00)
     100 | 50 | 7 30; -1                | 0,00     | 100,00    | Saldo | 70,00     | 50,00 | (0,00)
     100 | 50 | 1 40; 7 30; -1          | 30,00    | 70,00     | Saldo | 30,00     | 20,00 | (0,00)
@@ -91,10 +92,25 @@ TEST_F(MoneyTest, RemovalsCorrectWhatTheTendersDid) {
   )");
   // The bound of the change stays that of the last tender added.
   Check(R"(
-    100 | 0  | 1 120; 2 40; -2; t60    | 120,00   | -60,00    | Troco | -60,00    | 0,00  | (0,00)
+    100 | 0  | 1 120; 2 40; -2; t60    | 120,00   | -60,00    | Troco | -60,00    | 0,00  | (0)
     100 | 0  | 1 120; 2 40; -2; t15    | 120,00   | -15,00    | Troco | -60,00    | 0,00  | 45,00
     100 | 0  | 1 120; 2 40; -2; t15; -1| 0,00     | 100,00    | Saldo | -60,00    | 0,00  | 25,00
   )");
+}
+
+// The change was touched but means the same amount: a credit of nothing is shown, and goes with the
+// tender.
+TEST_F(MoneyTest, ACreditOfNothingGoesWithItsTender) {
+  Pay("100", "0", [&](frmCaixaPagar& form) {
+    Add(form, 3, "150");
+    input::Focus(form.zvtxtSaldoDevedorOuTroco);
+    input::Press(form, platform::KeyStroke::Of(platform::Key::kEnd));
+    input::Press(form, platform::KeyStroke::Of(platform::Key::kBackspace));
+    input::Focus(form.zvcmbFormaDePagamento);
+    EXPECT_EQ(State(form), "150,00 | -50,0 | Troco | -50,00 | 0,00 | 0,00");
+    input::Click(form.zvcmdRemover);
+    EXPECT_EQ(State(form), "0,00 | 100,00 | Saldo | -50,00 | 0,00 | (0)");
+  });
 }
 
 TEST_F(MoneyTest, AChangeOfATenderIsARemovalAndANewEntry) {
