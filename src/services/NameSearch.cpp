@@ -22,9 +22,9 @@ bool IsSampled(Engine engine, const std::string& part) {
   return engine == Engine::kSqlite || base::Length(part) >= kLongPart;
 }
 
-/// At most kSamples trigrams: one of every word, since names have their words in common one by one,
-/// then others of the longest words. None twice, and none that lies across two words while there is
-/// another: of those PostgreSQL's index knows no more than how the second one begins.
+/// At most kSamples trigrams: the end of every word, since names have their words in common one by
+/// one, then others of the longest words. None twice, and none that lies across two words while
+/// there is another: of those PostgreSQL's index knows no more than how the second one begins.
 std::vector<std::string> Samples(const std::string& part) {
   const std::u32string text = base::ToCharacters(part);
   const std::size_t most = std::min(kSamples, text.size() / kTrigram);
@@ -38,14 +38,14 @@ std::vector<std::string> Samples(const std::string& part) {
   for (std::size_t at = 0, end = 0; at < text.size(); at = end + 1) {
     end = std::min(text.find(U' ', at), text.size());
     const std::size_t length = end - at;
-    if (length >= kTrigram) take(at);
+    if (length >= kTrigram) take(end - kTrigram);
     // A word of two letters, with the blank on one of its sides.
     if (length + 1 == kTrigram) take(at == 0 ? at : at - 1);
     if (length > kTrigram) longWords.emplace_back(length, at);
   }
   std::ranges::stable_sort(longWords, std::greater(), [](const auto& word) { return word.first; });
   for (const auto& [length, at] : longWords) {
-    take(at + length - kTrigram);
+    take(at);
     take(at + 1);
   }
   for (std::size_t at = 0; at + kTrigram <= text.size(); ++at) take(at);

@@ -1,3 +1,6 @@
+#include <bitset>
+#include <deque>
+
 #include "base/Text.h"
 #include "services/DatabaseError.h"
 #include "services/EscritaDeVenda.h"
@@ -26,6 +29,7 @@ constexpr std::string_view kTake =
     " CASE WHEN (SELECT count(*) FROM pre) = CAST($7 AS integer) THEN CAST($7 AS integer) END,"
     " {places} FROM serie s RETURNING numero)";
 constexpr int kTakenPlaces = 7;
+constexpr std::size_t kMostTables = 4;
 
 /// "CAST($8 AS bigint), CAST($9 AS text)" and so on, from place `next` on; with `suffix` behind
 /// every type.
@@ -39,17 +43,37 @@ std::string Places(std::span<const Coluna> columns, int& next, std::string_view 
   return places;
 }
 
-std::string SaleText() {
+/// The rows of a sale in each of its tables.
+using Rows = std::vector<std::vector<Params>>;
+
+/// Which tables a sale has rows in, a bit each; the others have no part in its statement, since the
+/// server takes its time over them even when they get none.
+using Used = std::bitset<kMostTables>;
+
+std::string SaleText(Used used) {
   int next = kTakenPlaces + 1;
   std::string text = base::Replace(kTake, "{names}", Nomes(ColunasDaVenda()));
   text = base::Replace(text, "{places}", Places(ColunasDaVenda(), next));
-  for (const TabelaDaVenda& table : TabelasDaVenda()) {
+  for (std::size_t i = 0; i < TabelasDaVenda().size(); ++i) {
+    if (!used[i]) continue;
+    const TabelaDaVenda& table = TabelasDaVenda()[i];
     text.append(", ").append(table.nome).append("_novos AS (INSERT INTO ").append(table.nome);
     text.append(" (numero_da_venda, ").append(Nomes(table.colunas));
     text.append(") SELECT s.n, r.* FROM serie s, unnest(");
     text.append(Places(table.colunas, next, "[]")).append(") AS r)");
   }
   return text + " SELECT numero FROM venda";
+}
+
+const Statement& SaleInto(Used used) {
+  static const auto statements = [] {
+    std::deque<Statement> all;
+    for (std::size_t tables = 0; tables < 1U << kMostTables; ++tables) {
+      all.emplace_back(SaleText(tables));
+    }
+    return all;
+  }();
+  return statements[used.to_ulong()];
 }
 
 /// A value as an element of an array text, quoted where it is a text.
@@ -84,16 +108,16 @@ std::string ArrayOf(const std::vector<std::int32_t>& numbers) {
   return ArrayOf(rows, 0);
 }
 
-Params SaleParams(const Venda& venda) {
+Params SaleParams(const Venda& venda, const Rows& rows) {
   const auto preSales = venda.PreVendas();
   Params params{venda.numeroDoCaixa, venda.VariacaoDoDinheiro(), venda.codigoDoCliente,
                 venda.creditoUsado,  venda.creditoMantido,       ArrayOf(preSales),
                 preSales.size()};
   for (Param& value : LinhaDaVenda(venda)) params.push_back(std::move(value));
-  for (const TabelaDaVenda& table : TabelasDaVenda()) {
-    const auto rows = table.linhas(venda);
-    for (std::size_t column = 0; column < table.colunas.size(); ++column) {
-      params.emplace_back(ArrayOf(rows, column));
+  for (const std::vector<Params>& each : rows) {
+    if (each.empty()) continue;
+    for (std::size_t column = 0; column < each.front().size(); ++column) {
+      params.emplace_back(ArrayOf(each, column));
     }
   }
   return params;
@@ -102,10 +126,16 @@ Params SaleParams(const Venda& venda) {
 }  // namespace
 
 std::optional<std::int32_t> EscreverNoPostgres(Session& session, const Venda& venda) {
-  static const Statement sale(SaleText());
+  Rows rows;
+  Used used;
+  for (const TabelaDaVenda& table : TabelasDaVenda()) {
+    rows.push_back(table.linhas(venda));
+    used.set(rows.size() - 1, !rows.back().empty());
+  }
   std::int32_t number = 0;
   try {
-    session.Select(sale, SaleParams(venda), [&](const Row& row) { number = row.Number(0); });
+    session.Select(SaleInto(used), SaleParams(venda, rows),
+                   [&](const Row& row) { number = row.Number(0); });
   } catch (const DatabaseError& error) {
     if (error.What() != Trouble::kConstraint) throw;
     return std::nullopt;

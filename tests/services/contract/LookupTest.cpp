@@ -99,6 +99,21 @@ TEST_P(LookupTest, CustomersAreFoundByAnyPartOfEitherName) {
   EXPECT_EQ("", CustomersBy("", 1e300));
 }
 
+TEST_P(LookupTest, EveryPartOfANameOfShortAndRepeatedWordsFindsIt) {
+  const std::string name = "lu da luz e luz da lu luluzinha";
+  Customer(10, "Xuxu", name);
+  Customer(11, "Bia", "Lu da Luz");
+  for (std::size_t at = 0; at + 3 <= name.size(); ++at) {
+    for (std::size_t length = 3; at + length <= name.size(); ++length) {
+      const std::string part = base::Trim(name.substr(at, length));
+      if (part.size() < 3) continue;
+      ASSERT_NE(std::string::npos, CustomersBy(part).find("10")) << part;
+    }
+  }
+  EXPECT_EQ("", CustomersBy("luz da luz"));
+  EXPECT_EQ("", CustomersBy("lu lu lu"));
+}
+
 TEST_P(LookupTest, ThePickListTakesCodeOrName) {
   Customer(123, "Ana", "Ana Maria");
   Customer(7, "Loja 123", "Casa 123 Ltda.");
