@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "clinic/Clinic.h"
+#include "clinic/Clock.h"
+#include "frame/servicos/Servico.h"
+#include "services/Banco.h"
+#include "services/RegistrarServicos.h"
+
+namespace bench {
+
+/// The business services over a database, found by their identifiers while it lives.
+class Opened {
+ public:
+  explicit Opened(const Database& database) {
+    banco_ = services::AbrirBanco(database.Address(), clock_, "BALCAO-1");
+    services::RegistrarServicos(banco_);
+  }
+  ~Opened() { servicos::EsquecerTodos(); }
+  Opened(const Opened&) = delete;
+  Opened& operator=(const Opened&) = delete;
+
+  services::Session& Session() { return banco_->Sessao(); }
+
+ private:
+  StandingClock clock_;
+  std::shared_ptr<services::Banco> banco_;
+};
+
+/// Throws std::runtime_error unless the operation of a service answered that it succeeded.
+template <class Service>
+void Require(bool succeeded, Service& service) {
+  if (succeeded) return;
+  throw std::runtime_error(service.DescricaoDoErro() + service.DescricaoDaFalha());
+}
+
+/// Opens a register with nothing in its drawer, as the services do it.
+void OpenRegister(std::int32_t number);
+
+}  // namespace bench

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "services/Statement.h"
+
+namespace bench {
+
+/// Barcode to product, among many.
+void AddBarcodes(services::Engine engine);
+/// The first customers whose name contains a text, of many.
+void AddNames(services::Engine engine);
+/// A sale registered for good.
+void AddPayments(services::Engine engine);
+
+}  // namespace bench
