@@ -78,7 +78,7 @@ std::string_view Sentence(Trouble trouble) {
 }
 
 DatabaseError::DatabaseError(Trouble trouble, std::string_view detail)
-    : std::runtime_error(WithDetail(trouble, detail)), trouble_(trouble) {}
+    : std::runtime_error(WithDetail(trouble, detail)), trouble_(trouble), detail_(detail) {}
 
 Trouble TroubleOfSqlite(int extendedCode) {
   // A column that holds whole numbers alone refuses a sum that no longer is one.

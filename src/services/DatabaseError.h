@@ -36,9 +36,12 @@ class DatabaseError : public std::runtime_error {
   DatabaseError(Trouble trouble, std::string_view detail);
 
   Trouble What() const { return trouble_; }
+  /// The engine's own words, or the operation that failed; may be empty, may be several lines.
+  const std::string& Detail() const { return detail_; }
 
  private:
   Trouble trouble_;
+  std::string detail_;
 };
 
 /// By an extended result code of SQLite.

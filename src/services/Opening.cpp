@@ -108,6 +108,13 @@ Address AddressOf(std::string_view text) {
                    " é de outro programa. Nada foi alterado nele; confira o endereço.");
 }
 
+/// The end of a sentence: what the server answered, for whoever set the address up. Its first line,
+/// since it says the same of every network address that it tried.
+std::string InServersWords(const DatabaseError& error) {
+  const std::string& detail = error.Detail();
+  return detail.empty() ? "." : " (" + detail.substr(0, detail.find('\n')) + ").";
+}
+
 /// The refusal that a fault at opening amounts to.
 [[noreturn]] void RefuseFor(const DatabaseError& error, const Address& address) {
   const bool isFile = address.engine == Engine::kSqlite;
@@ -120,14 +127,15 @@ Address AddressOf(std::string_view text) {
     case Trouble::kNoPermission:
       if (isFile) RefuseForPermission(address);
       Refuse(Motivo::kSemPermissao,
-             std::string("O usuário do banco de dados não tem as permissões de que o caixa precisa "
-                         "no servidor PostgreSQL. ") +
-                 error.what());
+             "O usuário do banco de dados não tem as permissões de que o caixa precisa no servidor "
+             "PostgreSQL. Peça-as ao administrador" +
+                 InServersWords(error));
     case Trouble::kConnectionLost:
-      Refuse(Motivo::kServidorInacessivel,
-             std::string("Não foi possível entrar no servidor PostgreSQL. Confira se ele está "
-                         "ligado, o endereço, o usuário e a senha. ") +
-                 error.what());
+      Refuse(
+          Motivo::kServidorInacessivel,
+          "Não foi possível entrar no servidor PostgreSQL. Confira se ele está ligado, o endereço, "
+          "o usuário e a senha" +
+              InServersWords(error));
     default:
       break;
   }
