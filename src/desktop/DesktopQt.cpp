@@ -279,7 +279,7 @@ void DesktopQt::Dim(platform::WindowHandle window, std::int16_t intensity) {
     dimmer = std::make_unique<Dimmer>(*top, [this, top] { return WaitPanels(*top); });
     QObject::connect(top, &QObject::destroyed, &gate_, [this, top] { dimmers_.erase(top); });
   }
-  dimmer->Apply(intensity);
+  dimmer->Apply(intensity, platform::screens::Modal());
   Restack();
 }
 
@@ -317,12 +317,14 @@ QPainterPath DesktopQt::WaitPanels(const QWidget& window) const {
 void DesktopQt::Restack() {
   // From the ground up: modal screens, the veil beneath the one in front or over them all, forms
   // that ask to wait, boxes.
+  const platform::Form* modal = nullptr;
   FormFrame* front = nullptr;
   std::vector<FormFrame*> waiting;
   for (platform::Form* form : order_) {
     FormFrame* const frame = screens_[form].frame;
     frame->raise();
     if (form->IsModal()) {
+      modal = form;
       front = frame;
     } else {
       waiting.push_back(frame);
@@ -330,7 +332,7 @@ void DesktopQt::Restack() {
   }
   for (const auto& [window, dimmer] : dimmers_) {
     if (dimmer->Count() == 0) continue;
-    const bool beneath = front != nullptr && front->window() == window && !dimmer->CoversAll();
+    const bool beneath = front != nullptr && front->window() == window && !dimmer->Covers(*modal);
     dimmer->PlaceBeneath(beneath ? front : nullptr);
   }
   for (FormFrame* frame : waiting) frame->raise();

@@ -21,7 +21,7 @@ class Veil final : public QWidget {
     hide();
   }
 
-  bool coversAll = false;
+  bool leavesOutPanels = false;
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -36,7 +36,7 @@ class Veil final : public QWidget {
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath path;
     path.addRect(rect());
-    if (coversAll) path -= waiting_();
+    if (leavesOutPanels) path -= waiting_();
     painter.fillPath(path, palette::kDim);
   }
 
@@ -52,18 +52,18 @@ Dimmer::~Dimmer() {
   delete veil_.data();
 }
 
-void Dimmer::Apply(int intensity) {
-  intensities_.push_back(intensity);
+void Dimmer::Apply(int intensity, const platform::Form* inFront) {
+  veils_.push_back({intensity, inFront});
   Update();
 }
 
 void Dimmer::Remove() {
-  if (!intensities_.empty()) intensities_.pop_back();
+  if (!veils_.empty()) veils_.pop_back();
   Update();
 }
 
 void Dimmer::Clear() {
-  intensities_.clear();
+  veils_.clear();
   Update();
 }
 
@@ -79,8 +79,8 @@ void Dimmer::PlaceBeneath(QWidget* screen) {
 
 void Dimmer::Update() {
   if (veil_ == nullptr) return;
-  static_cast<Veil*>(veil_.data())->coversAll = CoversAll();
-  veil_->setVisible(!intensities_.empty());
+  static_cast<Veil*>(veil_.data())->leavesOutPanels = IsForWait();
+  veil_->setVisible(!veils_.empty());
   veil_->update();
 }
 

@@ -44,10 +44,11 @@ QPainterPath Outline(const QRectF& box, double radius, Corners corners) {
 
 bool Words(QPainter& painter, const QRectF& box, Qt::Alignment alignment, const QString& words) {
   const QFontMetricsF metrics(painter.font());
-  // A hair of tolerance: the box was often measured with the same words.
+  // A hair of tolerance, where the words do not begin: the box was often measured with them.
   const QString shown = metrics.elidedText(words, Qt::ElideRight, box.width() + 0.5);
-  painter.drawText(box.adjusted(0, 0, 1, 0), static_cast<int>(alignment) | Qt::TextSingleLine,
-                   shown);
+  const bool rightwards = alignment & Qt::AlignRight;
+  painter.drawText(box.adjusted(rightwards ? -1 : 0, 0, rightwards ? 0 : 1, 0),
+                   static_cast<int>(alignment) | Qt::TextSingleLine, shown);
   return shown != words;
 }
 

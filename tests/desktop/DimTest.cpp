@@ -56,18 +56,37 @@ TEST_F(DimTest, InMidWorkTheDarknessStays) {
   EXPECT_TRUE(AllDone());
 }
 
+/// What is told during a wait, an error say, is shown over its darkness as over any other.
 TEST_F(DimTest, TheDialogInFrontStaysLight) {
+  for (const std::int16_t intensity : {std::int16_t{0}, std::int16_t{1}}) {
+    SmallForm dialog;
+    dialog.button.Click = [&] { dialog.Hide(); };
+    Then({[&] {
+      const QImage picture = host->grab().toImage();
+      QWidget& field = WidgetOf(dialog.second);
+      const QPoint inside = field.mapTo(host.get(), QPoint(100, 15));
+      EXPECT_EQ(picture.pixelColor(inside), QColor(Qt::white)) << intensity;
+      EXPECT_LT(qGray(picture.pixel(10, 10)), 160);
+      dialog.button.SetFocus();
+      Key(Qt::Key_Return);
+    }});
+    desktop->Dim(handle, intensity);
+    dialog.ShowModal();
+    desktop->Undim(handle);
+  }
+}
+
+TEST_F(DimTest, TheDialogThatWaitsIsDarkened) {
   SmallForm dialog;
   dialog.button.Click = [&] { dialog.Hide(); };
   Then({[&] {
+    desktop->Dim(handle, 1);
     const QImage picture = host->grab().toImage();
     QWidget& field = WidgetOf(dialog.second);
-    const QPoint inside = field.mapTo(host.get(), QPoint(100, 15));
-    EXPECT_EQ(picture.pixelColor(inside), QColor(Qt::white));
-    EXPECT_LT(qGray(picture.pixel(10, 10)), 160);
+    EXPECT_LT(qGray(picture.pixel(field.mapTo(host.get(), QPoint(100, 15)))), 160);
+    desktop->Undim(handle);
     Click(dialog.button);
   }});
-  desktop->Dim(handle, 0);
   dialog.ShowModal();
 }
 

@@ -85,7 +85,7 @@ TEST_F(EditBoxTest, APastePressesNoKeys) {
   int searches = 0;
   form.find.Click = [&] { ++searches; };
   form.find.SetFocus();
-  Copied("ana\nmaria\t\n");
+  Copied("\n ana\tmaria\r\nRua das Flores\n");
   Key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(searches, 0);
   EXPECT_EQ(form.find.Text(), "ana maria");
@@ -157,6 +157,28 @@ TEST_F(EditBoxTest, WordsAndLinesByTheKeyboard) {
   Key(Qt::Key_End);
   Type("<");
   EXPECT_EQ(form.memo.Text(), ">um\ndois<");
+}
+
+/// An amount whose first figures are out of sight would read as another one.
+TEST_F(EditBoxTest, ALongAmountIsSetSmallerAndALongNameIsCutWithItsTip) {
+  const auto inkAtLeft = [&](const platform::Control& control) {
+    const QImage picture = WidgetOf(control).grab().toImage();
+    for (int y = 4; y < picture.height() - 4; ++y) {
+      for (int x = 3; x < 7; ++x) {
+        if (qGray(picture.pixel(x, y)) < 200) return true;
+      }
+    }
+    return false;
+  };
+  form.memo.SetFocus();
+  form.number.Text = "9.999.999.999.999.999.999.999.999,99";
+  EXPECT_FALSE(inkAtLeft(form.number)) << "figures run out of the field";
+  EXPECT_FALSE(desktop->ViewOf(form.number)->IsCut());
+  form.text.Text = std::string(120, 'm');
+  form.password.Text = std::string(120, 'm');
+  host->grab();
+  EXPECT_TRUE(desktop->ViewOf(form.text)->IsCut());
+  EXPECT_FALSE(desktop->ViewOf(form.password)->IsCut()) << "the tip would tell the password";
 }
 
 TEST_F(EditBoxTest, TheFindFieldsButtonSearchesAndItsTextDoesNot) {

@@ -14,6 +14,7 @@
 #include "desktop/host/Options.h"
 #include "desktop/host/Player.h"
 #include "desktop/host/Scripts.h"
+#include "desktop/views/View.h"
 #include "frame/servicos/Servico.h"
 #include "platform/Screens.h"
 #include "services/Banco.h"
@@ -117,6 +118,35 @@ TEST_F(HostTest, ClosingInMidWorkUnwindsFirstAndThenFreesTheCustomer) {
   });
   EXPECT_EQ(platform::screens::Modal(), nullptr);
   EXPECT_TRUE(services::ListarTravas(*bank).empty());
+}
+
+TEST_F(HostTest, NoCaptionOfCounterAndPaymentIsCut) {
+  std::vector<Step> script = kUpToCustomer;
+  for (const std::string_view product : {"7890000010030", "7890000010061"}) {
+    script.push_back({Act::kClick, "optProduto"});
+    script.push_back({Act::kType, "zvfCodigoDeBarrasDoProduto", product});
+    script.push_back({Act::kKey, "", "Enter"});
+    script.push_back({Act::kSettle, "frmCaixaOperar"});
+    script.push_back({Act::kClick, "zvcmdAdicionar"});
+  }
+  script.push_back({Act::kClick, "zvcmdPagamento"});
+  script.push_back({Act::kScreen, "frmCaixaPagar"});
+  script.push_back({Act::kPick, "zvcmbFormaDePagamento", "6-A"});  // Brings up the due date.
+  script.push_back({Act::kSettle, "frmCaixaPagar"});
+  Play(script, [&] {
+    window->grab();
+    int captions = 0;
+    for (const platform::Form* form : platform::screens::Loaded()) {
+      for (const platform::Control* control : form->Controls()) {
+        const desktop::View* const view = desktop.ViewOf(*control);
+        if (view == nullptr || !view->isVisible() || control->Words().empty()) continue;
+        ++captions;
+        EXPECT_FALSE(view->IsCut()) << form->Name() << '.' << control->Name();
+      }
+    }
+    EXPECT_GT(captions, 50);
+    window->close();
+  });
 }
 
 TEST_F(HostTest, AWrongPasswordIsToldOnTheSpot) {

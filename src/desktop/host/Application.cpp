@@ -26,6 +26,7 @@
 #include "desktop/host/Options.h"
 #include "desktop/host/Player.h"
 #include "desktop/host/Process.h"
+#include "desktop/host/ScreenFile.h"
 #include "desktop/host/Scripts.h"
 #include "frame/servicos/Servico.h"
 #include "services/Banco.h"
@@ -123,6 +124,8 @@ class Application {
     const EndRequests requests(*window_);
     ShowWindow();
     window_->ShowSignIn();
+    std::optional<ScreenFile> told;
+    if (!options_.screenFile.empty()) told.emplace(desktop_, options_.screenFile);
     if (IsScripted()) Play();
     if (options_.mode == Options::Mode::kMeasure) Measure();
     const int status = QCoreApplication::exec();
@@ -178,6 +181,7 @@ class Application {
     player_ = std::make_unique<Player>(desktop_, *window_,
                                        sale ? scripts::Demonstration() : scripts::Portraits());
     player_->folder = options_.pictures;
+    player_->numbered = sale;
     player_->words = {{"pasta", options_.pictures}};
     constexpr const char* kRoles[] = {"administrador", "supervisor", "operador"};
     for (std::size_t i = 0; i < std::size(kRoles) && i < users_.size(); ++i) {

@@ -13,6 +13,9 @@ const char* Options::Help() {
          "  --demonstracao PASTA   cria em PASTA uma clínica de demonstração, faz nela uma venda\n"
          "                         pelas telas, conta cada passo e deixa retratos em PASTA\n"
          "  --retratos PASTA       deixa em PASTA um retrato de cada tela\n"
+         "  --contar-tela ARQUIVO  mantém em ARQUIVO o que está na tela e onde, para testes que "
+         "usam\n"
+         "                         o teclado e o mouse de fora\n"
          "  --medir-inicio         mostra em quanto tempo e com quanta memória a entrada aparece,\n"
          "                         e sai\n"
          "  --ajuda                mostra esta ajuda\n"
@@ -35,6 +38,7 @@ Options Options::Read(const std::vector<std::string>& arguments) {
     std::string* value = nullptr;
     if (name == "--banco") value = &options.database;
     if (name == "--pasta") value = &options.folder;
+    if (name == "--contar-tela") value = &options.screenFile;
     if (name == "--retratos" || name == "--demonstracao") {
       if (!options.pictures.empty()) {
         throw BadOption("Peça os retratos ou a demonstração, não os dois.");

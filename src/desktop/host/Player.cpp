@@ -17,12 +17,14 @@
 #include "desktop/DesktopQt.h"
 #include "desktop/MessageBoxView.h"
 #include "desktop/Photograph.h"
+#include "desktop/host/InFront.h"
 #include "desktop/views/ComboList.h"
 #include "desktop/views/MSFlexGrid.h"
 #include "desktop/views/Toolbar.h"
 #include "desktop/views/ZVComboBox.h"
+#include "frame/modMensagemDeErro.h"
 #include "platform/EditBox.h"
-#include "platform/Screens.h"
+#include "platform/Input.h"
 
 namespace host {
 namespace {
@@ -46,6 +48,10 @@ constexpr std::array<std::pair<std::string_view, int>, 9> kKeys{{{"Enter", Qt::K
 
 constexpr std::array<std::pair<std::string_view, Answer>, 3> kAnswers{
     {{"sim", Answer::kYes}, {"não", Answer::kNo}, {"ok", Answer::kOk}}};
+
+/// As the services number a lost connection.
+constexpr std::int32_t kFault = 3001;
+constexpr auto kFaultAt = "ZOVA_N_Caixa, clsCaixa, RegistrarPagamento";
 
 template <class Table>
 auto Find(const Table& table, std::string_view name) {
@@ -86,13 +92,8 @@ bool Player::IsResting() const {
   return desktop_.IsResting() || QApplication::activePopupWidget() != nullptr;
 }
 
-platform::Form* Player::Front() const {
-  platform::Form* const modal = platform::screens::Modal();
-  return modal != nullptr ? modal : platform::screens::Front();
-}
-
 platform::Control* Player::ControlOf(std::string_view name) const {
-  const platform::Form* const form = Front();
+  const platform::Form* const form = InFront();
   return form == nullptr ? nullptr : form->FindControl(name);
 }
 
@@ -113,10 +114,11 @@ std::string Player::Filled(std::string_view text) const {
 
 bool Player::IsReady(const Step& step) const {
   const desktop::MessageBoxView* const box = desktop_.Box();
-  const platform::Form* const front = Front();
+  const platform::Form* const front = InFront();
   switch (step.act) {
     case Act::kSay:
     case Act::kKey:
+    case Act::kFault:
     case Act::kPicture:
       return true;
     case Act::kScreen:
@@ -163,7 +165,7 @@ void Player::Tick() {
 }
 
 void Player::GiveUp(const Step& step) {
-  const platform::Form* const front = Front();
+  const platform::Form* const front = InFront();
   const desktop::MessageBoxView* const box = desktop_.Box();
   std::string why = "o passo " + std::to_string(at_ + 1) + " (" + std::string(step.target) + " " +
                     Filled(step.text) + ") não pôde ser feito; na frente está " +
@@ -216,10 +218,15 @@ void Player::Do(const Step& step) {
       return ClickMenu(text);
     case Act::kCell:
       return Click(*view, RowBox(step).center().toPoint());
+    case Act::kFault:
+      platform::input::Run([&] { frame::ExibirMensagemDeErro(kFault, text, kFaultAt); });
+      return;
     case Act::kPicture:
-    case Act::kWaitPanel:
+    case Act::kWaitPanel: {
       ++pictures_;
-      return TakePicture((pictures_ < 10 ? "0" : "") + std::to_string(pictures_) + "-" + text);
+      const std::string number = (pictures_ < 10 ? "0" : "") + std::to_string(pictures_) + "-";
+      return TakePicture(numbered ? number + text : text);
+    }
   }
 }
 
@@ -268,7 +275,7 @@ void Player::ClickMenu(const std::string& text) {
 
 void Player::TakePicture(const std::string& name) {
   const QString path = QDir(desktop::ToQt(folder)).filePath(desktop::ToQt(name + ".png"));
-  if (!desktop::Photograph(window_).save(path)) {
+  if (!desktop::SaveSmall(desktop::Photograph(window_), path)) {
     End(false, "não foi possível gravar " + desktop::FromQt(path));
   }
 }

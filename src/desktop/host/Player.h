@@ -20,7 +20,6 @@ class View;
 
 namespace platform {
 class Control;
-class Form;
 }  // namespace platform
 
 namespace host {
@@ -29,21 +28,22 @@ namespace host {
 /// needs; "{name}" in it stands for one of the player's words.
 struct Step {
   enum class Act {
-    kSay,      ///< Tells `text`.
-    kTell,     ///< Tells `text` and what the control `target` shows.
-    kScreen,   ///< Waits for the screen `target` to be in front, at rest and without a box.
-    kBox,      ///< Waits for a message box that contains `text`.
-    kAnswer,   ///< Presses a button of the box: "sim", "não", "ok".
-    kSettle,   ///< Answers every box that comes with its safe answer, until `target` is in front.
-    kClick,    ///< Clicks on the control; on a find field, on its text.
-    kSearch,   ///< Clicks on the button of a find field.
-    kType,     ///< Clicks on the control, selects all, and types `text`.
-    kKey,      ///< Presses one key: "Enter", "Tab", "Esc", "F4", "Delete", "Down", "Up".
-    kPick,     ///< Opens the combo box and clicks on the item that begins with `text`.
-    kTool,     ///< Clicks on the button of key `text` of the toolbar `target`.
-    kMenu,     ///< Clicks on the entry `text` of the menu that is up.
-    kCell,     ///< Clicks on row `text` of the grid `target`, counted from the header as 0.
-    kPicture,  ///< Takes a picture of the window into the file NN-`text`.png, NN counting from 01.
+    kSay,        ///< Tells `text`.
+    kTell,       ///< Tells `text` and what the control `target` shows.
+    kScreen,     ///< Waits for the screen `target` to be in front, at rest and without a box.
+    kBox,        ///< Waits for a message box that contains `text`.
+    kAnswer,     ///< Presses a button of the box: "sim", "não", "ok".
+    kSettle,     ///< Answers every box that comes with its safe answer, until `target` is in front.
+    kClick,      ///< Clicks on the control; on a find field, on its text.
+    kSearch,     ///< Clicks on the button of a find field.
+    kType,       ///< Clicks on the control, selects all, and types `text`.
+    kKey,        ///< Presses one key: "Enter", "Tab", "Esc", "F4", "Delete", "Down", "Up".
+    kPick,       ///< Opens the combo box and clicks on the item that begins with `text`.
+    kTool,       ///< Clicks on the button of key `text` of the toolbar `target`.
+    kMenu,       ///< Clicks on the entry `text` of the menu that is up.
+    kCell,       ///< Clicks on row `text` of the grid `target`, counted from the header as 0.
+    kFault,      ///< Reports an error of that description, as one that a screen meets is reported.
+    kPicture,    ///< Takes a picture of the window into the file `text`.png.
     kWaitPanel,  ///< The same while a wait panel is up, which is when the system is not at rest.
   };
   Act act;
@@ -59,8 +59,9 @@ class Player final : public QObject {
 
   /// What "{name}" stands for.
   std::map<std::string, std::string, std::less<>> words;
-  /// Where pictures go.
+  /// Where pictures go, and whether their names begin with their number, from "01-".
   std::string folder;
+  bool numbered = true;
   /// Told what happens, a line at a time.
   std::function<void(const std::string&)> tell;
   /// The script ended, well or at a step that could not be done; then `why` says which and why.
@@ -86,7 +87,6 @@ class Player final : public QObject {
   void TakePicture(const std::string& name);
   void TellOf(const Step& step);
 
-  platform::Form* Front() const;
   platform::Control* ControlOf(std::string_view name) const;
   desktop::View* ViewOf(std::string_view name) const;
   std::string Filled(std::string_view text) const;

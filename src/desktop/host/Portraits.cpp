@@ -24,6 +24,7 @@ constexpr std::array kSignIn{
 constexpr std::array kMovements{
     Step{Act::kTool, "tbMenuCaixa", "Entradas"},
     Step{Act::kScreen, "frmCaixaEntradas"},
+    Step{Act::kPicture, "", "entradas"},
     Step{Act::kClick, "zvcmdSalvar"},
     Step{Act::kBox},
     Step{Act::kPicture, "", "aviso"},
@@ -35,7 +36,7 @@ constexpr std::array kMovements{
     Step{Act::kScreen, "frmCaixaSaidas"},
     Step{Act::kType, "zvnumValorEmDinheiro", "40,00"},
     Step{Act::kType, "zvtxtObservacao", "Compra de café."},
-    Step{Act::kPicture, "", "saida"},
+    Step{Act::kPicture, "", "saidas"},
     Step{Act::kClick, "zvcmdSalvar"},
     Step{Act::kScreen, "frmCaixaAutorizarSaidasDoCaixa"},
     Step{Act::kType, "zvtxtUsuario", "{supervisor}"},
@@ -46,7 +47,7 @@ constexpr std::array kMovements{
     Step{Act::kPicture, "", "saida-efetuada"},
     Step{Act::kSettle, "frmCaixaOperar"},
     Step{Act::kTool, "tbMenuCaixa", "ConsultarPrecos"},
-    Step{Act::kPicture, "", "menu-de-precos"},
+    Step{Act::kPicture, "", "menu"},
     Step{Act::kKey, "", "Esc"},
 };
 
@@ -69,7 +70,7 @@ constexpr std::array<std::string_view, 12> kBarcodes{
     "7890000010542", "7890000010603", "7890000010665", "7890000010726"};
 
 constexpr std::array kFullGrid{
-    Step{Act::kCell, "msfgGrade", "14"}, Step{Act::kPicture, "", "grade-cheia"},
+    Step{Act::kCell, "msfgGrade", "14"}, Step{Act::kPicture, "", "lista-cheia"},
     Step{Act::kClick, "zvcmdRemover"},   Step{Act::kBox},
     Step{Act::kPicture, "", "pergunta"}, Step{Act::kSettle, "frmCaixaOperar"},
 };
@@ -86,7 +87,7 @@ constexpr std::array kPay{
     Step{Act::kSettle, "frmCaixaPagar"},
     Step{Act::kPick, "zvcmbFormaDePagamento", "6-A crédito"},
     Step{Act::kKey, "", "Tab"},
-    Step{Act::kPicture, "", "pagamento-a-credito"},
+    Step{Act::kPicture, "", "pagamento"},
     Step{Act::kClick, "zvcmdCancelar"},
     Step{Act::kSettle, "frmCaixaOperar"},
 };
@@ -97,6 +98,14 @@ constexpr std::array kClose{
     Step{Act::kTool, "tbMenuCaixa", "Fechamento"},
     Step{Act::kScreen, "frmCaixaFechar"},
     Step{Act::kPicture, "", "fechamento"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kScreen, "frmCaixaOperar"},
+    Step{Act::kFault, "",
+         "A conexão com o banco de dados caiu e nada foi gravado. Aguarde um instante e tente de "
+         "novo."},
+    Step{Act::kScreen, "frmMensagemDeErro"},
+    Step{Act::kPicture, "", "erro"},
+    Step{Act::kKey, "", "Esc"},
     Step{Act::kSay, "", "Os retratos das telas estão em {pasta}."},
 };
 

@@ -52,7 +52,7 @@ inline constexpr std::array kFindProduct{
     Step{Act::kSettle, "frmCaixaOperar"},
     Step{Act::kType, "zvnumPercentualDeDescontoPorItem", "5,00"},
     Step{Act::kKey, "", "Tab"},
-    Step{Act::kPicture, "", "produto"},
+    Step{Act::kPicture, "", "balcao"},
 };
 
 inline constexpr std::array kAdd{

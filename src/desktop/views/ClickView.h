@@ -12,7 +12,6 @@ class ClickView : public View {
 
  protected:
   bool IsPressed() const { return pressed_ && inside_; }
-  bool IsHovered() const { return underMouse() && IsWarm(); }
   /// Whether the mouse means anything to the control now.
   virtual bool HearsMouse() const { return true; }
 

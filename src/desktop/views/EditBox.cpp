@@ -56,11 +56,15 @@ QString EditBoxView::Spoken() const {
 }
 
 QFont EditBoxView::FieldFont() const {
+  if (!IsFigures()) return fonts::Text();
   const Style style = StyleOf();
-  if (!style.amount && !style.mainAmount) return fonts::Text();
-  // The amount is as large as its field lets it be, and never cut: a longer one is set smaller.
-  const double most = style.mainAmount ? 34 : 22;
-  QFont font = fonts::Sized(std::min(most, height() * 0.85), QFont::Bold);
+  QFont font = fonts::Text();
+  if (style.amount || style.mainAmount) {
+    // As large as its field lets it be.
+    const double most = style.mainAmount ? 34 : 22;
+    font = fonts::Sized(std::min(most, height() * 0.85), QFont::Bold);
+  }
+  // An amount is never cut, for it would read as another one: a longer one is set smaller.
   const double wide = fonts::figures::Advance(font, ToQt(Box().Shown()));
   const double room = TextBox().width();
   if (wide > room && room > 0) font.setPointSizeF(font.pointSizeF() * room / wide);
@@ -84,6 +88,11 @@ bool EditBoxView::IsBare() const {
   return style.onDeep || (style.amount && Box().Locked());
 }
 
+bool EditBoxView::IsFigures() const {
+  const Style style = StyleOf();
+  return Shows()->GetKind() == platform::Kind::kNumberBox || style.amount || style.mainAmount;
+}
+
 QRectF EditBoxView::TextBox() const {
   // An amount without a frame of its own ends where its label ends.
   if (IsBare()) return rect();
@@ -91,9 +100,7 @@ QRectF EditBoxView::TextBox() const {
 }
 
 const EditLayout& EditBoxView::LaidOut() const {
-  const bool figures =
-      Shows()->GetKind() == platform::Kind::kNumberBox || StyleOf().amount || StyleOf().mainAmount;
-  layout_.Set(Shown(), {FieldFont(), TextBox().width(), Box().multiline, figures});
+  layout_.Set(Shown(), {FieldFont(), TextBox().width(), Box().multiline, IsFigures()});
   return layout_;
 }
 
@@ -157,6 +164,13 @@ void EditBoxView::PaintText(QPainter& painter) {
   QColor ink = style.mainAmount ? palette::kPanel : palette::kText;
   if (Box().ForeColor() != platform::kDefaultColor) ink = ToQt(Box().ForeColor());
   painter.setPen(ink);
+  const bool cut = !active && !Box().multiline && layout.Right() > TextBox().width() + 0.5;
+  WordsCut(cut && !IsPassword());
+  if (cut && !IsFigures()) {
+    painter.setFont(FieldFont());
+    paint::Words(painter, TextBox(), Qt::AlignLeft | Qt::AlignVCenter, Shown());
+    return;
+  }
   layout.Draw(painter, origin);
   if (!active) return;
   const int caret = UnitOf(Box().Caret());

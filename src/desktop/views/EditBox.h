@@ -48,6 +48,8 @@ class EditBoxView : public View {
   Style StyleOf() const;
   /// An amount that is only read stands on its panel without a frame.
   bool IsBare() const;
+  /// Whether it holds a number, set from the right in figures of one width.
+  bool IsFigures() const;
   QFont FieldFont() const;
   bool IsPassword() const;
   bool IsWritable() const;

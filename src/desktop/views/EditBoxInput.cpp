@@ -19,10 +19,11 @@ namespace {
 /// The most characters that a paste types: more is a mistake of the hand.
 constexpr int kLongestPaste = 10'000;
 
-/// What can be typed of a text: line breaks and tabs would press keys that act.
+/// What can be typed of a text: tabs would press a key that acts, and so would line breaks in a
+/// field of one line, which takes the first line alone.
 QString Typeable(QString text, bool multiline) {
   text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-  if (!multiline) text.replace(u'\n', u' ');
+  if (!multiline) text = text.section(u'\n', 0, 0);
   text.replace(u'\t', u' ');
   text.removeIf(
       [](QChar each) { return each.category() == QChar::Other_Control && each != u'\n'; });
@@ -68,8 +69,8 @@ void EditBoxView::Copy() {
 
 void EditBoxView::Paste() {
   if (!IsWritable()) return;
-  // What was copied with its line end is meant without it.
   QString text = QGuiApplication::clipboard()->text();
+  // What was copied with the blanks and line ends around it is meant without them.
   if (!Box().multiline) text = text.trimmed();
   text = Typeable(text, Box().multiline);
   platform::input::Type(Box().OwnerForm(), FromQt(text));

@@ -95,7 +95,9 @@ void MSFlexGridView::MeasureCells() {
   for (std::int32_t col = 0; col < Grid().Cols(); ++col) {
     if (Grid().ColWidth(col) <= 0) continue;
     double& need = needs_[static_cast<std::size_t>(col)];
-    for (const QString& word : CellText(0, col).split(u' ')) {
+    // The title of an amount stands in one line; that of a text may take two.
+    const bool amount = IsRightwards(Grid(), col);
+    for (const QString& word : CellText(0, col).split(amount ? u'\n' : u' ')) {
       const double wide = fonts::figures::Advance(CellFont(0, col), word) + 2 * kCellMargin + 4;
       need = std::max(need, wide);
     }

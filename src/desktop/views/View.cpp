@@ -1,5 +1,6 @@
 #include "desktop/views/View.h"
 
+#include <QCursor>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QToolTip>
@@ -154,6 +155,10 @@ void View::focusOutEvent(QFocusEvent*) {
 
 bool View::IsWarm() const {
   return IsUsable() && platform::screens::IsReachable(control_->OwnerForm());
+}
+
+bool View::IsHovered() const {
+  return underMouse() && rect().contains(mapFromGlobal(QCursor::pos())) && IsWarm();
 }
 
 }  // namespace desktop

@@ -30,6 +30,8 @@ class View : public QWidget, public platform::Observer {
   virtual double RingRadius() const;
   /// The pointer over the view while the screen has no other.
   virtual Qt::CursorShape Pointer() const { return Qt::ArrowCursor; }
+  /// Whether its words did not fit when they were last painted.
+  bool IsCut() const { return cut_; }
   /// What a screen reader says after the name.
   virtual QString Spoken() const;
 
@@ -42,7 +44,7 @@ class View : public QWidget, public platform::Observer {
   void Listen(platform::Object& object);
   /// What the pointer may say of the view at this place; empty for nothing.
   virtual QString ToolTipAt(const QPoint& at) const;
-  /// The words did not fit when they were last painted: the tool tip tells them.
+  /// Where the words are cut, the tool tip tells them.
   void WordsCut(bool cut) { cut_ = cut; }
 
   /// Whether characters may repeat while their key is held.
@@ -65,6 +67,9 @@ class View : public QWidget, public platform::Observer {
   bool IsUsable() const { return control_ != nullptr && control_->IsUsable(); }
   /// Whether the mouse may leave a trace on it: usable, and its screen in reach.
   bool IsWarm() const;
+  /// Whether the mouse is on it and leaves a trace; a list that was open over it hides from Qt that
+  /// the mouse has left.
+  bool IsHovered() const;
 
  private:
   void Place();

@@ -78,7 +78,7 @@ void ZVComboBoxView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const bool usable = IsUsable();
   QColor fill = usable ? palette::kPanel : palette::kLockedField;
-  if (usable && underMouse() && IsWarm()) fill = palette::kHover;
+  if (IsHovered()) fill = palette::kHover;
   if (Combo().BackColor() != platform::kDefaultColor) fill = ToQt(Combo().BackColor());
   QColor border = usable ? palette::kFieldBorder : palette::kPanelBorder;
   if (Combo().label != nullptr && Combo().label->ForeColor() == platform::Rgb(255, 0, 0)) {
