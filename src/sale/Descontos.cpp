@@ -36,7 +36,8 @@ bool EhDataValida(const base::Value& valor) {
 
 /// Where today lies; both days of the period belong to it.
 Periodo PeriodoDe(const base::RecordSet& empresa, std::string_view inicio, std::string_view fim) {
-  const base::Value de = empresa.Fields(inicio), ate = empresa.Fields(fim);
+  const base::Value& de = empresa.Fields(inicio);
+  const base::Value& ate = empresa.Fields(fim);
   if (base::IsBlank(base::ToText(de))) return Periodo::kSemInicio;
   if (!EhDataValida(de) || !EhDataValida(ate)) return Periodo::kInvalido;
   const base::DateTime hoje = platform::Desktop::Current().Now().Date();

@@ -5,7 +5,6 @@
 
 namespace sale {
 
-using base::Currency;
 using frame::kZeroEmDinheiro;
 using frame::LerCurrency;
 using frame::LerDouble;

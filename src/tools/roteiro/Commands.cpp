@@ -69,9 +69,9 @@ const Command& CommandIn(const Arguments& arguments) {
   const auto* const found = std::ranges::find(kCommands, name, &Command::name);
   if (found == std::end(kCommands)) throw CannotDo("unknown command \"" + name + "\"");
   for (const auto& [field, value] : arguments.Command().items()) {
-    if (field != "do" && !HasWord(found->fields, field)) {
-      throw CannotDo("\"" + name + "\" takes no field \"" + field + "\"");
-    }
+    if (field == "do" || HasWord(found->fields, field)) continue;
+    throw CannotDo(std::string("\"").append(name).append("\" takes no field \"").append(field) +
+                   "\"");
   }
   return *found;
 }
