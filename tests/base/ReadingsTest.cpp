@@ -14,7 +14,6 @@ constexpr const char* kReadings = R"(
 "   "            | error 13   | error 13   | 0      | blanks alone
 0                | 0          | 0          | 0      | zero
 7                | 7          | 7          | 7      | a digit
-0012             | 12         | 12         | 12     | leading zeros
 "  12  "         | 12         | 12         | 12     | blanks around
 1 2              | error 13   | error 13   | 12     | a blank inside
 12,5             | 12.5       | 12,5       | 12     | comma: Val stops there
@@ -22,10 +21,8 @@ constexpr const char* kReadings = R"(
 1.234,56         | 1234.56    | 1234,56    | 1.234  | both
 1.234.567        | 1234567    | 1234567    | 1.234  | points: Val stops at the second
 1..2             | 12         | 12         | 1      | any points among the digits
-1.2.3,4          | 123.4      | 123,4      | 1.2    | not only before three digits
 .5               | error 13   | error 13   | 0.5    | no digit before the point
 5.               | error 13   | error 13   | 5      | no digit after the point
-5.,5             | error 13   | error 13   | 5      | a point next to the comma
 1,2.3            | error 13   | error 13   | 1      | a point among the decimals
 ,5               | 0.5        | 0,5        | 0      | decimals alone
 5,               | 5          | 5          | 5      | a comma and no decimals
@@ -38,34 +35,20 @@ constexpr const char* kReadings = R"(
 -0               | -0         | 0          | 0      | no negative zero in money
 - 5              | error 13   | error 13   | -5     | a blank behind the sign
 --5              | error 13   | error 13   | 0      | two signs
-+-5              | error 13   | error 13   | 0      | two signs
--+5              | error 13   | error 13   | 0      | two signs
 -                | error 13   | error 13   | 0      | a sign alone
 5-               | error 13   | error 13   | 5      | a sign behind
-(5)              | error 13   | error 13   | 0      | brackets
 R$ 5             | error 13   | error 13   | 0      | a currency sign
-5%               | error 13   | error 13   | 5      | a per cent sign
 12a              | error 13   | error 13   | 12     | a letter behind
-a12              | error 13   | error 13   | 0      | a letter before
 2 kg             | error 13   | error 13   | 2      | a unit
 1e3              | error 13   | error 13   | 1000   | an exponent
-1E+2             | error 13   | error 13   | 100    | an exponent with a sign
-25e-1            | error 13   | error 13   | 2.5    | a negative exponent
-1e               | error 13   | error 13   | 1      | an exponent without digits
 1e999            | error 13   | error 13   | 1.7976931348623157e+308 | too large
--1e999           | error 13   | error 13   | -1.7976931348623157e+308 | too large
-1e999e-1         | error 13   | error 13   | 1.7976931348623157e+308 | what follows says nothing
 1e-999           | error 13   | error 13   | 0      | too small
 0x10             | error 13   | error 13   | 0      | no other base
 inf              | error 13   | error 13   | 0      | no word is a number
-nan              | error 13   | error 13   | 0      | no word is a number
-12/11            | error 13   | error 13   | 12     | a date
 0,00005          | 5e-05      | 0          | 0      | a tie: to even
 0,00015          | 0.00015    | 0,0002     | 0      | a tie: to even
 0,000050001      | 5.0001e-05 | 0,0001     | 0      | above a tie
-0,00004999       | 4.999e-05  | 0          | 0      | below a tie
 -0,00015         | -0.00015   | -0,0002    | 0      | a tie below zero
--0,00025         | -0.00025   | -0,0002    | 0      | a tie below zero
 0,12345          | 0.12345    | 0,1234     | 0      | a tie: to even
 0,99995          | 0.99995    | 1          | 0      | carried through
 )";

@@ -48,16 +48,6 @@ TEST(Value, IsReadInEveryType) {
   }
 }
 
-TEST(Value, KeepsTheTypeItWasGiven) {
-  EXPECT_TRUE(Value("12").Is<std::string>());
-  EXPECT_TRUE(Value(std::string_view("12")).Is<std::string>());
-  EXPECT_TRUE(Value(true).Is<bool>());
-  EXPECT_TRUE(Value(1.0).Is<double>());
-  EXPECT_TRUE(base::IsNull(Value()));
-  EXPECT_FALSE(base::IsNull(Value("")));
-  EXPECT_NE(Value(1.0), Value(std::int32_t{1}));
-}
-
 TEST(Value, ReadsAsDateAndByVal) {
   EXPECT_EQ(base::ToDate(Value("22/12/2026")), DateTime(2026, 12, 22));
   EXPECT_EQ(base::ToDate(Value(DateTime(2026, 12, 22))), DateTime(2026, 12, 22));
@@ -78,11 +68,7 @@ RecordSet Animals() {
 
 TEST(RecordSet, WalksItsRows) {
   RecordSet rows = Animals();
-  EXPECT_EQ(rows.RecordCount(), 2);
-  EXPECT_EQ(rows.FieldCount(), 3);
-  EXPECT_FALSE(rows.Eof());
   EXPECT_EQ(base::ToText(rows.Fields("NOME")), "Rex") << "names without regard to case";
-  EXPECT_EQ(base::ToText(rows.Fields(1)), "Rex");
   EXPECT_EQ(base::ToText(rows.Field("nome")), "Rex");
   rows.MoveNext();
   EXPECT_TRUE(base::IsNull(rows.Fields("Peso")));
@@ -103,16 +89,10 @@ TEST(RecordSet, RefusesWhatItDoesNotHold) {
   RecordSet rows = Animals();
   EXPECT_EQ(ResultOf([&] { return base::ToText(rows.Fields("Raça")); }), "error 9");
   EXPECT_EQ(ResultOf([&] { return base::ToText(rows.Fields(3)); }), "error 9");
-  EXPECT_EQ(ResultOf([&] { return base::ToText(rows.Fields(-1)); }), "error 9");
   EXPECT_EQ(ResultOf([&] { return rows.FieldName(3); }), "error 9");
   EXPECT_EQ(rows.FieldName(2), "Peso");
   EXPECT_EQ(ResultOf([&] { return rows.Append({"Rex"}), std::string(); }), "error 5");
   EXPECT_EQ(rows.RecordCount(), 2);
-
-  RecordSet none({"Nome"});
-  EXPECT_TRUE(none.Eof());
-  EXPECT_EQ(ResultOf([&] { return base::ToText(none.Fields("Nome")); }), "error 5");
-  EXPECT_EQ(none.GetString(), "");
 }
 
 TEST(RecordSet, GivesItsRowsAsOneText) {

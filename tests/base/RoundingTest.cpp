@@ -20,17 +20,13 @@ TEST(Rounding, ToEvenInConversionsAndAwayFromZeroInMasks) {
     1.5       | 2       | 2        | 1.5      | 2       | 1,50       | tie above an odd digit
     2.5       | 2       | 2        | 2.5      | 3       | 2,50       | tie above an even digit
     -0.5      | 0       | 0        | -0.5     | -1      | -0,50      | ties below zero alike
-    -1.5      | -2      | -2       | -1.5     | -2      | -1,50      | ties below zero alike
     -2.5      | -2      | -2       | -2.5     | -3      | -2,50      | ties below zero alike
     0.4999999 | 0       | 0        | 0.5      | 0       | 0,50       | not a tie
     0.005     | 0       | 0        | 0        | 0       | 0,01       | tie at the second decimal
-    0.015     | 0       | 0        | 0.02     | 0       | 0,02       | a tie; binary is below
     0.025     | 0       | 0        | 0.02     | 0       | 0,03       | a tie; binary is above
     1.005     | 1       | 1        | 1        | 1       | 1,01       | a tie; binary is below
-    2.675     | 3       | 3        | 2.68     | 3       | 2,68       | a tie; binary is below
     0.285     | 0       | 0        | 0.28     | 0       | 0,29       | a tie; binary is below
     -0.285    | 0       | 0        | -0.28    | 0       | -0,29      | the same below zero
-    0.995     | 1       | 1        | 1        | 1       | 1,00       | carried into the integers
     9.995     | 10      | 10       | 10       | 10      | 10,00      | carried into a new digit
     999.995   | 1000    | 1000     | 1000     | 1000    | 1.000,00   | carried over a point
     32767.4   | 32767   | 32767    | 32767.4  | 32767   | 32.767,40  | the largest of 16 bits
@@ -58,8 +54,6 @@ TEST(Rounding, OfADoubleToMoney) {
     0.03125           | 0,0312                | tie that binary holds exactly: to even
     0.09375           | 0,0938                | tie that binary holds exactly: to even
     -0.03125          | -0,0312               | the same below zero
-    -0.09375          | -0,0938               | the same below zero
-    1000000.00003     | 1000000               | below a tie
     1000000.00007     | 1000000,0001          | above a tie
     0.1               | 0,1                   | binary holds it above
     0.30000000000000004 | 0,3                 | a sum of tenths
@@ -69,7 +63,6 @@ TEST(Rounding, OfADoubleToMoney) {
     -922337203685477.5 | -922337203685477,5   | next to the smallest
     -922337203685477.625 | error 6            | the double nearest to the smallest
     922337203685478   | error 6               | above the largest
-    -922337203685478  | error 6               | below the smallest
     1e300             | error 6               | far above
   )")) {
     SCOPED_TRACE(row[0] + ": " + row[2]);
@@ -81,12 +74,9 @@ TEST(Rounding, OfADoubleToMoney) {
 TEST(Rounding, OfAnAmountToPlaces) {
   // value | 0 places | 1 | 2 | 3 | money mask
   for (const auto& row : support::Table(R"(
-    0,5       | 0   | 0,5  | 0,5   | 0,5   | 0,50
     1,5       | 2   | 1,5  | 1,5   | 1,5   | 1,50
     2,5       | 2   | 2,5  | 2,5   | 2,5   | 2,50
     -2,5      | -2  | -2,5 | -2,5  | -2,5  | -2,50
-    0,0050    | 0   | 0    | 0     | 0,005 | 0,01
-    0,0150    | 0   | 0    | 0,02  | 0,015 | 0,02
     0,0250    | 0   | 0    | 0,02  | 0,025 | 0,03
     -0,0250   | 0   | 0    | -0,02 | -0,025 | -0,03
     0,0251    | 0   | 0    | 0,03  | 0,025 | 0,03

@@ -9,15 +9,12 @@ namespace {
 TEST(ObservacaoTest, NamesTheAnimalsOfTheSale) {
   for (const std::vector<std::string>& row : support::Table(R"(
     Rex               | "\nAnimal: Rex"
-    Rex,Rex           | "\nAnimal: Rex"
     Rex,REX,rex       | "\nAnimal: Rex"
-    Rex,Bob           | "\nAnimais: Rex e Bob"
     Rex,Bob,Rex,Nina  | "\nAnimais: Rex e Bob e Nina"
     Rexona,Rex        | "\nAnimal: Rexona"
     Rex,Rexona        | "\nAnimais: Rex e Rexona"
     Órion,órion       | "\nAnimal: Órion"
     -                 | "\nAnimal: "
-    -,-               | "\nAnimal: , "
     -,-,-             | "\nAnimal: , "
     Rex,-             | "\nAnimal: Rex"
     -,Rex             | "\nAnimais:  e Rex"
@@ -31,12 +28,6 @@ TEST(ObservacaoTest, NamesTheAnimalsOfTheSale) {
               "Cliente: 12-Ana" + base::Replace(row[1], "\\n", "\n"))
         << row[0];
   }
-}
-
-TEST(ObservacaoTest, NamesTheDocumentWhereItIsKnown) {
-  const std::vector<Lines::Line> rex{{"Rex", "1"}};
-  EXPECT_EQ(ObservacaoDaVenda("12", "Ana", "111.444.777-35", Lines(rex)),
-            "Cliente: 12-Ana (111.444.777-35)\nAnimal: Rex");
 }
 
 }  // namespace

@@ -90,17 +90,6 @@ TEST_F(Grade, SortsByTheKindOfItsColumn) {
   EXPECT_EQ(grade.TextMatrix(1, 4), "20260101");
 }
 
-TEST_F(Grade, SortsNoRowsWithoutFailing) {
-  grade.Rows(1);
-  EXPECT_EQ(Sorted(2, false), "2:Classificacao_Crescente 7");
-}
-
-TEST_F(Grade, SelectsWholeRows) {
-  grade.SelChange = [&] { SelecionarLinhaInteira(grade); };
-  platform::input::ClickCell(grade, 2, 0, platform::MouseButton::kLeft, false);
-  EXPECT_EQ(Selection(), "1: 2,0 to 2,4");
-}
-
 TEST_F(Grade, ScrollsByAPageUnderTheWheel) {
   const auto wheel = [&](std::int32_t delta) {
     platform::input::Wheel(grade, delta);

@@ -106,18 +106,6 @@ TEST_F(Fields, FindThatKeyDownClearsTakesTheKeyIntoTheEmptyField) {
   EXPECT_EQ(Find(), "M/M/1");
 }
 
-TEST_F(Fields, FindThatIsLockedTakesNoTyping) {
-  form.find.Text = "Rex";
-  form.find.Status = ZVFind::kFound;
-  form.find.Locked = true;
-  form.find.KeyDown = [&](platform::KeyStroke&) { trace("KeyDown"); };
-  input::Focus(form.find);
-  input::Type(form, "x");
-  Press(form, "Delete");
-  EXPECT_EQ(Find(), "Rex/Rex/0");
-  EXPECT_EQ(trace.Take(), "");
-}
-
 // Masked boxes and dates.
 
 TEST_F(Fields, MaskedTakeDigitsIntoTheirPlaces) {
@@ -160,33 +148,6 @@ TEST_F(Fields, MaskedGiveUpDigitsAndKeepTheirMarks) {
   EXPECT_TRUE(form.date.IsEmpty());
 }
 
-TEST_F(Fields, DateIsFilledByDigitsOrByAPaste) {
-  EXPECT_EQ(form.date.Text(), "__/__/____");
-  EXPECT_EQ(Typed(form.date, "22122026"), "22/12/2026");
-  EXPECT_EQ(Typed(form.date, "22/12/2026"), "22/12/2026");
-  EXPECT_EQ(Typed(form.date, "1"), "1_/__/____");
-  form.date.Text = "";
-  EXPECT_EQ(form.date.Text(), "__/__/____") << "emptied by code";
-}
-
-TEST_F(Fields, MaskedHoldATextOfAnotherFormUntilADigitIsTyped) {
-  form.date.Text = "ontem";
-  EXPECT_EQ(form.date.Text(), "ontem");
-  input::Focus(form.date);
-  input::Select(form.date, 5, 5);
-  Press(form, "/");
-  Press(form, "a");
-  EXPECT_EQ(form.date.Text(), "ontem") << "what is no digit changes nothing";
-  Press(form, "Backspace");
-  EXPECT_EQ(form.date.Text(), "onte");
-  Press(form, "2");
-  EXPECT_EQ(form.date.Text(), "2_/__/____");
-  form.date.Text = "x";
-  form.date.SelectAll();
-  Press(form, "Delete");
-  EXPECT_EQ(form.date.Text(), "__/__/____") << "emptied by the operator";
-}
-
 TEST_F(Fields, MaskedBeginAnewWithAnotherMask) {
   form.masked.Mask = "##.###.###/####-##";
   Typed(form.masked, "12345678000195");
@@ -196,11 +157,6 @@ TEST_F(Fields, MaskedBeginAnewWithAnotherMask) {
   Press(form, "Backspace");
   input::Type(form, "1");
   EXPECT_EQ(form.masked.Text(), "1__.___.___-__");
-  form.masked.Mask = "";
-  input::Type(form, "livre");
-  EXPECT_EQ(form.masked.Text(), "livre") << "without a mask a plain field";
-  Press(form, "Backspace");
-  EXPECT_EQ(form.masked.Text(), "livr");
 }
 
 TEST_F(Fields, PeriodIsTwoDates) {
@@ -216,17 +172,6 @@ TEST_F(Fields, PeriodIsTwoDates) {
   EXPECT_EQ(form.period.Text(), "15/12/2026 a __/__/____");
   form.period.Text = "02/12/2026 a 03/12/2026";
   EXPECT_EQ(form.period.DataInicial() + " " + form.period.DataFinal(), "02/12/2026 03/12/2026");
-}
-
-TEST_F(Fields, PeriodStaysEditableAfterADateOfAnotherForm) {
-  Typed(form.period, "0112202631122026");
-  Press(form, "End");
-  form.period.DataInicial = "1/1/26";
-  Press(form, "Backspace");
-  Press(form, "End");
-  Press(form, "Backspace");
-  EXPECT_EQ(form.period.Text(), "1/1/26 a 31/12/202");
-  EXPECT_EQ(Typed(form.period, "02"), "02/__/____ a __/__/____");
 }
 
 }  // namespace

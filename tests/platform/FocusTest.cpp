@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "Sample.h"
 #include "support/FakeDesktop.h"
 
@@ -31,12 +33,6 @@ TEST_F(Focus, LeavesWithValidateThenLostFocusAndArrivesWithGotFocus) {
   form.third.SetFocus();
   EXPECT_EQ(trace.Take(), "") << "it is there already";
   EXPECT_TRUE(form.third.HasFocus());
-}
-
-TEST_F(Focus, ComesBeforeTheClickThatBroughtIt) {
-  trace.Click(form.ok);
-  EXPECT_EQ(platform::input::Click(form.ok), Outcome::kDone);
-  EXPECT_EQ(trace.Take(), "first.Validate, first.LostFocus, ok.GotFocus, ok.Click");
 }
 
 TEST_F(Focus, StaysWhenValidateRefuses) {
@@ -88,61 +84,38 @@ TEST_F(Focus, MovesOnWithoutValidateWhenItsControlIsTakenAway) {
   EXPECT_EQ(trace.Take(), "cancel.LostFocus, first.GotFocus") << "round to the beginning";
 }
 
-TEST_F(Focus, RestsNowhereWhenNothingCanTakeIt) {
-  form.panel.Visible = false;
-  for (platform::Control* each : form.TabOrder()) each->Enabled = false;
-  EXPECT_EQ(form.Active(), "none");
-  EXPECT_EQ(Press(form, "Tab"), Outcome::kRefused);
-  form.second.Enabled = true;
-  trace.Take();
-  EXPECT_EQ(Press(form, "Tab"), Outcome::kDone);
-  EXPECT_EQ(trace.Take(), "second.GotFocus");
-}
-
-TEST_F(Focus, FollowsALostFocusThatMovesItElsewhere) {
-  form.first.LostFocus = [&] {
-    trace("first.LostFocus");
-    form.third.SetFocus();
+TEST_F(Focus, FollowsTheHandlersThatMoveIt) {
+  struct Case {
+    std::function<void()> arrange;
+    const char* events;
+    const char* active;
   };
-  platform::input::Focus(form.second);
-  EXPECT_EQ(trace.Take(), "first.Validate, first.LostFocus, third.GotFocus");
-  EXPECT_EQ(form.Active(), "third");
-}
-
-TEST_F(Focus, ComesBackWhenLostFocusSaysSo) {
-  form.first.LostFocus = [&] { form.first.SetFocus(); };
-  platform::input::Focus(form.second);
-  EXPECT_EQ(trace.Take(), "first.Validate, first.GotFocus");
-  EXPECT_EQ(form.Active(), "first");
-}
-
-TEST_F(Focus, GoesOnWhenLostFocusClosesTheDoor) {
-  form.first.LostFocus = [&] { form.second.Enabled = false; };
-  platform::input::Focus(form.second);
-  EXPECT_EQ(trace.Take(), "first.Validate, third.GotFocus");
-  EXPECT_EQ(form.Active(), "third");
-}
-
-TEST_F(Focus, FollowsAValidateThatMovesIt) {
-  form.first.Validate = [&](bool&) { form.third.SetFocus(); };
-  platform::input::Focus(form.second);
-  EXPECT_EQ(trace.Take(), "first.LostFocus, third.GotFocus");
-}
-
-TEST_F(Focus, StaysWhenValidateClosesTheDoorOrTheScreen) {
-  form.first.Validate = [&](bool&) { form.second.Enabled = false; };
-  platform::input::Focus(form.second);
-  EXPECT_EQ(trace.Take(), "");
-  form.first.Validate = [&](bool&) { form.Hide(); };
-  platform::input::Focus(form.third);
-  EXPECT_EQ(trace.Take(), "");
-}
-
-TEST_F(Focus, FollowsAGotFocusThatSendsItOn) {
-  form.second.GotFocus = [&] { form.third.SetFocus(); };
-  platform::input::Focus(form.second);
-  EXPECT_EQ(trace.Take(),
-            "first.Validate, first.LostFocus, second.Validate, second.LostFocus, third.GotFocus");
+  const Case cases[] = {
+      {[&] { form.first.LostFocus = [&] { form.third.SetFocus(); }; },
+       "first.Validate, third.GotFocus", "third"},
+      {[&] { form.first.LostFocus = [&] { form.first.SetFocus(); }; },
+       "first.Validate, first.GotFocus", "first"},
+      {[&] { form.first.LostFocus = [&] { form.second.Enabled = false; }; },
+       "first.Validate, third.GotFocus", "third"},
+      {[&] { form.first.Validate = [&](bool&) { form.third.SetFocus(); }; },
+       "first.LostFocus, third.GotFocus", "third"},
+      {[&] { form.first.Validate = [&](bool&) { form.second.Enabled = false; }; }, "", "first"},
+      {[&] { form.first.Validate = [&](bool&) { form.Hide(); }; }, "", "first"},
+      {[&] { form.second.GotFocus = [&] { form.third.SetFocus(); }; },
+       "first.Validate, first.LostFocus, second.Validate, second.LostFocus, third.GotFocus",
+       "third"},
+  };
+  for (const Case& each : cases) {
+    form.Show();
+    form.second.Enabled = true;
+    form.NoteFocus(trace);
+    form.first.SetFocus();
+    trace.Take();
+    each.arrange();
+    platform::input::Focus(form.second);
+    EXPECT_EQ(trace.Take(), each.events);
+    EXPECT_EQ(form.Active(), each.active);
+  }
 }
 
 TEST_F(Focus, GoesRoundInTabOrderPastWhatCannotTakeIt) {
@@ -173,16 +146,6 @@ TEST_F(Focus, PassesByAFieldThatIsNoTabStop) {
   EXPECT_EQ(form.Active(), "first");
   form.first.Enabled = false;
   EXPECT_EQ(form.Active(), "third") << "a focus that is pushed out stops where Tab does";
-}
-
-TEST_F(Focus, SelectsTheTextOfTheFieldItComesTo) {
-  form.second.Text = "Ração";
-  platform::input::Focus(form.second);
-  EXPECT_EQ(form.second.SelectedText(), "Ração");
-  form.second.GotFocus = [&] { form.second.Select(2, 2); };
-  platform::input::Focus(form.first);
-  platform::input::Focus(form.second);
-  EXPECT_EQ(form.second.SelStart(), 2) << "the handler has the last word";
 }
 
 TEST_F(Focus, OfTheScreenBeneathStaysUnderBoxesAndModalScreens) {

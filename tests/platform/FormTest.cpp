@@ -73,20 +73,6 @@ TEST_F(FormLife, ComesUpInOrder) {
   EXPECT_EQ(Journal(), "show frm, show frm, hide frm, show frm");
 }
 
-TEST_F(FormLife, ActivateMayChooseTheFocus) {
-  form.Activate = [&] { form.second.SetFocus(); };
-  form.Show();
-  EXPECT_EQ(trace.Take(), "frm.Load, frm.Resize");
-  EXPECT_EQ(form.Active(), "second");
-}
-
-TEST_F(FormLife, ThatActivateHidesTakesNoFocus) {
-  form.Activate = [&] { form.Hide(); };
-  form.Show();
-  EXPECT_EQ(trace.Take(), "frm.Load, frm.Resize");
-  EXPECT_EQ(form.Active(), "none");
-}
-
 TEST_F(FormLife, ResizesWhenTheRendererSaysSo) {
   form.ResizeTo(9000, 7000);
   EXPECT_EQ(trace.Take(), "frm.Load") << "nobody has seen it yet";
@@ -119,14 +105,6 @@ TEST_F(FormLife, UnloadsUnlessItRefuses) {
   EXPECT_TRUE(screens::Loaded().empty());
 }
 
-TEST_F(FormLife, IsNewWhenShownAfterAnUnload) {
-  form.Show();
-  form.Unload();
-  trace.Take();
-  form.Show();
-  EXPECT_EQ(trace.Take(), "frm.Load, frm.Resize, frm.Activate, first.GotFocus");
-}
-
 TEST_F(FormLife, LoadsAnewWhenTouchedAfterAnUnload) {
   form.Show();
   form.Unload();
@@ -137,49 +115,11 @@ TEST_F(FormLife, LoadsAnewWhenTouchedAfterAnUnload) {
   EXPECT_EQ(trace.Take(), "frm.Load");
   EXPECT_EQ(screens::Loaded(), (std::vector<platform::Form*>{&form}));
   EXPECT_FALSE(form.IsVisible());
+  form.Show();
+  EXPECT_EQ(trace.Take(), "frm.Resize, frm.Activate, first.GotFocus") << "new to whoever sees it";
   form.Unload();
   EXPECT_EQ(trace.Take(), "frm.Unload");
   EXPECT_TRUE(screens::Loaded().empty());
-}
-
-TEST_F(FormLife, ThatUnloadsWhileLoadingIsNeverSeen) {
-  form.Load = [&] { form.Unload(); };
-  form.ShowModal();
-  EXPECT_FALSE(form.IsVisible());
-  EXPECT_EQ(trace.Take(), "frm.Unload");
-  EXPECT_EQ(Journal(), "forget frm");
-}
-
-TEST_F(FormLife, EndsWithItsObject) {
-  {
-    support::SampleForm other("other");
-    other.Show();
-    EXPECT_EQ(screens::Front(), &other);
-  }
-  EXPECT_EQ(screens::Front(), nullptr);
-  EXPECT_EQ(Journal(), "show other, forget other");
-}
-
-TEST_F(FormLife, KeepsTheFormsInOrder) {
-  support::SampleForm other("other");
-  form.Show();
-  other.Show();
-  EXPECT_EQ(screens::Loaded(), (std::vector<platform::Form*>{&other, &form}));
-  EXPECT_EQ(screens::Front(), &other);
-  form.Show();
-  EXPECT_EQ(screens::Front(), &form);
-  form.Hide();
-  EXPECT_EQ(screens::Front(), &other);
-}
-
-TEST_F(FormLife, BearsTheTitleOfItsThemeOrItsCaption) {
-  ListForm list;
-  list.Caption = "Legenda";
-  EXPECT_EQ(list.Title(), "Legenda");
-  list.theme.Titulo = "Título";
-  EXPECT_EQ(list.Title(), "Título");
-  EXPECT_EQ(list.FindControl("grid"), &list.grid);
-  EXPECT_EQ(list.FindControl("none"), nullptr);
 }
 
 // Modal screens.

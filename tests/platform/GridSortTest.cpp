@@ -114,11 +114,4 @@ TEST_F(Sorting, TakesTheSelectedRowsOrAllOfThem) {
   EXPECT_EQ(Column(0), "b, a, c, d, e");
 }
 
-TEST_F(Sorting, OfNothingOrOneRowDoesNothing) {
-  Fill({});
-  EXPECT_EQ(Sorted(SortMode::kTextAscending), "");
-  Fill({"a"});
-  EXPECT_EQ(Sorted(SortMode::kNumericDescending), "a");
-}
-
 }  // namespace

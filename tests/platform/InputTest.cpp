@@ -61,14 +61,6 @@ TEST_F(Acts, DoNotEnterAHandlerThatIsStillRunning) {
   EXPECT_EQ(trace.Take(), "in, out") << "nothing is swallowed afterwards";
 }
 
-TEST_F(Acts, OnOtherControlsRunDuringAWait) {
-  form.ok.Click = [&] { Wait(); };
-  trace.Click(form.cancel);
-  desktop.After(0.5, [&] { EXPECT_EQ(input::Click(form.cancel), Outcome::kDone); });
-  input::Click(form.ok);
-  EXPECT_EQ(trace.Take(), "cancel.Click");
-}
-
 TEST_F(Acts, TypeIntoAFieldWhileItsOwnSearchWaits) {
   form.find.Click = [&] {
     trace("search");
@@ -177,19 +169,7 @@ TEST_F(Acts, AreRefusedWhereAnOperatorCouldNotDoThem) {
   EXPECT_EQ(input::Pick(form.combo, 0), Outcome::kRefused);
   EXPECT_EQ(input::DropDown(form.combo), Outcome::kRefused);
   form.Hide();
-  EXPECT_EQ(input::Click(form.cancel), Outcome::kRefused);
   EXPECT_EQ(Press(form, "x"), Outcome::kRefused);
-  EXPECT_EQ(input::Close(form), Outcome::kRefused);
-}
-
-TEST_F(Acts, ThatFailEndInAPlainBox) {
-  form.ok.Click = [] { throw base::RuntimeError(base::Fault::kTypeMismatch); };
-  EXPECT_EQ(input::Click(form.ok), Outcome::kDone);
-  const std::vector<platform::MessageBox> boxes = desktop.TakeBoxes();
-  ASSERT_EQ(boxes.size(), 1U);
-  EXPECT_EQ(boxes[0].text, "13 - Incompatibilidade de tipo.");
-  EXPECT_EQ(boxes[0].icon, platform::Icon::kStop);
-  EXPECT_FALSE(form.ok.Click.IsRunning());
 }
 
 TEST_F(Acts, ThatFailWhileTheHostClosesEndQuietly) {
@@ -199,22 +179,6 @@ TEST_F(Acts, ThatFailWhileTheHostClosesEndQuietly) {
   };
   EXPECT_EQ(input::Click(form.ok), Outcome::kUnwound);
   EXPECT_EQ(input::Depth(), 0);
-}
-
-TEST_F(Acts, ReachToolbarsAndMenus) {
-  form.toolbar.ButtonClick = [&](platform::ToolbarButton& button) { trace(button.Key()); };
-  EXPECT_EQ(input::Choose(form.toolbar, form.toolbar.Buttons("Abertura")), Outcome::kDone);
-  EXPECT_EQ(trace.Take(), "Abertura");
-  EXPECT_EQ(form.Active(), "first") << "a toolbar takes no focus";
-  EXPECT_THROW(form.toolbar.Buttons("Nada"), base::RuntimeError);
-
-  form.remove.Click = [&] { trace("remove"); };
-  desktop.ThenChoose("mnuExcluir");
-  desktop.ThenChoose("");
-  form.menu.PopUp(form.ok);
-  form.menu.PopUp(form.ok);
-  EXPECT_EQ(trace.Take(), "remove");
-  EXPECT_EQ(Journal(), "popup mnuAlterarExcluir, popup mnuAlterarExcluir");
 }
 
 TEST_F(Acts, TypeCharacterByCharacterUntilOneIsNotTaken) {
@@ -247,13 +211,6 @@ TEST_F(Acts, TypeALineBreakAsOneEnter) {
     input::Type(form, text);
     EXPECT_EQ(trace.Take(), "Enter") << form.first.Text();
   }
-}
-
-TEST_F(Acts, ByCodeGoToTheFocusedField) {
-  input::Type(form, "abc");
-  input::SendKeys("+({HOME})");
-  EXPECT_EQ(form.first.SelectedText(), "abc");
-  EXPECT_EQ(Journal(), "keys +({HOME})");
 }
 
 }  // namespace

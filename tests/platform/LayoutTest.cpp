@@ -54,17 +54,6 @@ class Layout : public testing::Test {
   LaidForm form;
 };
 
-TEST_F(Layout, StandsAsDesigned) {
-  EXPECT_EQ(form.Width(), 8000);
-  EXPECT_EQ(Box(form.wide), "700, 100, 7000, 300");
-  EXPECT_EQ(form.still.Caption(), "Nome");
-  EXPECT_EQ(form.still.look, Look::kTitle);
-  EXPECT_EQ(form.wide.ToolTipText(), "dica");
-  EXPECT_EQ(form.wide.icon, "lupa");
-  EXPECT_EQ(form.wide.label, &form.still) << "the label before a field names it";
-  EXPECT_EQ(form.field.label, nullptr);
-}
-
 TEST_F(Layout, FollowsTheEdgesItHoldsTo) {
   form.ResizeTo(9000, 6500);
   EXPECT_EQ(Box(form.still), "100, 100, 500, 300");
@@ -84,12 +73,6 @@ TEST_F(Layout, FollowsAPanelThatCodeResizes) {
   form.inner.Height = 4200;
   form.inner.Height = 4200;
   EXPECT_EQ(Box(form.field), "100, 3700, 3300, 300");
-}
-
-TEST_F(Layout, FollowsAFormThatCodeResizes) {
-  form.Height = 7000;
-  EXPECT_EQ(form.button.Top(), 6400);
-  EXPECT_EQ(form.field.Top(), 4500);
 }
 
 }  // namespace

@@ -52,20 +52,6 @@ TEST_F(Properties, TellTheirObserversOfNewValuesAlone) {
   EXPECT_EQ(recorder.trace.Take(), "");
 }
 
-TEST_F(Properties, AreReachedByNameWithoutRegardToCase) {
-  platform::PropertyBase* const enabled = form.ok.FindProperty("ENABLED");
-  ASSERT_NE(enabled, nullptr);
-  enabled->Set(std::int32_t{0});
-  EXPECT_FALSE(form.ok.Enabled());
-  EXPECT_EQ(form.ok.FindProperty("Nada"), nullptr);
-  form.first.FindProperty("text")->Set(12.5);
-  EXPECT_EQ(form.first.Text(), "12,5");
-  form.find.FindProperty("Status")->Set("0");
-  EXPECT_EQ(form.find.Status(), 0);
-  form.grid.FindProperty("rows")->Set(std::int32_t{5});
-  EXPECT_EQ(form.grid.Rows(), 5);
-}
-
 TEST_F(Properties, RefuseWhatIsNotOfTheirKind) {
   const auto set = [](platform::Object& object, const char* name, const base::Value& value) {
     return ResultOf([&] { return object.FindProperty(name)->Set(value), std::string("set"); });

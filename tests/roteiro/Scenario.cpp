@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <vector>
 
@@ -111,13 +113,26 @@ class Player {
       return;
     }
     if (!program_) Start({});
-    if (parsed.contains("do") || parsed.contains("raw")) {
-      Conclude();
-      program_->Send(parsed.contains("do") ? line : parsed["raw"].get<std::string>());
-      TakeAnswer();
-      return;
+    Json command = Json::object();
+    Json expected = Json::object();
+    for (const auto& [key, value] : parsed.items()) {
+      (IsExpectation(key) ? expected : command)[key] = value;
     }
-    for (const auto& [key, expected] : parsed.items()) Expect(key, expected);
+    if (parsed.contains("raw")) {
+      Send(parsed["raw"].get<std::string>());
+    } else if (!command.empty()) {
+      Require(command.contains("do"), "neither a command nor an expectation: " + line);
+      Send(command.dump());
+    }
+    for (const char* key : {"expect", "event", "no-event", "box", "focus", "state"}) {
+      if (expected.contains(key)) Expect(key, expected[key], expected);
+    }
+  }
+
+  static bool IsExpectation(const std::string& key) {
+    static const std::set<std::string> kKeys{"expect", "event",  "no-event", "state",
+                                             "box",    "answer", "focus"};
+    return kKeys.contains(key);
   }
 
   void Start(const std::vector<std::string>& extra) {
@@ -151,6 +166,13 @@ class Player {
     }
   }
 
+  /// Sends a command when nothing is left to say of the answer before it.
+  void Send(const std::string& line) {
+    Conclude();
+    program_->Send(line);
+    TakeAnswer();
+  }
+
   void TakeAnswer() {
     const std::optional<std::string> line = program_->Read();
     if (!line) program_->Finish();
@@ -165,7 +187,7 @@ class Player {
     }
   }
 
-  void Expect(const std::string& key, const Json& expected) {
+  void Expect(const std::string& key, const Json& expected, const Json& beside) {
     const Json& events = answer_["events"];
     if (key == "expect") {
       EXPECT_TRUE(Contains(answer_, expected))
@@ -177,9 +199,44 @@ class Player {
       Forgive(expected);
     } else if (key == "no-event") {
       EXPECT_FALSE(AnyContains(events, expected)) << here_ << "such an event in " << events;
-    } else {
-      Require(false, "neither a command nor an expectation: " + key);
+    } else if (key == "box") {
+      const Json place = {{"kind", "message"}, {"text", expected}};
+      Require(Contains(answer_["at"], place), place.dump() + "\nbut got " + answer_.dump());
+      Send(Json{{"do", "answer"}, {"with", beside.value("answer", "ok")}}.dump());
+    } else if (key == "focus") {
+      const Json place = {{"kind", "form"}, {"focus", expected}};
+      EXPECT_TRUE(Contains(answer_["at"], place)) << here_ << place << "\nbut got " << answer_;
+    } else if (key == "state") {
+      for (const auto& [name, value] : expected.items()) ExpectState(name, value);
     }
+  }
+
+  /// Asks for what a name of "state" stands for. The last answer stays the one spoken of.
+  void ExpectState(const std::string& name, const Json& expected) {
+    const std::size_t bracket = name.find('[');
+    const std::size_t dot = name.rfind('.');
+    const std::string front = name.substr(0, std::min(bracket, dot));
+    Json command{{"do", "get"}, {"control", front}, {"property", "Text"}};
+    if (bracket != std::string::npos) {
+      const Json cell = Json::parse(name.substr(bracket));
+      command = {{"do", "cell"}, {"control", front}, {"row", cell[0]}, {"col", cell[1]}};
+    } else if (front == "host") {
+      command = {{"do", "host"}, {"member", name.substr(dot + 1)}};
+    } else if (front == "value") {
+      command = {{"do", "value"}, {"name", name.substr(dot + 1)}};
+    } else if (dot != std::string::npos) {
+      command["property"] = name.substr(dot + 1);
+    }
+    if (const std::size_t colon = front.find(':'); colon != std::string::npos) {
+      command["control"] = front.substr(0, colon);
+      command["button"] = front.substr(colon + 1);
+    }
+    program_->Send(command.dump());
+    const Json answer = Json::parse(program_->Read().value_or(""), nullptr, false);
+    Require(answer.is_object() && answer.contains("value"), "no " + name + ": " + answer.dump());
+    const Json& value = bracket == std::string::npos ? answer["value"] : answer["value"]["text"];
+    EXPECT_TRUE(Contains(value, expected)) << here_ << name << " is " << value;
+    EXPECT_FALSE(AnyContains(answer["events"], {{"event", "error"}})) << here_ << answer;
   }
 
   void Forgive(const Json& event) {

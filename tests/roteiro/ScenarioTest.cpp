@@ -32,6 +32,13 @@ TEST(Scenario, FailsWhereAnAnswerIsNotTheExpectedOne) {
       PlayText("{\"do\": \"open\"}\n{\"do\": \"get\", \"control\": \"zvtxtNome\", \"property\": "
                "\"Left\"}\n{\"expect\": {\"value\": 0.0}}"),
       ":3: expected");
+  EXPECT_NONFATAL_FAILURE(PlayText("{\"box\": \"Olá\"}"), ":1: ");
+  EXPECT_NONFATAL_FAILURE(PlayText("{\"do\": \"open\", \"focus\": \"zvdtpData\"}"), "zvtxtNome");
+  for (const char* state : {"zvtxtNome", "optTipo(1).Value", "msfgGrade[1,0]",
+                            "host.CodigoDoClienteComOperacoesBloqueadas"}) {
+    EXPECT_NONFATAL_FAILURE(
+        PlayText("{\"do\": \"open\", \"state\": {\"" + std::string(state) + "\": \"x\"}}"), state);
+  }
 }
 
 TEST(Scenario, FailsOnARefusalAndOnAnErrorThatNobodyExpected) {

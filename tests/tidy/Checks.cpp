@@ -122,9 +122,6 @@ constexpr int kLongestFile = 600;
 constexpr std::size_t kLongestLine = 100;
 constexpr int kLongestFunction = 70;
 
-/// Files that are one table from end to end and may be as long as it is. None so far.
-constexpr std::array<std::string_view, 0> kPureTables{};
-
 }  // namespace
 
 Findings CheckLengths(const Source& file) {
@@ -132,10 +129,7 @@ Findings CheckLengths(const Source& file) {
   if (!file.IsCode()) return findings;
   const std::vector<std::string_view> lines = Lines(file.text);
   const int count = static_cast<int>(lines.size());
-  const bool isTable = std::ranges::find(kPureTables, file.path) != kPureTables.end();
-  if (count > kLongestFile && !isTable) {
-    findings.push_back(At(file, count, "the file is too long"));
-  }
+  if (count > kLongestFile) findings.push_back(At(file, count, "the file is too long"));
   int number = 0;
   for (const std::string_view line : lines) {
     ++number;
@@ -216,9 +210,9 @@ bool IsSuspect(std::string_view line) {
 Findings CheckCalls(const Source& file) {
   Findings findings;
   if (!file.IsCode()) return findings;
-  const Code code = CodeOf(file.text);
+  const std::string code = CodeOf(file.text);
   int number = 0;
-  for (const std::string_view line : Lines(code.text)) {
+  for (const std::string_view line : Lines(code)) {
     ++number;
     ForEachWord(line, [&](std::string_view word, std::string_view behind) {
       for (const Banned& banned : BannedWords()) {

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <cctype>
 
 #include "Source.h"
@@ -11,214 +10,106 @@ bool IsWord(char c) {
   return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_';
 }
 
-/// Blanks what is not code, from the front to the end.
-class Blanker {
- public:
-  explicit Blanker(std::string_view text) : in_(text), out_(text) {}
-
-  Code Run() {
-    while (at_ < in_.size()) {
-      if (Ahead("//")) {
-        Blank(in_.find('\n', at_));
-      } else if (Ahead("/*")) {
-        Blank(in_.find("*/", at_ + 2), 2);
-      } else if (in_[at_] == '"' && IsRaw()) {
-        RawString();
-      } else if (in_[at_] == '"' || (in_[at_] == '\'' && !PartsDigits())) {
-        Quoted(in_[at_]);
-      } else if (in_[at_] == '#' && BeginsLine()) {
-        Directive();
-      } else {
-        ++at_;
-      }
-    }
-    return {std::move(out_), RawLines(), std::move(directives_)};
+/// Where the comment, string or character that begins at `at` ends; `at` where none begins.
+std::size_t EndOfOther(std::string_view text, std::size_t at) {
+  const std::string_view rest = text.substr(at);
+  const char before = at > 0 ? text[at - 1] : ' ';
+  if (rest.starts_with("//")) return text.find('\n', at);
+  if (rest.starts_with("/*")) return text.find("*/", at) + 2;
+  if (rest.starts_with('"') && before == 'R') {
+    const std::size_t open = rest.find('(');
+    const std::string close = ")" + std::string(rest.substr(1, open - 1)) + "\"";
+    return text.find(close, at) + close.size();
   }
-
- private:
-  bool Ahead(std::string_view what) const { return in_.substr(at_).starts_with(what); }
-
-  /// The word, and the digits with their separators, that end before the present place.
-  std::string_view WordBefore() const {
-    std::size_t begin = at_;
-    while (begin > 0 && (IsWord(in_[begin - 1]) || in_[begin - 1] == '\'')) --begin;
-    return in_.substr(begin, at_ - begin);
+  if (!rest.starts_with('"') && (!rest.starts_with('\'') || IsWord(before))) return at;
+  std::size_t end = at + 1;
+  while (end < text.size() && text[end] != text[at] && text[end] != '\n') {
+    end += text[end] == '\\' ? 2 : 1;
   }
-  bool IsRaw() const { return WordBefore().ends_with('R') && WordBefore().size() <= 3; }
-  bool PartsDigits() const {
-    const std::string_view word = WordBefore();
-    return !word.empty() && std::isdigit(static_cast<unsigned char>(word.front())) != 0;
-  }
-  bool BeginsLine() const {
-    const std::size_t before = in_.substr(0, at_).find_last_not_of(" \t");
-    return before == std::string_view::npos || in_[before] == '\n';
-  }
+  return end + 1;
+}
 
-  /// Blanks from here to `end` and `more` characters, keeping the line ends.
-  void Blank(std::size_t end, std::size_t more = 0) {
-    end = end == std::string_view::npos ? in_.size() : std::min(end + more, in_.size());
-    for (; at_ < end; ++at_) {
-      if (in_[at_] != '\n') out_[at_] = ' ';
-    }
-  }
-  void Quoted(char quote) {
-    std::size_t end = at_ + 1;
-    while (end < in_.size() && in_[end] != quote && in_[end] != '\n')
-      end += in_[end] == '\\' ? 2 : 1;
-    ++at_;
-    Blank(end);
-    ++at_;
-  }
-  void RawString() {
-    const std::size_t open = std::min(in_.find('(', at_), in_.size());
-    const std::string close = ")" + std::string(in_.substr(at_ + 1, open - at_ - 1)) + "\"";
-    const std::size_t begin = at_;
-    Blank(in_.find(close, open), close.size());
-    raw_.push_back({begin, at_});
-  }
-  void Directive() {
-    directives_.push_back(1 + static_cast<int>(std::ranges::count(in_.substr(0, at_), '\n')));
-    std::size_t end = in_.find('\n', at_);
-    while (end != std::string_view::npos && in_[end - 1] == '\\') end = in_.find('\n', end + 1);
-    Blank(end);
-  }
+/// A braced list follows its type without a blank or stands behind "(", ",", "=" or "{"; a body
+/// follows a blank.
+bool OpensTable(std::string_view head) {
+  const std::size_t last = head.find_last_not_of(' ');
+  if (last == std::string_view::npos) return false;
+  const bool adjoins = last + 1 == head.size();
+  const bool isOfType = IsWord(head[last]) || head[last] == '>' || head[last] == ']';
+  return (adjoins && isOfType) || std::string_view("(,={").find(head[last]) != std::string::npos;
+}
 
-  std::vector<bool> RawLines() const {
-    std::vector<bool> lines;
-    std::size_t start = 0;
-    for (const std::string_view line : Lines(in_)) {
-      lines.push_back(std::ranges::any_of(
-          raw_, [&](const Span& each) { return each.begin < start && start < each.end; }));
-      start += line.size() + 1;
-    }
-    return lines;
-  }
-
-  struct Span {
-    std::size_t begin, end;
-  };
-  std::string_view in_;
-  std::string out_;
-  std::size_t at_ = 0;
-  std::vector<Span> raw_;
-  std::vector<int> directives_;
-};
-
-/// Walks the braces of a file and finds its functions.
-class Walker {
- public:
-  explicit Walker(const Code& code) : code_(code), text_(code.text) {}
-
-  std::vector<Function> Run() {
-    for (at_ = 0; at_ < text_.size(); ++at_) {
-      switch (text_[at_]) {
-        case '\n':
-          ++line_;
-          break;
-        case ';':
-          head_ = at_ + 1;
-          break;
-        case '{':
-          Open();
-          break;
-        case '}':
-          if (!open_.empty()) Close();
-          break;
-        default:
-          break;
-      }
-    }
-    return std::move(functions_);
-  }
-
- private:
-  enum class Kind { kScope, kFunction, kBlock, kTable };
-  struct Brace {
-    Kind kind;
-    int line;
-    int tableLines;
-  };
-
-  Kind KindHere() const {
-    const std::size_t before = text_.substr(0, at_).find_last_not_of(" \n");
-    const char last = before == std::string_view::npos ? ';' : text_[before];
-    const bool adjoins = before + 1 == at_;
-    if (std::string_view("(,={").find(last) != std::string_view::npos ||
-        (adjoins && (IsWord(last) || last == '>' || last == ']'))) {
-      return Kind::kTable;
-    }
-    if (!open_.empty() && open_.back().kind != Kind::kScope) return Kind::kBlock;
-    return HeadIsOfFunction() ? Kind::kFunction : Kind::kScope;
-  }
-
-  bool HeadIsOfFunction() const {
-    std::string_view head = text_.substr(head_, at_ - head_);
-    head.remove_prefix(std::min(head.find_first_not_of(" \n"), head.size()));
-    static constexpr std::array<std::string_view, 5> kScopes{"namespace", "class ", "struct ",
-                                                             "enum ", "union "};
-    const bool scope =
-        std::ranges::any_of(kScopes, [&](std::string_view word) { return head.starts_with(word); });
-    return !scope && head.find('(') != std::string_view::npos;
-  }
-
-  void Open() {
-    const Kind kind = KindHere();
-    open_.push_back({kind, line_, 0});
-    if (kind != Kind::kTable) head_ = at_ + 1;
-  }
-
-  void Close() {
-    const Brace closed = open_.back();
-    open_.pop_back();
-    if (closed.kind != Kind::kTable) head_ = at_ + 1;
-    int tableLines = closed.tableLines;
-    if (closed.kind == Kind::kTable) {
-      tableLines = line_ - closed.line;
-    } else if (closed.kind == Kind::kFunction) {
-      functions_.push_back({closed.line, Length(closed)});
-      return;
-    }
-    if (!open_.empty()) open_.back().tableLines += tableLines;
-  }
-
-  int Length(const Brace& function) const {
-    int length = line_ - function.line + 1 - function.tableLines;
-    for (int line = function.line; line <= line_; ++line) {
-      length -= code_.inRawString[static_cast<std::size_t>(line) - 1] ? 1 : 0;
-    }
-    return length;
-  }
-
-  const Code& code_;
-  std::string_view text_;
-  std::size_t at_ = 0, head_ = 0;
-  int line_ = 1;
-  std::vector<Brace> open_;
-  std::vector<Function> functions_;
-};
+bool IsHeadOfFunction(std::string_view head) {
+  head.remove_prefix(std::min(head.find_first_not_of(' '), head.size()));
+  const bool isScope =
+      head.starts_with("namespace") || head.starts_with("class ") || head.starts_with("struct ");
+  return !isScope && head.find('(') != std::string_view::npos;
+}
 
 }  // namespace
 
-Code CodeOf(std::string_view text) {
-  return Blanker(text).Run();
-}
-
-std::vector<Function> FunctionsOf(const Code& code) {
-  return Walker(code).Run();
+std::string CodeOf(std::string_view text) {
+  std::string code(text);
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const std::size_t end = std::min(EndOfOther(text, at), text.size());
+    if (end == at) continue;
+    const char filling = text[at] == '/' ? ' ' : kQuoted;
+    for (; at < end; ++at) code[at] = text[at] == '\n' ? '\n' : filling;
+    --at;
+  }
+  return code;
 }
 
 std::vector<Include> IncludesOf(std::string_view text) {
+  const std::string code = CodeOf(text);
   const std::vector<std::string_view> lines = Lines(text);
   std::vector<Include> includes;
-  for (const int number : CodeOf(text).directives) {
-    const std::string_view line = lines[static_cast<std::size_t>(number) - 1];
-    const std::size_t open = line.find_first_of("<\"");
-    const std::size_t close = line.find_last_of(">\"");
+  int number = 0;
+  for (const std::string_view line : Lines(code)) {
+    const std::string_view written = lines[static_cast<std::size_t>(number++)];
+    const std::size_t open = written.find_first_of("<\"");
+    const std::size_t close = written.find_last_of(">\"");
     if (!line.starts_with("#include ") || open >= close) continue;
     includes.push_back(
-        {number, std::string(line.substr(open + 1, close - open - 1)), line[open] == '<'});
+        {number, std::string(written.substr(open + 1, close - open - 1)), written[open] == '<'});
   }
   return includes;
+}
+
+std::vector<Function> FunctionsOf(std::string_view code) {
+  struct Brace {
+    int line;
+    bool isTable, isFunction;
+  };
+  std::vector<Brace> open;
+  std::vector<Function> functions;
+  std::vector<int> tableLines;  // The lines inside tables.
+  std::string head;             // What has been read since the last statement or brace.
+  int number = 0;
+  for (const std::string_view line : Lines(code)) {
+    ++number;
+    const bool inTable = std::ranges::any_of(open, &Brace::isTable);
+    if (line.starts_with(kQuoted) || inTable) tableLines.push_back(number);
+    if (line.starts_with('#')) continue;
+    for (const char c : line) {
+      const bool isInTable = !open.empty() && open.back().isTable;
+      if (c == '{') {
+        open.push_back({number, OpensTable(head), IsHeadOfFunction(head)});
+      } else if (c == '}' && !open.empty()) {
+        const Brace closed = open.back();
+        open.pop_back();
+        if (closed.isFunction && !closed.isTable) {
+          const auto isInside = [&](int each) { return each > closed.line; };
+          const auto tables = std::ranges::count_if(tableLines, isInside);
+          functions.push_back({closed.line, number - closed.line + 1 - static_cast<int>(tables)});
+        }
+      }
+      const bool endsHead = c == ';' || c == '{' || c == '}';
+      head = endsHead && !isInTable && !(c == '{' && open.back().isTable) ? "" : head + c;
+    }
+    head += ' ';
+  }
+  return functions;
 }
 
 }  // namespace tidy

@@ -23,14 +23,10 @@ const std::vector<Source>& Tree();
 /// The text by lines, without their ends.
 std::vector<std::string_view> Lines(std::string_view text);
 
-/// C++ with everything blanked that is not code: comments, the insides of strings and characters,
-/// and preprocessor lines. Positions and lines stay where they are.
-struct Code {
-  std::string text;
-  std::vector<bool> inRawString;  ///< By line, from 0: the line begins inside a raw string.
-  std::vector<int> directives;    ///< The lines, from 1, on which a directive begins.
-};
-Code CodeOf(std::string_view text);
+/// C++ with everything blanked that is not code: comments by blanks, strings and characters by
+/// kQuoted. Positions and lines stay where they are.
+std::string CodeOf(std::string_view text);
+inline constexpr char kQuoted = '\x01';
 
 /// What a file includes, and from where. What stands in a comment or a string is no include.
 struct Include {
@@ -46,9 +42,7 @@ struct Function {
   int line = 0;  ///< Of the opening brace, from 1.
   int length = 0;
 };
-/// Goes by braces in the layout that clang-format gives: a braced list follows its type without a
-/// blank or stands behind "(", ",", "=" or "{", a body follows a blank. Lambdas count with the
-/// function they stand in, but not inside a table. Braces that a macro hides are not seen.
-std::vector<Function> FunctionsOf(const Code& code);
+/// Goes by braces in the layout that clang-format gives; a block inside a function is told too.
+std::vector<Function> FunctionsOf(std::string_view code);
 
 }  // namespace tidy

@@ -73,15 +73,6 @@ TEST_P(CommandTest, RefusesTheDemonstrationWhereThereAreData) {
       OnDatabase("demonstracao"));
 }
 
-TEST_P(CommandTest, CreatesTheDemonstrationAroundAGivenDay) {
-  address_ = NewDatabase(GetParam());
-  EXPECT_THAT(OnDatabase("demonstracao --agora 2027-03-01T09:00:00"),
-              HasSubstr("usuário marina    senha "));
-  banco_ = AbrirBanco(address_, clock_, "RECEPCAO");
-  EXPECT_EQ("2027-02-28", Read("SELECT max(data_de_vencimento) FROM contas_a_receber"
-                               " WHERE data_de_vencimento < '2027-03-01'"));
-}
-
 TEST(CommandLineTest, WhatIsNotUnderstoodExitsWithTwo) {
   for (const char* arguments :
        {"", "sqlite:x.db", "sqlite:x.db apagar", "sqlite:x.db criar já", "sqlite:x.db liberar",

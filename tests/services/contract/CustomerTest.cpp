@@ -5,7 +5,6 @@
 #include "frame/servicos/ZOVA_N_ClientAnim.clsAnimais.h"
 #include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
 #include "services/Database.h"
-#include "services/Travas.h"
 
 namespace services {
 namespace {
@@ -74,27 +73,6 @@ TEST_P(CustomerTest, OneComputerAtATimeHoldsACustomer) {
   EXPECT_EQ("", Lock("LOJA", "paulo"));
   EXPECT_EQ("Não há cliente cadastrado com o código 77. Selecione o cliente de novo.",
             Lock("LOJA", "paulo", 77));
-}
-
-TEST_P(CustomerTest, ALockNeedsAUser) {
-  const auto service = servicos::CriarServico<Administration>();
-  double code = 5;
-  EXPECT_EQ(servicos::kErro, service->BloquearCliente(1, code, 2));
-  EXPECT_EQ(91, service->NumeroDoErro());
-  EXPECT_EQ("ZOVA_N_Administrativo, clsAdministrativo, BloquearCliente", service->LocalDoErro());
-}
-
-TEST_P(CustomerTest, TheLocksOfADeadComputerAreListedAndFreed) {
-  Lock("LOJA", "paulo");
-  const auto locks = ListarTravas(*banco_);
-  ASSERT_EQ(1U, locks.size());
-  EXPECT_EQ("Dudu", locks[0].nomeDoCliente);
-  EXPECT_EQ("LOJA", locks[0].computador);
-  EXPECT_EQ("paulo", locks[0].usuario);
-  EXPECT_EQ(clock_.now, locks[0].desde);
-  EXPECT_TRUE(LiberarTrava(*banco_, 5));
-  EXPECT_FALSE(LiberarTrava(*banco_, 5));
-  EXPECT_EQ("", Lock("RECEPCAO", "renata"));
 }
 
 TEST_P(CustomerTest, TheLimitIsLoweredByWhatIsOpen) {

@@ -41,19 +41,13 @@ class LookupTest : public OverDatabase {
   }
 
   /// As the counter searches: by the text of a name field, or by the code.
-  std::string CustomersBy(std::string name, double code = 0) {
+  std::string CustomersBy(std::string name, double code = 0, const std::string& any = "") {
     const auto service = servicos::CriarServico<Customers>();
-    EXPECT_EQ(0, service->Selecionar(2, 0, 0, "", name, code, "", "", "", 0, ""));
+    EXPECT_EQ(0, service->Selecionar(2, 0, 0, any, name, code, "", "", "", 0, ""));
     return All(service->ResultadoDaSelecaoEmRecordSet(), "CodigoDoCliente");
   }
   /// As the pick list searches.
-  std::string CustomersByAny(const std::string& text) {
-    const auto service = servicos::CriarServico<Customers>();
-    std::string name;
-    double code = 0;
-    EXPECT_EQ(0, service->Selecionar(2, 0, 0, text, name, code, "", "", "", 0, ""));
-    return All(service->ResultadoDaSelecaoEmRecordSet(), "CodigoDoCliente");
-  }
+  std::string CustomersByAny(const std::string& text) { return CustomersBy("", 0, text); }
   std::string ProductsBy(std::string name, std::string barcode, double code,
                          std::string_view field = "CodigoInterno") {
     const auto service = servicos::CriarServico<Products>();

@@ -4,7 +4,6 @@
 #include "frame/servicos/ZOVA_N_Funcionarios.clsFuncionarios.h"
 #include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
-#include "frame/servicos/ZOVA_N_SO.clsObterVersaoDoSO.h"
 #include "frame/servicos/ZOVA_N_TipoDeServ.clsTiposDeServ.h"
 #include "services/Database.h"
 #include "services/Senhas.h"
@@ -80,11 +79,12 @@ TEST_P(RecordsTest, EmployeesAllOrOne) {
 }
 
 TEST_P(RecordsTest, TypesOfServiceByNumber) {
-  Write("INSERT INTO tipos_de_servico (numero, nome) VALUES (99, 'Outros'), (1, 'Clínicos')");
+  Write("INSERT INTO tipos_de_servico (numero, nome) VALUES (99, 'Outros'), (100, 'Clínicos')");
   const auto service = servicos::CriarServico<servicos::ZOVA_N_TipoDeServ::clsTiposDeServ>();
   double none = 0;
   ASSERT_EQ(0, service->SelecionarParaComboBox(none));
-  EXPECT_EQ("1|Clínicos;99|Outros;", service->ResultadoDaSelecaoEmRecordSet()->GetString("|", ";"));
+  EXPECT_EQ("99|Outros;100|Clínicos;",
+            service->ResultadoDaSelecaoEmRecordSet()->GetString("|", ";"));
 }
 
 TEST_P(RecordsTest, AUserComesWithTheRightsOfTheSessionRecord) {
@@ -114,12 +114,6 @@ TEST_P(RecordsTest, ARefusedSignInDoesNotSayWhichHalfWasWrong) {
   EXPECT_EQ(words, Try("' OR ''='", "x", servicos::kRecusa)->DescricaoDaFalha());
   EXPECT_EQ("Este usuário está desativado. Fale com o administrador.",
             Try("eva", "certa", servicos::kRecusa)->DescricaoDaFalha());
-}
-
-TEST_P(RecordsTest, TheSystemIsALinuxByItsName) {
-  const auto service = servicos::CriarServico<servicos::ZOVA_N_SO::clsObterVersaoDoSO>();
-  EXPECT_NE("", service->ObterversaoDoSO());
-  EXPECT_NE("WINDOWS 8", base::Upper(service->ObterversaoDoSO()));
 }
 
 TEST_P(RecordsTest, AFaultHasNumberWordsAndPlaceInBothFamilies) {

@@ -22,34 +22,22 @@ class SaleTest : public OverDatabase {
 };
 OVER_BOTH_ENGINES(SaleTest);
 
-TEST_P(SaleTest, EverythingOfASaleStands) {
-  const std::string key = "CFe3526";
+TEST_P(SaleTest, EverySideOfASaleStands) {
   const auto number = Register(
       {.lines = Grid({ServiceLine("50,00"), ProductLine("70,00")}),
        .tenders = Grid({Tender("1-Dinheiro", "100,00"), Tender("3-Cartão de crédito", "50,00")}),
        .net = 120_brl,
        .change = -30_brl,
-       .key = key});
+       .key = "CFe3526"});
   const auto sales = UltimasVendas(*banco_, 5);
   ASSERT_EQ(1U, sales.size());
   EXPECT_EQ(number, sales[0].numero);
-  EXPECT_EQ(clock_.now, sales[0].quando);
-  EXPECT_EQ("renata", sales[0].operador);
-  EXPECT_EQ(5, sales[0].codigoDoCliente);
-  EXPECT_EQ(120_brl, sales[0].liquido);
-  EXPECT_EQ(30_brl, sales[0].troco);
-  EXPECT_EQ(key, sales[0].chaveSat);
-  ASSERT_EQ(2U, sales[0].itens.size());
-  EXPECT_EQ("Banho d'água", sales[0].itens[0].nome);
-  EXPECT_EQ("Rex", sales[0].itens[0].animal);
-  EXPECT_EQ("Ração do João 50% \"mix\"", sales[0].itens[1].nome);
-  ASSERT_EQ(2U, sales[0].recebimentos.size());
-  EXPECT_EQ(3, sales[0].recebimentos[1].moeda);
-  EXPECT_EQ(50_brl, sales[0].recebimentos[1].valor);
+  EXPECT_EQ("CFe3526", sales[0].chaveSat);
+  EXPECT_EQ("Ração do João 50% \"mix\"", sales[0].itens.at(1).nome);
+  EXPECT_EQ(50_brl, sales[0].recebimentos.at(1).valor);
   EXPECT_EQ(std::to_string((70_brl).TenThousandths()),
             Read("SELECT dinheiro FROM caixas WHERE numero = 1"));
   EXPECT_EQ("3", Read("SELECT codigo_do_funcionario FROM itens_de_venda WHERE item = 1"));
-  EXPECT_EQ(3, Count("lancamentos_de_caixa"));
 }
 
 TEST_P(SaleTest, BothFormsOfTheDiscountsReadTheSame) {
@@ -74,13 +62,6 @@ TEST_P(SaleTest, ChangeBelowOneRealArrivesAsZeroAndStillBalances) {
   EXPECT_EQ(std::to_string(Brl("0,50").TenThousandths()), OfSale("troco"));
   EXPECT_EQ(std::to_string((100_brl).TenThousandths()),
             Read("SELECT dinheiro FROM caixas WHERE numero = 1"));
-}
-
-TEST_P(SaleTest, ChangeKeptRaisesTheCredit) {
-  Register(
-      {.tenders = Grid({Tender("1-Dinheiro", "150,00")}), .change = -30_brl, .creditKept = 20_brl});
-  EXPECT_EQ(std::to_string((70_brl).TenThousandths()),
-            Read("SELECT credito FROM clientes WHERE codigo = 5"));
 }
 
 TEST_P(SaleTest, CreditIsTakenFromWhatTheDatabaseHolds) {
@@ -157,9 +138,6 @@ TEST_P(SaleTest, LongAndOddTextsComeBackAsTheyWere) {
   EXPECT_EQ(odd, Read("SELECT nome_do_item FROM itens_de_venda"));
   EXPECT_EQ(odd, OfSale("observacao"));
   EXPECT_EQ(odd, Read("SELECT observacao FROM lancamentos_de_caixa"));
-}
-
-TEST_P(SaleTest, TextsThatNoEngineTakesAreMadeReadable) {
   Register({.note = std::string("a\0b\xFFzo", 6)});
   EXPECT_EQ("a\uFFFDb\uFFFDzo", OfSale("observacao"));
 }
@@ -220,6 +198,9 @@ TEST_P(SaleTest, RefusalsWriteNothing) {
       {"credit kept below zero", {.creditKept = -1_brl}, "negativo"},
       {"customer's code", {.customer = "x"}, "código de cliente 'x' não existe"},
       {"unknown customer", {.customer = "77"}, "cliente de código 77 não está cadastrado"},
+      {"unknown customer's credit",
+       {.tenders = Grid({Tender("7-Crédito", "100,00")}), .customer = "77"},
+       "não está cadastrado"},
       {"unknown pre-sale line", {.lines = Grid({PreSaleLine("100,00", 9)})}, "não está mais"},
       {"closed register", {.registerNumber = 2}, "não está aberto"},
       {"deactivated register", {.registerNumber = 3}, "foi desativado"},
@@ -236,17 +217,6 @@ TEST_P(SaleTest, RefusalsWriteNothing) {
   EXPECT_EQ(0, Count("vendas"));
   EXPECT_EQ(0, Count("lancamentos_de_caixa"));
   ExpectBooksBalance();
-}
-
-TEST_P(SaleTest, UnknownCustomerWithCreditIsRefusedToo) {
-  const NewSale service({.tenders = Grid({Tender("7-Crédito", "100,00")}), .customer = "77"});
-  EXPECT_EQ(servicos::kRecusa, service->RegistrarPagamento());
-  EXPECT_NE(std::string::npos, service->DescricaoDaFalha().find("não está cadastrado"));
-}
-
-TEST_P(SaleTest, MembersOfLaterWorkAreMissing) {
-  const NewSale service({});
-  EXPECT_THROW(service->CancelarVenda(1, "engano"), base::RuntimeError);
 }
 
 TEST_P(SaleTest, TheBooksAreFoundOut) {
