@@ -28,6 +28,6 @@ install_missing() {
 
 # build TARGET...: configures the release build if need be and builds.
 build() {
-  cmake --preset release "${CAIXA_CONFIGURE[@]}" >&2
+  cmake --log-level=NOTICE --preset release "${CAIXA_CONFIGURE[@]}" >/dev/null
   cmake --build build --parallel "$(nproc)" --target "$@" >&2
 }
