@@ -4,8 +4,10 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "base/RuntimeError.h"
 #include "base/Value.h"
 
 namespace base {
@@ -50,7 +52,16 @@ class RecordSet : public Record {
   std::size_t at_ = 0;
 };
 
-using RecordSetPtr = std::shared_ptr<RecordSet>;
+/// A record set as services give it and screens share it. To look into one that was never set is
+/// error 91: a service that breaks its promise is reported like any other fault.
+class RecordSetPtr : public std::shared_ptr<RecordSet> {
+ public:
+  using shared_ptr::shared_ptr;
+  RecordSetPtr(std::shared_ptr<RecordSet> set) : shared_ptr(std::move(set)) {}
+
+  RecordSet& operator*() const { return Required(static_cast<const shared_ptr&>(*this)); }
+  RecordSet* operator->() const { return &**this; }
+};
 
 /// Calls `each()` for every row from the first to the last, the cursor on that row.
 template <class Each>

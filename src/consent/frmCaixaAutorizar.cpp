@@ -1,6 +1,5 @@
 #include "consent/frmCaixaAutorizar.h"
 
-#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
@@ -124,7 +123,7 @@ bool frmCaixaAutorizar::Autenticar(Ponto& ponto) {
   if (!frame::Aceitar(login->Autenticar(), *login)) return false;
   ponto = 4;
   const base::RecordSetPtr supervisor = login->ResultadoDaSelecaoEmRecordSet();
-  base::Required(supervisor).MoveFirst();
+  supervisor->MoveFirst();
   if (base::ToBool(supervisor->Field(autorizacao_.direito))) return true;
   frame::Informar(autorizacao_.recusa);
   return false;

@@ -93,6 +93,8 @@ TEST(RecordSet, RefusesWhatItDoesNotHold) {
   EXPECT_EQ(rows.FieldName(2), "Peso");
   EXPECT_EQ(ResultOf([&] { return rows.Append({"Rex"}), std::string(); }), "error 5");
   EXPECT_EQ(rows.RecordCount(), 2);
+  const base::RecordSetPtr never;
+  EXPECT_EQ(ResultOf([&] { return std::to_string(never->RecordCount()); }), "error 91");
 }
 
 TEST(RecordSet, GivesItsRowsAsOneText) {
