@@ -1,12 +1,12 @@
 // The file operations of a desktop on the real file system.
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <filesystem>
 
 #include "platform/Desktop.h"
 #include "support/Table.h"
+#include "support/TemporaryFolder.h"
 
 namespace {
 
@@ -16,14 +16,9 @@ using support::ResultOf;
 
 class Files : public testing::Test {
  protected:
-  Files() {
-    std::string pattern = (fs::temp_directory_path() / "caixa-XXXXXX").string();
-    folder = mkdtemp(pattern.data());
-  }
-  ~Files() override { fs::remove_all(folder); }
-  std::string Path(const char* name) const { return (folder / name).string(); }
+  std::string Path(const char* name) const { return folder.File(name); }
 
-  fs::path folder;
+  support::TemporaryFolder folder;
 };
 
 TEST_F(Files, AreWrittenReadAndDeleted) {
@@ -37,7 +32,7 @@ TEST_F(Files, AreWrittenReadAndDeleted) {
   EXPECT_TRUE(files::Exists(path));
   files::Delete(path);
   EXPECT_FALSE(files::Exists(path));
-  EXPECT_TRUE(fs::is_empty(folder)) << "nothing is left beside it";
+  EXPECT_TRUE(fs::is_empty(folder.Path())) << "nothing is left beside it";
 }
 
 TEST_F(Files, SayWhyTheyCannotBeUsed) {

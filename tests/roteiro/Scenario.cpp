@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -14,22 +13,12 @@
 #include <vector>
 
 #include "roteiro/Program.h"
+#include "support/TemporaryFolder.h"
 
 namespace roteiro_tests {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-/// A folder of the scenario's own, "${DIR}" in its lines.
-struct Folder {
-  Folder() : path((std::filesystem::temp_directory_path() / "cenario-XXXXXX").string()) {
-    if (mkdtemp(path.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  }
-  ~Folder() { std::filesystem::remove_all(path); }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-  std::string path;
-};
 
 /// Whether all that is expected stands in the actual value. Objects may hold more; lists are as
 /// long as expected; a double is no whole number.
@@ -86,7 +75,7 @@ class Player {
       here_ = file + ":" + std::to_string(++number) + ": ";
       if (line.empty() || line.starts_with('#')) continue;
       Replace(line, "${BANCO}", bank_);
-      Replace(line, "${DIR}", folder_.path);
+      Replace(line, "${DIR}", folder_.Path().string());
       Follow(line, std::filesystem::path(file).parent_path());
     }
   }
@@ -136,7 +125,8 @@ class Player {
   }
 
   void Start(const std::vector<std::string>& extra) {
-    std::vector<std::string> arguments{"--dir", folder_.path, "--now", "2026-11-22T14:30:00"};
+    std::vector<std::string> arguments{"--dir", folder_.Path().string(), "--now",
+                                       "2026-11-22T14:30:00"};
     arguments.insert(arguments.end(), extra.begin(), extra.end());
     program_ = std::make_unique<Program>(programPath_, arguments);
     TakeAnswer();
@@ -258,7 +248,7 @@ class Player {
 
   std::string programPath_;
   std::string bank_;
-  Folder folder_;
+  support::TemporaryFolder folder_;  ///< "${DIR}" in the lines.
   std::unique_ptr<Program> program_;
   bool ended_ = false;
   std::string here_;  ///< File and line, for what is told of them.

@@ -1,7 +1,7 @@
 #include "desktop/host/frmEntrada.h"
 
-#include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "frame/PainelDeMensagem.h"
 #include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "platform/Layout.h"
 
@@ -70,12 +70,13 @@ void frmEntrada::zvcmdEntrar_Click() {
   if (zvtxtSenha.Text->empty()) {
     return Recusar(lblSenha, "Informe a senha do usuário.", zvtxtSenha);
   }
-  MousePointer = platform::kHourglassPointer;
   auto login = servicos::CriarServico<clsLogin>();
   login->NomeDeUsuario(base::Trim(zvtxtUsuario.Text()));
   login->SenhaDoUsuario(zvtxtSenha.Text());
-  const std::int16_t resultado = login->Autenticar();
-  MousePointer = platform::kDefaultPointer;
+  const auto resultado = [&] {
+    const frame::PonteiroDeEspera espera(*this);
+    return login->Autenticar();
+  }();
   if (resultado != servicos::kSucesso) {
     const bool erro = resultado == servicos::kErro;
     return Recusar(erro ? lblUsuario : lblSenha,
