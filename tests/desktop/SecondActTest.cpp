@@ -57,14 +57,17 @@ TEST_F(SecondActTest, APressWhileTheHandlerWaitsIsDropped) {
   SmallForm form;
   int clicks = 0;
   form.defaultButton = &form.button;
+  bool again = false;
   form.button.Click = [&] {
     ++clicks;
-    const double end = desktop->Elapsed() + 0.1;
-    while (desktop->Elapsed() < end) desktop->ProcessEvents();
+    while (!again && clicks == 1) desktop->ProcessEvents();
   };
   Embed(form);
-  QTimer::singleShot(20, host.get(), [&] { Click(form.button); });
-  QTimer::singleShot(40, host.get(), [&] { Key(Qt::Key_Return); });
+  QTimer::singleShot(1, host.get(), [&] {
+    Click(form.button);
+    Key(Qt::Key_Return);
+    again = true;
+  });
   Click(form.button);
   EXPECT_EQ(clicks, 1);
 }

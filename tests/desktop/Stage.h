@@ -102,11 +102,16 @@ class Stage : public testing::Test {
   void Click(const platform::Control& control, QPoint at = {}) {
     QTest::mouseClick(&WidgetOf(control), Qt::LeftButton, {}, at);
   }
+  /// Whoever has the keyboard; a window that was just shown may still be getting it.
   static QWidget& Focus() {
-    QWidget* const popup = QApplication::activePopupWidget();
-    QWidget* const focus = popup != nullptr ? popup : QApplication::focusWidget();
-    if (focus == nullptr) throw std::runtime_error("nothing has the keyboard");
-    return *focus;
+    const auto focus = [] {
+      QWidget* const popup = QApplication::activePopupWidget();
+      return popup != nullptr ? popup : QApplication::focusWidget();
+    };
+    if (!QTest::qWaitFor([&] { return focus() != nullptr; })) {
+      throw std::runtime_error("nothing has the keyboard");
+    }
+    return *focus();
   }
   static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(&Focus(), key, modifiers);

@@ -12,12 +12,13 @@ class ArquivoIni : public testing::Test {
  protected:
   static constexpr const char* kPath = "/modulo/Caixa.ini";
 
+  std::string& File() { return module.desktop.files[kPath]; }
+
   support::Module module;
-  std::string& file = module.desktop.files[kPath];
 };
 
 TEST_F(ArquivoIni, ReadsAKeyOfItsOwnSection) {
-  file =
+  File() =
       "[Grade]\nFontSize=9\nNumeroDoCaixa=8\n\n[CAIXA]\r\n numerodocaixa = 3 \r\nNome=\"Ana \"\n"
       "Vazio=\n[Caixa de baixo]\nOutro=1\n";
   const std::pair<const char*, const char*> keys[] = {
@@ -31,28 +32,27 @@ TEST_F(ArquivoIni, ReadsAKeyOfItsOwnSection) {
     EXPECT_EQ(LerValorDoArquivoIni("Caixa", key), value) << key;
   }
   EXPECT_EQ(LerValorDoArquivoIni("Nada", "FontSize"), "Nenhum valor lido");
-  file = "[Caixa]\nTexto=" + std::string(300, 'x');
+  File() = "[Caixa]\nTexto=" + std::string(300, 'x');
   EXPECT_EQ(LerValorDoArquivoIni("Caixa", "Texto"), std::string(255, 'x'));
   module.desktop.files.clear();
   EXPECT_EQ(LerValorDoArquivoIni("Caixa", "NumeroDoCaixa"), "Nenhum valor lido") << "first start";
 }
 
 TEST_F(ArquivoIni, KeepsAllElseWhenItWrites) {
-  module.desktop.files.clear();
   EXPECT_EQ(GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "-1"), "");
-  EXPECT_EQ(module.desktop.files[kPath], "[Caixa]\nNumeroDoCaixa=-1\n");
+  EXPECT_EQ(File(), "[Caixa]\nNumeroDoCaixa=-1\n");
 
-  file = "; escrito à mão\n[caixa]\nNUMERODOCAIXA=1\nOutra=2\n\n[Grade]\nFontSize=9";
+  File() = "; escrito à mão\n[caixa]\nNUMERODOCAIXA=1\nOutra=2\n\n[Grade]\nFontSize=9";
   GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "3");
   GravarValorNoArquivoIni("Caixa", "Nova", "4");
   GravarValorNoArquivoIni("Tela", "Cor", "5");
-  EXPECT_EQ(module.desktop.files[kPath],
+  EXPECT_EQ(File(),
             "; escrito à mão\n[caixa]\nNumeroDoCaixa=3\nOutra=2\nNova=4\n\n[Grade]\nFontSize=9\n"
             "[Tela]\nCor=5\n");
 }
 
 TEST_F(ArquivoIni, FailsInSilenceWhenItCannotBeWritten) {
-  file = "[Caixa]\nNumeroDoCaixa=1\n";
+  File() = "[Caixa]\nNumeroDoCaixa=1\n";
   module.desktop.readOnly.insert(kPath);
   EXPECT_EQ(GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "3"), "");
   EXPECT_EQ(LerValorDoArquivoIni("Caixa", "NumeroDoCaixa"), "1");

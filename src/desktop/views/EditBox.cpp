@@ -29,7 +29,7 @@ bool IsOnDeepPanel(const platform::Control& control) {
 EditBoxView::EditBoxView(platform::EditBox& box, QWidget& parent) : View(box, parent) {
   setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_InputMethodEnabled);
-  setCursor(Pointer());
+  setCursor(EditBoxView::Pointer());
 }
 
 EditBoxView::Style EditBoxView::StyleOf() const {

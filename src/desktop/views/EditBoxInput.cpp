@@ -118,7 +118,7 @@ bool EditBoxView::TakeCaretKey(const QKeyEvent& event) {
                                : layout.PositionAt({here.left(), y});
   };
   const double page = std::max(height() - 2 * here.height(), here.height());
-  int to = unit;
+  int to;
   switch (event.key()) {
     case Qt::Key_Up:
       to = moved(-here.height());
