@@ -29,7 +29,7 @@ std::string NinguemEncontrado(const ProcuraDeCliente& procura) {
 
 }  // namespace
 
-base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura, Aceitos aceitos,
+base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
                                    frame::PainelDeMensagem& painel) {
   frame::Espera espera(painel);
   auto clientes = servicos::CriarServico<clsClientes>();
@@ -53,7 +53,6 @@ base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura, Aceitos acei
     return nullptr;
   }
   encontrados->MoveFirst();
-  if (aceitos == Aceitos::kTodos) return encontrados;
   const auto recusa = RecusaDaSituacao(base::ToInt32(encontrados->Fields("Situacao")));
   if (!recusa) return encontrados;
   Informar(*recusa);

@@ -22,15 +22,10 @@ struct ProcuraDeCliente {
   double codigo = 0;
 };
 
-/// Which customers a screen may take.
-enum class Aceitos {
-  kEmAtividade,  ///< Inactive, blocked and excluded customers are refused.
-  kTodos,
-};
-
 /// Asks the service for the customer. The record of the one found, its cursor on it; null when
-/// there was none, when he was refused, or after a fault: the operator has been told.
-base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura, Aceitos aceitos,
+/// there was none, when he is inactive, blocked or excluded and thus refused, or after a fault: the
+/// operator has been told.
+base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
                                    frame::PainelDeMensagem& painel);
 
 /// The message for a customer who cannot be served, by `Situacao`; nothing for one who can.

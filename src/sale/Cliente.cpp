@@ -42,8 +42,8 @@ bool frmCaixaOperar::PesquisarCliente(const std::string& apelido, const std::str
                                       double codigo) {
   bool encontrado = false;
   Procedimento(", frmCaixaOperar, PesquisarCliente, Ponto: ", [&](Ponto& ponto) {
-    const base::RecordSetPtr cliente = lookup::ProcurarCliente(
-        {apelido, nome, codigo}, lookup::Aceitos::kEmAtividade, painelDeMensagem_);
+    const base::RecordSetPtr cliente =
+        lookup::ProcurarCliente({apelido, nome, codigo}, painelDeMensagem_);
     if (!cliente) return;
     ponto = 2;
     PreencherCliente(*cliente);

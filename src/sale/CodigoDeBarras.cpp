@@ -69,6 +69,7 @@ void frmCaixaOperar::PesquisarPorCodigoDeBarras() {
 
 // Nothing of the item found before stays behind: neither its price nor its quantity can be added.
 void frmCaixaOperar::RecusarCodigoDeBarras() {
+  if (SemCliente()) return;
   zvfCodigoDeBarrasDoProduto.Status = ZVFind::kFound;
   VoltarAoCampo(zvfCodigoDeBarrasDoProduto);
 }

@@ -175,6 +175,7 @@ void frmCaixaOperar::PesquisarOuLimparItem(ZVFind& campo) {
   if (lookup::PesquisaCurtaDemais(campo)) return;
   for (ZVFind* outro : Companheiros(campo)) outro->Text = "";
   const bool encontrado = deServico ? ProcurarServicoDosCampos() : ProcurarProdutoDosCampos();
+  if (SemCliente()) return;
   if (!encontrado) {
     RecomecarItem(campo);
     campo.Status = ZVFind::kFound;

@@ -52,6 +52,8 @@ base::RecordSetPtr frmCaixaOperar::SelecionarProduto(const std::string& nome,
     frame::ExibirErroDoServico(*produtos);
     return nullptr;
   }
+  // The operator may clear the counter during the wait: then the item is wanted no more.
+  if (SemCliente()) return nullptr;
   base::RecordSetPtr linhas = produtos->ResultadoDaSelecaoEmRecordSet();
   if (linhas->RecordCount() == 0) {
     NadaEncontrado(NenhumProduto(nome, codigoDeBarras, codigoInterno));
@@ -110,6 +112,7 @@ bool frmCaixaOperar::PesquisarServico(std::int16_t tipo, const std::string& nome
       frame::ExibirErroDoServico(*catalogo);
       return;
     }
+    if (SemCliente()) return;
     ponto = 3;
     const base::RecordSetPtr linhas = catalogo->ResultadoDaSelecaoEmRecordSet();
     const std::string fim =

@@ -17,17 +17,25 @@ void frmCaixaOperar::RestaurarRotulos() {
       *this, {"lblCliente", "lblItensDaPreVenda", "lblSituacaoDoCaixa", "lblAvisoDoCaixa"});
 }
 
+// With nobody to sell to, neither kind of item is open.
+bool frmCaixaOperar::SemCliente() const {
+  return !optServico.Enabled() && !optProduto.Enabled();
+}
+
+bool frmCaixaOperar::RecusarSemCliente() {
+  if (!SemCliente()) return false;
+  Recusar(lblApelidoOuNomeFantasiaDoCliente, "Selecione o cliente.",
+          zvfApelidoOuNomeFantasiaDoCliente);
+  return true;
+}
+
 std::int16_t frmCaixaOperar::ValidarCamposDaGrade() {
   std::int16_t resultado = 0;
   Procedimento(", frmCaixaOperar, ValidarCamposDaGrade, Ponto: ", [&](Ponto& ponto) {
     resultado = 1;
     RestaurarRotulos();
     ponto = 2;
-    if (!optServico.Enabled() && !optProduto.Enabled()) {
-      Recusar(lblApelidoOuNomeFantasiaDoCliente, "Selecione o cliente.",
-              zvfApelidoOuNomeFantasiaDoCliente);
-      return;
-    }
+    if (RecusarSemCliente()) return;
     ponto = 3;
     if (ValidarItem() == 1) return;
     ponto = 4;
@@ -97,11 +105,7 @@ std::int16_t frmCaixaOperar::ValidarCampos() {
       return;
     }
     ponto = 2;
-    if (!optServico.Enabled() && !optProduto.Enabled()) {
-      Recusar(lblApelidoOuNomeFantasiaDoCliente, "Selecione o cliente.",
-              zvfApelidoOuNomeFantasiaDoCliente);
-      return;
-    }
+    if (RecusarSemCliente()) return;
     ponto = 3;
     if (!GradeComItens()) {
       frame::Informar("É preciso adicionar um item na lista.");

@@ -283,6 +283,8 @@ class frmCaixaOperar final : public platform::Form {
   void zvcmdRemover_Click();
   std::int16_t Registros_Alterar();
   void DevolverAosCampos(std::int16_t tipoDeLancamento);
+  bool SemCliente() const;
+  bool RecusarSemCliente();
   std::int16_t ValidarCamposDaGrade();
   std::int16_t ValidarItem();
   std::int16_t ValidarValores();
