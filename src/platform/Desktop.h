@@ -10,7 +10,9 @@
 
 namespace platform {
 
+class DataReport;
 class Menu;
+struct Paper;
 
 enum class Icon { kNone, kInformation, kStop, kQuestion };
 enum class Buttons { kOk, kYesNo };
@@ -59,6 +61,15 @@ class Desktop : public base::Clock {
   virtual Answer Ask(const MessageBox& box) = 0;
   /// Shows a popup menu below `under`, runs the handler of the entry chosen, and returns.
   virtual void PopUp(Menu& menu, const Control& under) = 0;
+
+  // Reports.
+
+  /// What receipts and notes are printed on, as the host is set.
+  virtual const Paper& ReceiptPaper() = 0;
+  /// Shows the report and returns when the operator has closed it.
+  virtual void Preview(DataReport& report) = 0;
+  virtual void Print(DataReport& report) = 0;
+
   /// Lets the events run that have arrived.
   virtual void ProcessEvents() = 0;
   /// Stands still for so many seconds, the screen frozen.
@@ -81,7 +92,9 @@ class Desktop : public base::Clock {
   virtual bool FileExists(const std::string& path) = 0;
   /// Errors 53, 70.
   virtual void DeleteFile(const std::string& path) = 0;
-  /// The bytes of the file; errors 53, 70, 76.
+  /// The bytes of the file; errors 53, 70, 76. A file that another program has locked, has open for
+  /// writing or changes meanwhile is not ready to be read: 70, as for a folder in its place. On a
+  /// network folder, and of another user's file, a writer is seen by its lock or changes alone.
   virtual std::string ReadFile(const std::string& path) = 0;
   /// Replaces the file at once: a reader sees the old bytes or the new; errors 70, 76.
   virtual void WriteFile(const std::string& path, const std::string& bytes) = 0;

@@ -1,8 +1,13 @@
 // The file operations of a desktop on the real file system.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "platform/Desktop.h"
 #include "support/Table.h"
@@ -74,6 +79,32 @@ TEST_F(Files, ThatCannotBeReplacedStayWhole) {
   EXPECT_EQ(ResultOf([&] { return files::Write(path, "depois"), std::string("done"); }), "error 70")
       << "a file that is protected";
   EXPECT_EQ(files::Read(path), "antes");
+}
+
+// What another program has not finished must not be taken for all that it has to say.
+TEST_F(Files, ThatAreStillBeingWrittenAreNotRead) {
+  const std::string path = Path("retorno.txt");
+  const auto read = [&] { return ResultOf([&] { return files::Read(path); }); };
+  {
+    std::ofstream writer(path);
+    EXPECT_EQ(read(), "error 70") << "nothing of it yet";
+    writer << "|OK||3515" << std::flush;
+    EXPECT_EQ(read(), "error 70") << "half of it";
+    writer << "0900|";
+  }
+  EXPECT_EQ(read(), "|OK||35150900|") << "no line break is needed at its end";
+  {
+    const std::ifstream reader(path);
+    EXPECT_EQ(read(), "|OK||35150900|") << "readers are no hindrance";
+  }
+  const int locker = open(path.c_str(), O_RDONLY);
+  ASSERT_EQ(flock(locker, LOCK_EX), 0);
+  EXPECT_EQ(read(), "error 70") << "locked";
+  close(locker);
+  EXPECT_EQ(read(), "|OK||35150900|");
+  const std::string pipe = Path("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(ResultOf([&] { return files::Read(pipe); }), "error 70") << "and nobody waits for it";
 }
 
 }  // namespace

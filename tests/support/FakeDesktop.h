@@ -17,14 +17,15 @@
 #include "platform/Desktop.h"
 #include "platform/Input.h"
 #include "platform/Menu.h"
+#include "platform/ReportPages.h"
 
 namespace support {
 
 /// A desktop for tests, without a display: boxes are recorded and answered from a queue, time moves
 /// only by waits, files lie in memory, and a modal screen is worked by a queue of scripted acts. It
 /// is installed while it lives, so it must outlive every form. What a test neither announced nor
-/// took off the record fails that test: a box nobody read, a question without an answer, a modal
-/// screen that nothing closes, an act that never came to its turn.
+/// took off the record fails that test: a box or a report nobody read, a question without an
+/// answer, a modal screen that nothing closes, an act that never came to its turn.
 class FakeDesktop final : public platform::Desktop {
  public:
   using Act = std::function<void()>;
@@ -34,6 +35,7 @@ class FakeDesktop final : public platform::Desktop {
   }
   ~FakeDesktop() override {
     for (const platform::MessageBox& box : boxes_) ADD_FAILURE() << "box not read: " << box.text;
+    for (const Report& each : reports_) ADD_FAILURE() << "report not read: " << each.pages.name;
     if (!answers_.empty()) ADD_FAILURE() << answers_.size() << " answers without a question";
     if (!acts_.empty()) ADD_FAILURE() << acts_.size() << " acts without a modal screen";
     if (!choices_.empty()) ADD_FAILURE() << choices_.size() << " choices without a menu";
@@ -68,6 +70,13 @@ class FakeDesktop final : public platform::Desktop {
     EXPECT_EQ(boxes.size(), 1U);
     return boxes.empty() ? std::string() : boxes.front().text;
   }
+  /// A report that was shown, or printed without being shown, on even characters.
+  struct Report {
+    platform::ReportPages pages;
+    bool isPrinted;
+  };
+  /// The reports since the last call, in order.
+  std::vector<Report> TakeReports() { return std::exchange(reports_, {}); }
   /// What was asked of the desktop since the last call, a word or two each: "show frmX",
   /// "hide frmX", "forget frmX", "beep", "keys +({HOME})", "dim 7 1", "undim 7", "popup mnuX".
   std::vector<std::string> TakeJournal() { return std::exchange(journal_, {}); }
@@ -75,8 +84,11 @@ class FakeDesktop final : public platform::Desktop {
   /// The files of this machine, by path, and the paths that cannot be written or deleted.
   std::map<std::string, std::string> files;
   std::set<std::string> readOnly;
+  std::set<std::string> unreadable;
   std::string computer = "BALCAO-1";
   std::string folder = "/modulo";
+  /// What receipts and notes are printed on.
+  platform::Paper paper = platform::kA4Paper;
 
   // The contract.
 
@@ -110,6 +122,12 @@ class FakeDesktop final : public platform::Desktop {
     }
     return TakeFront(answers_);
   }
+  const platform::Paper& ReceiptPaper() override { return paper; }
+  void Preview(platform::DataReport& report) override {
+    UnwindIfClosing();
+    Take(report, false);
+  }
+  void Print(platform::DataReport& report) override { Take(report, true); }
   void PopUp(platform::Menu& menu, const platform::Control&) override {
     UnwindIfClosing();
     Note("popup " + menu.Name());
@@ -154,6 +172,7 @@ class FakeDesktop final : public platform::Desktop {
   std::string ReadFile(const std::string& path) override {
     const auto found = files.find(path);
     if (found == files.end()) throw base::RuntimeError(base::Fault::kFileNotFound);
+    if (unreadable.contains(path)) throw base::RuntimeError(base::Fault::kPermissionDenied);
     return found->second;
   }
   void WriteFile(const std::string& path, const std::string& bytes) override {
@@ -169,6 +188,9 @@ class FakeDesktop final : public platform::Desktop {
     return front;
   }
 
+  void Take(const platform::DataReport& report, bool isPrinted) {
+    reports_.push_back({platform::Compose(report, platform::PlainMeasure(), Now()), isPrinted});
+  }
   static std::int64_t Milliseconds(double seconds) { return std::llround(seconds * 1000); }
   void Note(std::string what) { journal_.push_back(std::move(what)); }
   void UnwindIfClosing() const {
@@ -182,6 +204,7 @@ class FakeDesktop final : public platform::Desktop {
   std::int64_t elapsed_ = 0;  ///< Milliseconds.
   bool closing_ = false;
   std::vector<platform::MessageBox> boxes_;
+  std::vector<Report> reports_;
   std::vector<std::string> journal_;
   std::deque<platform::Answer> answers_;
   std::deque<Act> acts_;
