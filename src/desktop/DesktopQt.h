@@ -5,12 +5,14 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "desktop/Dimmer.h"
 #include "desktop/InputGate.h"
 #include "desktop/Loops.h"
 #include "desktop/Windows.h"
+#include "desktop/reports/Printing.h"
 #include "platform/Desktop.h"
 
 namespace desktop {
@@ -31,6 +33,9 @@ class DesktopQt final : public platform::Desktop {
 
   /// The number by which the module may name a widget of the host.
   platform::WindowHandle Register(QWidget& widget) { return windows_.Register(widget); }
+
+  /// On what, and by which printer, reports are printed; by default A4 by the system's own.
+  void UsePrinting(reports::Printing printing) { printing_ = std::move(printing); }
 
   /// Nothing runs and nothing waits: the host may close at once.
   bool IsIdle() const { return loops_.IsIdle(); }
@@ -65,6 +70,9 @@ class DesktopQt final : public platform::Desktop {
   void HandlerEnded() override { loops_.Check(); }
   void Adopt(platform::WindowHandle container, std::unique_ptr<platform::Form> form) override;
   platform::Answer Ask(const platform::MessageBox& box) override;
+  const platform::Paper& ReceiptPaper() override { return printing_.paper; }
+  void Preview(platform::DataReport& report) override;
+  void Print(platform::DataReport& report) override;
   void PopUp(platform::Menu& menu, const platform::Control& under) override;
   void ProcessEvents() override { loops_.ProcessEvents(); }
   void Freeze(double seconds) override;
@@ -98,8 +106,14 @@ class DesktopQt final : public platform::Desktop {
   /// What an error may have left behind is no hindrance to the operator's next act.
   void ClearAtRest();
   QPainterPath WaitPanels(const QWidget& window) const;
+  /// Shows a report that is laid out until the operator has closed it.
+  void ShowPages(const std::shared_ptr<const platform::ReportPages>& pages);
+  /// Saves a report as PDF where the operator says.
+  void SavePages(const platform::ReportPages& pages);
+  void TellTrouble(const std::string& sentence);
 
   std::string moduleFolder_;
+  reports::Printing printing_;
   QElapsedTimer started_;
   Windows windows_;
   Loops loops_;

@@ -65,6 +65,23 @@ constexpr std::array kPictures{
             "9.6 Z"},
     Picture{"sort-up", "M10 14.5 V5.8 M6.4 9.2 L10 5.6 L13.6 9.2"},
     Picture{"sort-down", "M10 5.5 V14.2 M6.4 10.8 L10 14.4 L13.6 10.8"},
+    Picture{"printer",
+            "M5.8 7 V2.8 H14.2 V7 M5.8 14.2 H3 V7 H17 V14.2 H14.2 M5.8 11.4 H14.2 V17.2 H5.8 Z "
+            "M14.2 9.2 V9.3"},
+    Picture{"save",
+            "M4.5 2.5 H12 L15.5 6 V17.5 H4.5 Z M10 7.6 V13.6 M7.4 11.2 L10 13.8 L12.6 11.2"},
+    Picture{"smaller", "O 8.6 8.6 5.2 M12.5 12.5 L16.8 16.8 M6.2 8.6 H11"},
+    Picture{"larger", "O 8.6 8.6 5.2 M12.5 12.5 L16.8 16.8 M6.2 8.6 H11 M8.6 6.2 V11"},
+    Picture{"page-width",
+            "M2.8 3 V17 M17.2 3 V17 M5.4 10 H14.6 M7.8 7.4 L5.2 10 L7.8 12.6 M12.2 7.4 L14.8 10 "
+            "L12.2 12.6"},
+    Picture{"whole-page",
+            "M4.5 2.5 H15.5 V17.5 H4.5 Z M7.4 6.4 H12.6 M7.4 9.4 H12.6 M7.4 12.4 "
+            "H10.4"},
+    Picture{"first", "M5.4 4.6 V15.4 M14.4 4.8 L9 10 L14.4 15.2"},
+    Picture{"previous", "M12.6 4.8 L7.2 10 L12.6 15.2"},
+    Picture{"next", "M7.4 4.8 L12.8 10 L7.4 15.2"},
+    Picture{"last", "M14.6 4.6 V15.4 M5.6 4.8 L11 10 L5.6 15.2"},
 };
 
 /// The keys that the screens give pictures, and the picture of each.

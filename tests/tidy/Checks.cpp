@@ -35,8 +35,12 @@ std::vector<Floor> Building() {
       floors.push_back({"frame/servicos", {"base"}, true});
       above.push_back("frame/servicos");
     }
+    if (folder == "entry") {
+      floors.push_back({"siblings/dados", {"base", "frame/servicos"}, true});
+      above.push_back("siblings/dados");
+    }
   }
-  floors.push_back({"services", {"base", "frame/servicos"}, false});
+  floors.push_back({"services", {"base", "frame/servicos", "siblings/dados"}, false});
   above.push_back("services");
   floors.push_back({"desktop", above, false});
   floors.push_back({"tools", above, false});
@@ -67,7 +71,9 @@ struct Library {
 };
 const std::vector<Library>& Libraries() {
   static const std::vector<Library> kLibraries{
-      {"Qt", std::regex("Q[A-Z].*|Qt[A-Z].*/.*"), {"src/desktop/", "tests/desktop/"}},
+      {"Qt",
+       std::regex("Q[A-Z].*|Qt[A-Z].*/.*"),
+       {"src/desktop/", "tests/desktop/", "bench/desktop/"}},
       {"SQL",
        std::regex("sqlite3\\.h|SQLiteCpp/.*|pqxx/.*|libpq-fe\\.h"),
        {"src/services/", "src/tools/banco/", "bench/", "tests/"}},

@@ -1,0 +1,231 @@
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
+#include <QWidget>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "clinic/Goods.h"
+#include "clinic/Opened.h"
+#include "clinic/People.h"
+#include "desktop/Application.h"
+#include "desktop/Cases.h"
+#include "desktop/DesktopQt.h"
+#include "desktop/views/View.h"
+#include "frame/PainelDeMensagem.h"
+#include "frame/Valores.h"
+#include "lookup/frmPesquisaDeClientes.h"
+#include "lookup/frmPesquisaDeProdutos.h"
+#include "platform/Input.h"
+#include "siblings/RegistrarTelas.h"
+#include "support/Bench.h"
+
+namespace bench {
+namespace {
+
+constexpr std::int32_t kHits = 5'000;
+
+/// What a search for customers found, in the fields that the counter takes over, in no order.
+base::RecordSetPtr Customers() {
+  auto rows = std::make_shared<base::RecordSet>(
+      std::vector<std::string>{"CodigoDoCliente",
+                               "ApelidoOuNomeFantasia",
+                               "NomeOuRazaoSocial",
+                               "Situacao",
+                               "EnderecoCompleto",
+                               "TiposECanaisDeComunicacao",
+                               "Credito",
+                               "DescontoUnico",
+                               "PercentualUnicoDeDescontos",
+                               "PercentualDeDescontoEmClinicos",
+                               "PercentualDeDescontoEmCirurgiaSimples",
+                               "PercentualDeDescontoEmCirurgiaMedia",
+                               "PercentualDeDescontoEmCirurgiaComplexa",
+                               "PercentualDeDescontoEmBanhosTosasEEsteticas",
+                               "PercentualDeDescontoEmHospedagens",
+                               "PercentualDeDescontoEmAdestramentos",
+                               "PercentualDeDescontoEmOutros",
+                               "VIP",
+                               "CategoriaDaCurvaABC",
+                               "CPFCNPJ",
+                               "CodigoIBGEDoMunicipio"});
+  People people;
+  for (std::int32_t i = 0; i < kHits; ++i) {
+    const People::Person person = people.Next();
+    // A prime that shares no factor with the count: each code once.
+    const std::int32_t code = (i + 17) * 4'219 % kHits + 1;
+    const base::Currency percentage = base::Currency::FromTenThousandths(i % 10 * 12'500);
+    std::vector<base::Value> row{code,
+                                 person.nickname,
+                                 person.name,
+                                 1,
+                                 "Rua das Palmeiras, " + std::to_string(code) + " - Centro",
+                                 "Celular (11) 90000-" + std::to_string(10'000 + i).substr(1),
+                                 base::Currency::FromTenThousandths(i % 7 * 99'900),
+                                 "Não"};
+    row.insert(row.end(), 9, percentage);
+    for (const char* text : {"Não", "B", "999.000.124-37", "3550308"}) row.emplace_back(text);
+    rows->Append(std::move(row));
+  }
+  return rows;
+}
+
+base::RecordSetPtr Products() {
+  auto rows = std::make_shared<base::RecordSet>(std::vector<std::string>{
+      "CodigoDeBarras", "CodigoInterno", "NCM", "Nome", "NomeDoGrupo", "NomeDoSubgrupo",
+      "PercentualDeComissao", "UnidadeDeCompra", "UnidadeDeVenda", "ValorDeCusto", "ValorDeVenda"});
+  for (std::int32_t i = 0; i < kHits; ++i) {
+    const std::int32_t place = i * 4'219 % kHits;
+    rows->Append({BarcodeAt(place), place + 1, "23091000", ProductNameAt(place), "Rações", "Cães",
+                  base::Currency::FromTenThousandths(25'000), "UN", "UN",
+                  base::Currency::FromTenThousandths(std::int64_t{7'100} * place),
+                  base::Currency::FromTenThousandths(std::int64_t{11'900} * place)});
+  }
+  return rows;
+}
+
+/// Calls `painted` once a widget has been painted and nothing is left to do.
+class Painted final : public QObject {
+ public:
+  Painted(std::function<bool(const QObject*)> isIt, std::function<void()> painted)
+      : isIt_(std::move(isIt)), painted_(std::move(painted)) {
+    qApp->installEventFilter(this);
+  }
+
+ private:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint && isIt_(watched)) {
+      qApp->removeEventFilter(this);
+      QTimer::singleShot(0, this, painted_);
+    }
+    return false;
+  }
+
+  std::function<bool(const QObject*)> isIt_;
+  std::function<void()> painted_;
+};
+
+/// A host's window with the real renderer, and the services that a list needs.
+class Window {
+ public:
+  Window() : services_(NewClinic(services::Engine::kSqlite, "listas")) {
+    platform::Desktop::Install(&desktop_);
+    siblings::RegistrarTelas();
+    host_.resize(1366, 768);
+    host_.show();
+    frame::valores().HandleDaJanelaPrincipal = desktop_.Register(host_);
+    QCoreApplication::processEvents();
+  }
+  ~Window() {
+    frame::valores() = {};
+    platform::Desktop::Install(nullptr);
+  }
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+
+  /// Opens a list as the counter does with what a search has found, to the moment when the operator
+  /// sees the rows; then closes it.
+  template <class List>
+  double SecondsToOpen(const base::RecordSetPtr& found) {
+    double seconds = 0;
+    std::unique_ptr<List> list;
+    const auto start = std::chrono::steady_clock::now();
+    const Painted painted(
+        [&](const QObject* widget) { return IsGrid(widget, list.get()); },
+        [&] {
+          seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+          platform::input::Close(*list);
+        });
+    {
+      const frame::FundoEscuro dark;
+      list = std::make_unique<List>();
+      Fill(*list, found);
+      list->ShowModal();
+    }
+    if (seconds == 0) throw std::runtime_error("the list was not seen");
+    list->Unload();
+    list.reset();
+    Settle();
+    return seconds;
+  }
+
+  template <class List>
+  static void Fill(List& list, const base::RecordSetPtr& found) {
+    std::int16_t failed = 0;
+    list.ConfigurarGrade(failed);
+    if (failed == 0) list.PreencherGrade(found, failed);
+    if (failed != 0 || list.msfgGrade.Rows() != kHits + 1) {
+      throw std::runtime_error("the list does not hold what was found");
+    }
+  }
+
+  /// A click on a header, until the rows are seen in their new order.
+  double SecondsToSort(lookup::frmPesquisa& list, std::int32_t column) {
+    const std::string first = list.msfgGrade.TextMatrix(1, column);
+    const double seconds = SecondsOf([&] {
+      platform::input::ClickCell(list.msfgGrade, 0, column, platform::MouseButton::kLeft, false);
+      desktop_.ViewOf(list.msfgGrade)->repaint();
+    });
+    if (list.msfgGrade.TextMatrix(1, column) == first) {
+      throw std::runtime_error("the list was not sorted");
+    }
+    return seconds;
+  }
+
+  static void Settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+ private:
+  template <class List>
+  bool IsGrid(const QObject* widget, const List* list) const {
+    return list != nullptr && widget->isWidgetType() && widget == desktop_.ViewOf(list->msfgGrade);
+  }
+
+  Opened services_;
+  desktop::DesktopQt desktop_{"."};
+  QWidget host_;
+};
+
+/// Sorting by `column` a list that was sorted by `other` before.
+void Sort(benchmark::State& state, std::int32_t column, std::int32_t other) {
+  NeedApplication();
+  Window window;
+  lookup::frmPesquisaDeClientes list;
+  Window::Fill(list, Customers());
+  list.Show();
+  Window::Settle();
+  Alone(state, [&] {
+    window.SecondsToSort(list, other);
+    return window.SecondsToSort(list, column);
+  });
+  list.Unload();
+}
+
+template <class List>
+void Open(benchmark::State& state, const base::RecordSetPtr& found) {
+  NeedApplication();
+  Window window;
+  Alone(state, [&] { return window.SecondsToOpen<List>(found); });
+}
+
+}  // namespace
+
+void AddPickLists() {
+  constexpr int kRounds = 100;
+  constexpr std::int32_t kCode = 1, kName = 3;
+  Add("picklist/open_customers", kRounds,
+      [](benchmark::State& state) { Open<lookup::frmPesquisaDeClientes>(state, Customers()); });
+  Add("picklist/open_products", kRounds,
+      [](benchmark::State& state) { Open<lookup::frmPesquisaDeProdutos>(state, Products()); });
+  Add("picklist/sort_by_name", kRounds, [](benchmark::State& state) { Sort(state, kName, kCode); });
+  Add("picklist/sort_by_code", kRounds, [](benchmark::State& state) { Sort(state, kCode, kName); });
+}
+
+}  // namespace bench

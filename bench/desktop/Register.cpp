@@ -1,0 +1,7 @@
+#include "desktop/Cases.h"
+#include "support/Bench.h"
+
+void bench::Register() {
+  AddReceipts();
+  AddPickLists();
+}

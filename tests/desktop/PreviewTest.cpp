@@ -1,0 +1,218 @@
+#include <QAccessible>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include "desktop/Convert.h"
+#include "desktop/Stage.h"
+#include "desktop/reports/Pdf.h"
+#include "desktop/reports/QtMeasure.h"
+#include "desktop/reports/frmSalvarPDF.h"
+#include "desktop/reports/frmVisualizacao.h"
+#include "platform/Screens.h"
+#include "support/Receipt.h"
+#include "support/TemporaryFolder.h"
+
+namespace {
+
+using desktop::ToQt;
+using desktop::reports::frmSalvarPDF;
+using desktop::reports::frmVisualizacao;
+
+/// What a program of the outside tells of a PDF.
+QString Told(const QString& program, const QStringList& arguments) {
+  QProcess process;
+  process.start(program, arguments);
+  process.waitForFinished();
+  return QString::fromUtf8(process.readAllStandardOutput());
+}
+QString InfoOf(const QString& path, const QString& name) {
+  const QString info = Told(QStringLiteral("pdfinfo"), {path});
+  return QRegularExpression(name + QStringLiteral(":\\s+(.*)")).match(info).captured(1).trimmed();
+}
+QString TextOf(const QString& path) {
+  return Told(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
+}
+
+class PreviewTest : public stage::Stage {
+ protected:
+  static frmVisualizacao& Preview() {
+    return dynamic_cast<frmVisualizacao&>(*platform::screens::Modal());
+  }
+  static frmSalvarPDF& Saving() { return dynamic_cast<frmSalvarPDF&>(*platform::screens::Modal()); }
+  static bool IsUp(std::string_view name) {
+    return platform::screens::Modal() != nullptr && platform::screens::Modal()->Name() == name;
+  }
+  static std::string Page() { return Preview().lblPagina.Caption(); }
+  static std::string Zoom() { return Preview().lblTamanho.Caption(); }
+  void Show(platform::DataReport& report) {
+    platform::input::Run([&] { report.Show(); });
+    EXPECT_TRUE(AllDone());
+    EXPECT_EQ(platform::screens::Modal(), nullptr);
+    EXPECT_EQ(desktop->DimCount(handle), 0);
+  }
+  QStringList Files() const {
+    return QDir(ToQt(folder.Path().string())).entryList(QDir::Files, QDir::Name);
+  }
+  QString PathOf(const QString& name) const { return ToQt(folder.Path().string()) + u'/' + name; }
+
+  support::TemporaryFolder folder;
+};
+
+TEST_F(PreviewTest, TheKeyboardPagesZoomsAndCloses) {
+  const auto receipt = support::ReceiptOf(100);
+  Then({[&] {
+          EXPECT_EQ(Preview().Title(), "Imprimir comprovante de pagamento de venda");
+          EXPECT_EQ(desktop->DimCount(handle), 1);
+          EXPECT_EQ(Focus().objectName(), QStringLiteral("zvcmdImprimir"));
+          EXPECT_EQ(Page(), "Página 1 de 3");
+          EXPECT_EQ(Zoom(), "100%");
+          for (const platform::Control* control : Preview().Controls()) {
+            if (control->GetKind() != platform::Kind::kCommandButton) continue;
+            EXPECT_FALSE(WidgetOf(*control).accessibleName().isEmpty()) << control->Name();
+          }
+        },
+        [] { Key(Qt::Key_PageDown); }, [] { Key(Qt::Key_PageDown); },
+        [] {
+          EXPECT_EQ(Page(), "Página 2 de 3");
+          Key(Qt::Key_End);
+        },
+        [] {
+          EXPECT_EQ(Page(), "Página 3 de 3");
+          Type("+");
+        },
+        [] {
+          EXPECT_EQ(Zoom(), "110%");
+          EXPECT_EQ(Page(), "Página 3 de 3");
+          Type("--");
+        },
+        [&] {
+          EXPECT_EQ(Zoom(), "90%");
+          Click(Preview().zvcmdAnterior);
+        },
+        [] {
+          EXPECT_EQ(Page(), "Página 2 de 3");
+          Key(Qt::Key_Home);
+        },
+        [&] {
+          EXPECT_EQ(Page(), "Página 1 de 3");
+          Click(Preview().zvcmdPaginaInteira);
+          EXPECT_LT(WidgetOf(Preview().picPaginas).height(), 768);
+        },
+        [&] {
+          // All of a sheet is in sight: it is no longer read at its full size.
+          EXPECT_LT(base::ToDouble(Zoom().substr(0, 2)), 70);
+          host->resize(800, 600);
+          EXPECT_EQ(Preview().Width(), (800 - 36) * 15);
+          EXPECT_FALSE(Preview().lblTamanho.Visible());
+          Key(Qt::Key_Escape);
+        }});
+  Show(*receipt);
+}
+
+TEST_F(PreviewTest, PrintsIntoNumberedFilesOfAFolder) {
+  desktop->UsePrinting({.paper = platform::kRoll80Paper,
+                        .printer = "pdf:" + folder.File("impressos"),
+                        .saveAs = {}});
+  const auto receipt = support::ReceiptOf(12, desktop->ReceiptPaper());
+  receipt->PrintReport();
+  Then({[] { Key(Qt::Key_Return); }});
+  Show(*receipt);
+  const QString path = PathOf(QStringLiteral("impressos/"));
+  EXPECT_EQ(QDir(path).entryList(QDir::Files, QDir::Name),
+            (QStringList{QStringLiteral("0001 Comprovante de pagamento de venda.pdf"),
+                         QStringLiteral("0002 Comprovante de pagamento de venda.pdf")}));
+  const QString last = path + QStringLiteral("0002 Comprovante de pagamento de venda.pdf");
+  EXPECT_EQ(InfoOf(last, QStringLiteral("Pages")), QStringLiteral("1"));
+  EXPECT_TRUE(InfoOf(last, QStringLiteral("Page size")).startsWith(QStringLiteral("227 x ")));
+  const QString text = TextOf(last);
+  EXPECT_TRUE(text.contains(QStringLiteral("Vacina múltipla 11"))) << desktop::FromQt(text);
+  EXPECT_TRUE(text.contains(QStringLiteral("935,22")));  // The sum of all lines.
+}
+
+TEST_F(PreviewTest, SavesAPdfWhereTheOperatorSays) {
+  const auto receipt = support::ReceiptOf(100);
+  Then({[] { Key(Qt::Key_S, Qt::ControlModifier); },
+        [&] {
+          EXPECT_EQ(Focus().objectName(), QStringLiteral("zvtxtNome"));
+          Saving().zvtxtPasta.Text = folder.File("não existe");
+          Type("venda 1024");
+          Key(Qt::Key_Return);
+        },
+        [&] {
+          EXPECT_TRUE(desktop->Box()->Text().contains(QStringLiteral("pasta não existe")));
+          Reply(platform::Answer::kOk);
+        },
+        [&] {
+          Saving().zvtxtPasta.Text = folder.Path().string();
+          Click(Saving().zvcmdSalvar);
+        },
+        [] {
+          EXPECT_TRUE(IsUp("frmVisualizacao"));
+          Key(Qt::Key_Escape);
+        }});
+  Show(*receipt);
+  ASSERT_EQ(Files(), QStringList{QStringLiteral("venda 1024.pdf")});
+  const QString path = PathOf(Files().front());
+  EXPECT_EQ(InfoOf(path, QStringLiteral("Title")),
+            QStringLiteral("Imprimir comprovante de pagamento de venda"));
+  EXPECT_EQ(InfoOf(path, QStringLiteral("Pages")), QStringLiteral("3"));
+  EXPECT_TRUE(InfoOf(path, QStringLiteral("Page size")).endsWith(QStringLiteral("(A4)")));
+  const QString text = TextOf(path);
+  for (int line = 1; line <= 100; ++line) {
+    if (line % 10 == 2) continue;
+    EXPECT_TRUE(text.contains(QStringLiteral("Vacina múltipla %1 ").arg(line))) << line;
+  }
+}
+
+TEST_F(PreviewTest, WithoutItsPrinterADocumentComesOnTheScreen) {
+  desktop->UsePrinting({.paper = platform::kA4Paper, .printer = "Balcão", .saveAs = {}});
+  const auto receipt = support::ReceiptOf(1);
+  const auto told = [&] {
+    ASSERT_NE(desktop->Box(), nullptr);
+    EXPECT_TRUE(desktop->Box()->Text().startsWith(
+        QStringLiteral("A impressora \"Balcão\" não foi encontrada")));
+    Key(Qt::Key_Return);
+  };
+  Then({told, [] { Key(Qt::Key_P, Qt::ControlModifier); }, told,
+        [] {
+          EXPECT_TRUE(IsUp("frmVisualizacao"));
+          Key(Qt::Key_Escape);
+        }});
+  platform::input::Run([&] { receipt->PrintReport(); });
+  EXPECT_TRUE(AllDone());
+  EXPECT_EQ(platform::screens::Modal(), nullptr);
+}
+
+TEST_F(PreviewTest, AFileThatCannotBeReplacedStaysWhole) {
+  const auto pages = platform::Compose(*support::ReceiptOf(1), desktop::reports::QtMeasure(),
+                                       base::DateTime(2026, 11, 22));
+  EXPECT_THROW(desktop::reports::WritePdf(pages, folder.File("falta/venda.pdf")),
+               std::runtime_error);
+  // A folder of that name cannot be replaced, and nothing else is left beside it.
+  QDir().mkpath(PathOf(QStringLiteral("venda.pdf")));
+  EXPECT_THROW(desktop::reports::WritePdf(pages, folder.File("venda.pdf")), std::runtime_error);
+  EXPECT_TRUE(Files().isEmpty());
+}
+
+TEST_F(PreviewTest, TheHostMayCloseMeanwhile) {
+  const auto receipt = support::ReceiptOf(1);
+  int unwound = 0;
+  bool wentOn = false;
+  Then({[&] { Click(Preview().zvcmdSalvar); },
+        [&] {
+          EXPECT_TRUE(IsUp("frmSalvarPDF"));
+          desktop->ShutDown([&] { ++unwound; });
+        }});
+  platform::input::Run([&] {
+    receipt->Show();
+    wentOn = true;
+  });
+  Settle();
+  EXPECT_EQ(unwound, 1);
+  EXPECT_FALSE(wentOn);
+  EXPECT_EQ(platform::screens::Front(), nullptr);
+}
+
+}  // namespace
