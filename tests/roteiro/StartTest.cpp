@@ -24,6 +24,8 @@ TEST(Start, AUsageErrorSaysWhatIsWrongAndEndsWith2) {
       {"value", {"--now"}, "--now needs a value"},
       {"time", {"--now", "2026-13-01T00:00:00"}, "not a date and time"},
       {"clock", {"--clock", "lento"}, "--clock is virtual or real"},
+      {"paper", {"--paper", "a5"}, "--paper is a4 or roll80"},
+      {"exchange", {"--exchange", "troca"}, "--exchange needs a database"},
       {"services", {"--services", "mysql:x"}, "--services is stub"},
       {"folder", {"--dir", "/nao/existe"}, "no folder /nao/existe"},
   };

@@ -184,6 +184,13 @@ std::optional<Json> Dismiss(Stage& stage, const Arguments&) {
   return std::nullopt;
 }
 
+std::optional<Json> Print(Stage& stage, const Arguments&) {
+  Hold& held = *stage.desktop.Held();
+  stage.desktop.TellPrinted(*held.preview);
+  held.over = true;
+  return std::nullopt;
+}
+
 std::optional<Json> Answer(Stage& stage, const Arguments& arguments) {
   Hold& held = *stage.desktop.Held();
   const std::string with = arguments.Text("with");

@@ -16,9 +16,17 @@ enum class Where {
   kScreen,    ///< At a screen; an act of the operator.
   kMessage,   ///< At a message box; an act of the operator.
   kPopup,     ///< At a popup menu; an act of the operator.
+  kPreview,   ///< At a report preview; an act of the operator.
+  kPassing,   ///< At a popup menu or a preview; an act of the operator.
   kHost,      ///< Where the host has its window to itself: at no box and no modal screen.
   kControls,  ///< At a screen, or anywhere when "form" names one.
 };
+
+bool IsAct(Where where) {
+  constexpr Where kActs[] = {Where::kScreen, Where::kMessage, Where::kPopup, Where::kPreview,
+                             Where::kPassing};
+  return std::ranges::find(kActs, where) != std::end(kActs);
+}
 
 /// A command: its name, the fields that it takes beside "do", parted by blanks, and what it does.
 struct Command {
@@ -40,8 +48,8 @@ constexpr Command kCommands[] = {
     {"select", "control form index text drop", Where::kScreen, acts::Select},
     {"toolbar", "button form", Where::kScreen, acts::Toolbar},
     {"menu", "item", Where::kPopup, acts::ChooseEntry},
-    {"dismiss", "", Where::kPopup, acts::Dismiss},
-    {"print", "", Where::kAnywhere, host::NoReport},
+    {"dismiss", "", Where::kPassing, acts::Dismiss},
+    {"print", "", Where::kPreview, acts::Print},
     {"answer", "with", Where::kMessage, acts::Answer},
     {"close", "", Where::kScreen, acts::Close},
     {"advance", "seconds", Where::kAnywhere, host::Advance},
@@ -56,7 +64,7 @@ constexpr Command kCommands[] = {
     {"cell", "control form row col", Where::kControls, reads::Cell},
     {"form", "form", Where::kControls, reads::Screen},
     {"value", "name", Where::kAnywhere, host::Value},
-    {"report", "", Where::kAnywhere, host::NoReport},
+    {"report", "", Where::kAnywhere, reads::Report},
     {"forms", "", Where::kAnywhere, reads::Screens},
 };
 
@@ -79,12 +87,18 @@ const Command& CommandIn(const Arguments& arguments) {
 void RequirePlace(Where where, const Hold* held, const Arguments& arguments) {
   const bool atBox = held != nullptr && held->box != nullptr;
   const bool atPopup = held != nullptr && held->menu != nullptr;
+  const bool atPreview = held != nullptr && held->preview != nullptr;
   const bool needsScreen = where == Where::kScreen || where == Where::kHost ||
                            (where == Where::kControls && !arguments.Has("form"));
   if (needsScreen && atBox) throw CannotDo("a message box is up");
   if (needsScreen && atPopup) throw CannotDo("a popup menu is up");
+  if (needsScreen && atPreview) throw CannotDo("a report preview is up");
   if (where == Where::kMessage && !atBox) throw CannotDo("no message box is up");
   if (where == Where::kPopup && !atPopup) throw CannotDo("no popup menu is up");
+  if (where == Where::kPreview && !atPreview) throw CannotDo("no report preview is up");
+  if (where == Where::kPassing && !atPopup && !atPreview) {
+    throw CannotDo("no popup menu and no report preview is up");
+  }
   if (where == Where::kHost && platform::screens::Modal() != nullptr) {
     throw CannotDo("a modal screen is up");
   }
@@ -102,8 +116,7 @@ std::optional<Json> CarryOut(Stage& stage, const Json& command) {
 void RequireAct(const Json& command) {
   if (!command.is_object()) throw CannotDo("\"run\" is not a command");
   const Command& found = CommandIn(Arguments(command));
-  if (found.where != Where::kScreen && found.where != Where::kMessage &&
-      found.where != Where::kPopup) {
+  if (!IsAct(found.where)) {
     throw CannotDo("\"" + std::string(found.name) + "\" is no act of the operator");
   }
 }

@@ -40,17 +40,18 @@ using CommandBody = std::optional<Json>(Stage& stage, const Arguments& arguments
 
 /// The acts of the operator.
 namespace acts {
-CommandBody Focus, Type, Key, Click, Wheel, Select, Toolbar, ChooseEntry, Dismiss, Answer, Close;
+CommandBody Focus, Type, Key, Click, Wheel, Select, Toolbar, ChooseEntry, Dismiss, Print, Answer,
+    Close;
 }  // namespace acts
 
-/// What a script reads from the screens, and the writing of a property for test set-up.
+/// What a script reads from the screens and reports, and the writing of a property for test set-up.
 namespace reads {
-CommandBody Get, Set, Grid, Cell, Screen, Screens;
+CommandBody Get, Set, Grid, Cell, Screen, Screens, Report;
 }  // namespace reads
 
 /// The host, the world outside, the services.
 namespace host {
-CommandBody TakeSession, Open, Use, Value, Advance, At, Disk, Stub, Calls, NoReport;
+CommandBody TakeSession, Open, Use, Value, Advance, At, Disk, Stub, Calls;
 }  // namespace host
 
 }  // namespace roteiro

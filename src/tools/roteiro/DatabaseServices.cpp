@@ -1,13 +1,17 @@
 #include "tools/roteiro/DatabaseServices.h"
 
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
 
+#include "frame/modMensagemDeErro.h"
 #include "frame/servicos/ZOVA_A_MsgErro.clsMensagem.h"
 #include "platform/Desktop.h"
+#include "tools/roteiro/Options.h"
 #include "tools/roteiro/StandIns.h"
 #ifdef CAIXA_SERVICES
 #include "services/Banco.h"
+#include "services/ExportacaoFiscal.h"
 #include "services/RegistrarServicos.h"
 #endif
 #ifdef CAIXA_SIBLINGS
@@ -37,27 +41,35 @@ class ToldViewer final : public clsMensagem {
   std::shared_ptr<clsMensagem> viewer_;
 };
 
+/// The one of our own is made; one that was asked for may be missing, which an export tells.
+std::string ExchangeFolder(const Options& options, platform::Desktop& desktop) {
+  if (!options.exchange.empty()) return options.exchange;
+  const std::filesystem::path folder = std::filesystem::path(desktop.ModuleFolder()) / "cfe";
+  std::filesystem::create_directory(folder);
+  return folder.string();
+}
+
 void UseSuite(StandIns& standIns) {
   siblings::RegistrarTelas();
   std::shared_ptr<clsMensagem> viewer = servicos::CriarServico<clsMensagem>();
   servicos::Registrar(clsMensagem::kIdentificador, [&standIns, viewer] {
     return std::make_unique<ToldViewer>(standIns, viewer);
   });
-  // Of the other screens the suite has only a sentence that they are not there yet; a script can
-  // do more with a stand-in.
-  RegisterScreenStandIns(standIns);
 }
 #endif
 
 }  // namespace
 
 #if defined(CAIXA_SERVICES) && defined(CAIXA_SIBLINGS)
-void UseDatabase(const std::string& database, StandIns& standIns, platform::Desktop& desktop) {
-  services::RegistrarServicos(services::AbrirBanco(database, desktop, desktop.ComputerName()));
+void UseDatabase(const Options& options, StandIns& standIns, platform::Desktop& desktop) {
+  services::RegistrarServicos(
+      services::AbrirBanco(options.database, desktop, desktop.ComputerName()));
+  services::RegistrarExportacaoFiscal(ExchangeFolder(options, desktop), desktop,
+                                      desktop.ComputerName(), frame::ExibirRelato);
   UseSuite(standIns);
 }
 #else
-void UseDatabase(const std::string&, StandIns&, platform::Desktop&) {
+void UseDatabase(const Options&, StandIns&, platform::Desktop&) {
   throw std::runtime_error("this build has no database services; use --services stub");
 }
 #endif

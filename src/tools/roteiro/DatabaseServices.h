@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 namespace platform {
 class Desktop;
 }
@@ -9,10 +7,11 @@ class Desktop;
 namespace roteiro {
 
 class StandIns;
+struct Options;
 
-/// Puts the business services over the database at "sqlite:FILE" or "postgresql:CONNINFO" behind
-/// their classes, and the sibling screens that exist behind theirs; the sibling screens that do not
-/// exist yet keep their stand-ins. std::runtime_error says why it cannot.
-void UseDatabase(const std::string& database, StandIns& standIns, platform::Desktop& desktop);
+/// Puts the business services over the options' database, and the fiscal export over their exchange
+/// folder, behind their classes, and the suite's sibling screens behind theirs. std::runtime_error
+/// says why it cannot.
+void UseDatabase(const Options& options, StandIns& standIns, platform::Desktop& desktop);
 
 }  // namespace roteiro

@@ -85,6 +85,26 @@ void HeadlessDesktop::PopUp(platform::Menu& menu, const platform::Control&) {
   }
 }
 
+platform::ReportPages HeadlessDesktop::Composed(const platform::DataReport& report) const {
+  return platform::Compose(report, platform::PlainMeasure(), timeline_.Now());
+}
+
+void HeadlessDesktop::Preview(platform::DataReport& report) {
+  report_ = Composed(report);
+  Hold hold{.preview = &*report_};
+  Await(hold);
+}
+
+void HeadlessDesktop::Print(platform::DataReport& report) {
+  report_ = Composed(report);
+  TellPrinted(*report_);
+}
+
+void HeadlessDesktop::TellPrinted(const platform::ReportPages& report) {
+  conversation_.Tell(
+      {{"event", "printed"}, {"report", report.name}, {"pages", report.pages.size()}});
+}
+
 void HeadlessDesktop::ProcessEvents() {
   watch_.LookAround();
   const double pass = timeline_.IsVirtual() ? kPass : kRealPass;

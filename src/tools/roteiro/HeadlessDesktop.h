@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/Desktop.h"
+#include "platform/ReportPages.h"
 #include "tools/roteiro/Conversation.h"
 #include "tools/roteiro/ScreenWatch.h"
 #include "tools/roteiro/Timeline.h"
@@ -19,10 +21,11 @@ namespace roteiro {
 inline constexpr platform::WindowHandle kMainWindow = 1;
 inline constexpr platform::WindowHandle kContainer = 2;
 
-/// What keeps the operator from the screens: a message box, or a popup menu.
+/// What keeps the operator from the screens: a message box, a popup menu, or a report preview.
 struct Hold {
   const platform::MessageBox* box = nullptr;
   const platform::Menu* menu = nullptr;
+  const platform::ReportPages* preview = nullptr;
   bool over = false;
   platform::Answer answer = platform::Answer::kOk;
   platform::MenuItem* chosen = nullptr;
@@ -37,10 +40,16 @@ class HeadlessDesktop final : public platform::Desktop {
   HeadlessDesktop(const HeadlessDesktop&) = delete;
   HeadlessDesktop& operator=(const HeadlessDesktop&) = delete;
 
-  /// The box or popup that is up; null when the operator is at a screen.
+  /// The box, popup or preview that is up; null when the operator is at a screen.
   Hold* Held() const { return holds_.empty() ? nullptr : holds_.back(); }
   /// The screen that the operator works in; null for none.
   static platform::Form* InFront();
+  /// What receipts and notes are printed on from now on.
+  void PrintOn(const platform::Paper& paper) { paper_ = paper; }
+  /// The report goes to the printer, which is none: an event tells of it.
+  void TellPrinted(const platform::ReportPages& report);
+  /// The last report that was shown or printed; null for none.
+  const platform::ReportPages* LastReport() const { return report_ ? &*report_ : nullptr; }
   /// Each presence test of a file takes so long.
   void DiskDelay(double seconds) { diskDelay_ = seconds; }
   /// The host's windows go, and with them the screens in them.
@@ -55,6 +64,9 @@ class HeadlessDesktop final : public platform::Desktop {
   void Adopt(platform::WindowHandle container, std::unique_ptr<platform::Form> form) override;
 
   platform::Answer Ask(const platform::MessageBox& box) override;
+  const platform::Paper& ReceiptPaper() override { return paper_; }
+  void Preview(platform::DataReport& report) override;
+  void Print(platform::DataReport& report) override;
   void PopUp(platform::Menu& menu, const platform::Control& under) override;
   void ProcessEvents() override;
   void Freeze(double seconds) override;
@@ -77,10 +89,13 @@ class HeadlessDesktop final : public platform::Desktop {
  private:
   void Serve(const std::function<bool()>& over);
   void Await(Hold& hold);
+  platform::ReportPages Composed(const platform::DataReport& report) const;
 
   Conversation& conversation_;
   Timeline& timeline_;
   std::string folder_;
+  platform::Paper paper_ = platform::kA4Paper;
+  std::optional<platform::ReportPages> report_;
   double diskDelay_ = 0;
   ScreenWatch watch_;
   std::vector<Hold*> holds_;

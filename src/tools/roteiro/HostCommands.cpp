@@ -118,8 +118,4 @@ std::optional<Json> Calls(Stage& stage, const Arguments& arguments) {
   return stage.standIns.TakeCalls(className);
 }
 
-std::optional<Json> NoReport(Stage&, const Arguments&) {
-  throw CannotDo("there is no report");
-}
-
 }  // namespace roteiro::host

@@ -36,6 +36,16 @@ void TakeClock(Options& options, const std::string& value) {
   options.realClock = value == "real";
 }
 
+void TakePaper(Options& options, const std::string& value) {
+  if (value != "a4" && value != "roll80") throw UsageError("--paper is a4 or roll80");
+  options.paper = value == "a4" ? platform::kA4Paper : platform::kRoll80Paper;
+}
+
+void TakeExchange(Options& options, const std::string& value) {
+  if (value.empty()) throw UsageError("--exchange needs a folder");
+  options.exchange = std::filesystem::absolute(value).string();
+}
+
 void TakeLog(Options& options, const std::string& value) {
   if (value.empty()) throw UsageError("--log needs a file");
   options.log = value;
@@ -47,8 +57,9 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {"--services", TakeServices}, {"--dir", TakeFolder}, {"--now", TakeNow},
-    {"--clock", TakeClock},       {"--log", TakeLog},
+    {"--services", TakeServices}, {"--dir", TakeFolder},  {"--now", TakeNow},
+    {"--clock", TakeClock},       {"--paper", TakePaper}, {"--exchange", TakeExchange},
+    {"--log", TakeLog},
 };
 
 }  // namespace
@@ -63,6 +74,9 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
     if (found == nullptr) throw UsageError("unknown option " + arguments[i]);
     if (i + 1 == arguments.size()) throw UsageError(arguments[i] + " needs a value");
     found->take(options, arguments[i + 1]);
+  }
+  if (!options.exchange.empty() && options.database.empty()) {
+    throw UsageError("--exchange needs a database: nothing is written with stand-ins");
   }
   return options;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/DateTime.h"
+#include "platform/DataReport.h"
 
 namespace roteiro {
 
@@ -15,16 +16,22 @@ struct Options {
   std::string database;
   /// The module's folder; empty for a fresh temporary one.
   std::string folder;
+  /// Where files are exchanged with the fiscal application, an absolute path that need not exist;
+  /// empty for a folder "cfe" within the module's.
+  std::string exchange;
   /// The time of the start; without it, the real time.
   std::optional<base::DateTime> now;
   bool realClock = false;
+  /// What receipts and notes are printed on.
+  platform::Paper paper = platform::kA4Paper;
   /// A file that takes both directions of the conversation; empty for none.
   std::string log;
 };
 
 inline constexpr const char* kUsage =
     "usage: caixa-roteiro [--services stub|sqlite:FILE|postgresql:CONNINFO] [--dir FOLDER]\n"
-    "                     [--now 2026-11-22T14:30:00] [--clock virtual|real] [--log FILE]\n";
+    "                     [--now 2026-11-22T14:30:00] [--clock virtual|real]\n"
+    "                     [--paper a4|roll80] [--exchange FOLDER] [--log FILE]\n";
 
 /// A command line that makes no sense, and why.
 class UsageError : public std::runtime_error {

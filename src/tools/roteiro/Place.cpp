@@ -54,6 +54,13 @@ Json PlaceOf(const platform::Menu& menu) {
   return {{"kind", "popup"}, {"menu", menu.Name()}, {"items", items}};
 }
 
+Json PlaceOf(const platform::ReportPages& preview) {
+  return {{"kind", "preview"},
+          {"report", preview.name},
+          {"title", preview.title},
+          {"pages", preview.pages.size()}};
+}
+
 Json PlaceOf(const platform::Form& form) {
   const platform::Control* const active = form.ActiveControl();
   return {{"kind", "form"},
@@ -66,7 +73,9 @@ Json PlaceOf(const platform::Form& form) {
 }  // namespace
 
 Json PlaceOf(const Hold* held) {
-  if (held != nullptr) return held->box != nullptr ? PlaceOf(*held->box) : PlaceOf(*held->menu);
+  if (held != nullptr && held->box != nullptr) return PlaceOf(*held->box);
+  if (held != nullptr && held->menu != nullptr) return PlaceOf(*held->menu);
+  if (held != nullptr) return PlaceOf(*held->preview);
   const platform::Form* const form = HeadlessDesktop::InFront();
   return form == nullptr ? Json{{"kind", "idle"}} : PlaceOf(*form);
 }

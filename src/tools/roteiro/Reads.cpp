@@ -8,6 +8,7 @@
 #include "platform/Screens.h"
 #include "platform/ZVComboBox.h"
 #include "tools/roteiro/Commands.h"
+#include "tools/roteiro/HeadlessDesktop.h"
 #include "tools/roteiro/Lookup.h"
 
 namespace roteiro::reads {
@@ -134,6 +135,21 @@ std::optional<Json> Screens(Stage&, const Arguments&) {
   Json names = Json::array();
   for (const platform::Form* form : platform::screens::Loaded()) names.push_back(form->Name());
   return names;
+}
+
+std::optional<Json> Report(Stage& stage, const Arguments&) {
+  const platform::ReportPages* const report = stage.desktop.LastReport();
+  if (report == nullptr) throw CannotDo("there is no report");
+  Json sections = Json::array();
+  for (const platform::PrintedSection& section : report->sections) {
+    Json controls = Json::object();
+    for (const auto& [name, text] : section.controls) controls[name] = text;
+    sections.push_back({{"section", section.name}, {"controls", std::move(controls)}});
+  }
+  return Json{{"name", report->name},
+              {"title", report->title},
+              {"sections", std::move(sections)},
+              {"text", platform::AsText(*report)}};
 }
 
 }  // namespace roteiro::reads

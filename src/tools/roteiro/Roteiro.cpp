@@ -79,12 +79,13 @@ void Converse(const Options& options, const Parts& parts) {
   const ServicesScope services;
   Session session;
   HeadlessDesktop desktop(conversation, timeline, folder.Path());
+  desktop.PrintOn(options.paper);
   if (options.database.empty()) {
     RegisterBusinessStandIns(standIns);
     RegisterScreenStandIns(standIns);
     RegisterEffectStandIns(standIns);
   } else {
-    parts.useDatabase(options.database, standIns, desktop);
+    parts.useDatabase(options, standIns, desktop);
     standIns.BusinessIsReal();
   }
   const std::unique_ptr<Module> module = parts.makeModule();

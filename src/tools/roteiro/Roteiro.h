@@ -13,13 +13,14 @@ namespace roteiro {
 
 class Module;
 class StandIns;
+struct Options;
 
 /// What stands behind the conversation.
 struct Parts {
   std::function<std::unique_ptr<Module>()> makeModule;
-  /// Puts real services over a database behind the business classes, and screens or stand-ins
+  /// Puts real services over options.database behind the business classes, and screens or stand-ins
   /// behind the others; std::runtime_error says why it cannot.
-  std::function<void(const std::string& database, StandIns& standIns, platform::Desktop& desktop)>
+  std::function<void(const Options& options, StandIns& standIns, platform::Desktop& desktop)>
       useDatabase;
 };
 

@@ -98,14 +98,30 @@ class Mensagem final : public StandInFor<servicos::ZOVA_A_MsgErro::clsMensagem> 
   StandIns& all_;
 };
 
+/// Some of these classes.
+template <class... Classes>
+struct Family {
+  static void Register(StandIns& all) { RegisterAll<Classes...>(all); }
+  static void RegisterOne(StandIns& all, string_view className) {
+    ((className == Classes::kIdentificador ? RegisterAll<Classes>(all) : void()), ...);
+  }
+};
+using Screens = Family<ClientAnim, HistDeVendas, Orcamentos, Produtos, RelFin>;
+using Effects = Family<FundoEscuro, Mensagem>;
+
 }  // namespace
 
 void RegisterScreenStandIns(StandIns& all) {
-  RegisterAll<ClientAnim, HistDeVendas, Orcamentos, Produtos, RelFin>(all);
+  Screens::Register(all);
 }
 
 void RegisterEffectStandIns(StandIns& all) {
-  RegisterAll<FundoEscuro, Mensagem>(all);
+  Effects::Register(all);
+}
+
+void RegisterSiblingStandIn(StandIns& all, std::string_view className) {
+  Screens::RegisterOne(all, className);
+  Effects::RegisterOne(all, className);
 }
 
 }  // namespace roteiro

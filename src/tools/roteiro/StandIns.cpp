@@ -112,6 +112,7 @@ void StandIns::Program(const Json& command) {
   if (!times.is_null() && (!times.is_number_integer() || times < 1 || times > 1'000'000)) {
     throw CannotDo("\"times\" is not a whole number from 1 to 1000000");
   }
+  if (businessIsReal_) RegisterSiblingStandIn(*this, className);
   Answers& answers = programmed_[className][member];
   if (times.is_null()) {
     answers.standing = std::move(answer);

@@ -41,7 +41,9 @@ class StandIns {
 
   /// The fields of a command "stub"; CannotDo when they make no sense.
   void Program(const Json& command);
-  /// Real services stand behind the business classes: scripts can no longer program those.
+  /// Real services stand behind the business classes: scripts can no longer program those. Behind
+  /// the sibling screens stand the real ones until a script programs one, whose stand-in then
+  /// takes its place.
   void BusinessIsReal() { businessIsReal_ = true; }
   /// The logged accesses, of one class or of all when it is empty; they leave the log.
   Json TakeCalls(std::string_view className);
@@ -73,5 +75,7 @@ void RegisterBusinessStandIns(StandIns& all);
 void RegisterEffectStandIns(StandIns& all);
 /// Puts a stand-in behind every other sibling screen; `all` outlives them.
 void RegisterScreenStandIns(StandIns& all);
+/// Puts a stand-in behind one of these screens or effects; nothing happens for another class.
+void RegisterSiblingStandIn(StandIns& all, std::string_view className);
 
 }  // namespace roteiro

@@ -9,6 +9,7 @@
 #include "platform/Desktop.h"
 #include "platform/Input.h"
 #include "platform/Layout.h"
+#include "roteiro/ensaio/drEnsaio.h"
 
 namespace ensaio {
 namespace {
@@ -61,6 +62,8 @@ frmEnsaio::frmEnsaio() : Form("frmEnsaio") {
             {zvcmdErro, {0, 7600, 1000, 300}, "Erro"},
             {zvcmdTecla, {0, 8000, 1000, 300}, "Tecla"},
             {zvcmdDesligado, {0, 8400, 1000, 300}, "Desligado"},
+            {zvcmdVisualizar, {1000, 8000, 1000, 300}, "Visualizar"},
+            {zvcmdImprimir, {1000, 8400, 1000, 300}, "Imprimir"},
             {picOculto, {3000, 6000, 1000, 300}},
             {zvtxtOculto, {0, 0, 500, 300}},
             {picMensagem, {3000, 4000, 2000, 800}},
@@ -124,6 +127,8 @@ void frmEnsaio::LigarEventos() {
   zvcmdServico.Click = [this] { zvcmdServico_Click(); };
   zvcmdErro.Click = [] { throw base::RuntimeError(base::Fault::kTypeMismatch); };
   zvcmdTecla.Click = [] { platform::input::SendKeys("+({HOME})"); };
+  zvcmdVisualizar.Click = [this] { zvcmdVisualizar_Click(); };
+  zvcmdImprimir.Click = [] { drEnsaio().PrintReport(); };
   mnuPrimeiro.Click = [this] { Anotar("primeiro"); };
   mnuSegundo.Click = [this] { Anotar(Perguntar("Segundo?") ? "segundo" : "nada"); };
   tbMenu.ButtonClick = [this](const platform::ToolbarButton& botao) { tbMenu_ButtonClick(botao); };
@@ -194,6 +199,14 @@ void frmEnsaio::zvcmdServico_Click() {
   caixa->ValorBruto(base::ToCurrency("12,5"));
   const std::int16_t registrado = caixa->RegistrarPagamento();
   Anotar(base::ToText(registrado) + " " + base::ToText(caixa->NumeroDaVenda()));
+}
+
+void frmEnsaio::zvcmdVisualizar_Click() {
+  drEnsaio relatorio;
+  relatorio.Title = "Relatório de ensaio";
+  relatorio.lblOculto.Visible = false;
+  relatorio.Show();
+  Anotar("fechou a visualização");
 }
 
 void frmEnsaio::tbMenu_ButtonClick(const platform::ToolbarButton& botao) {

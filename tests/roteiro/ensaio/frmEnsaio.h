@@ -52,6 +52,8 @@ class frmEnsaio final : public platform::Form {
   platform::ZVCommandButton zvcmdErro{*this, "zvcmdErro"};
   platform::ZVCommandButton zvcmdTecla{*this, "zvcmdTecla"};
   platform::ZVCommandButton zvcmdDesligado{*this, "zvcmdDesligado"};
+  platform::ZVCommandButton zvcmdVisualizar{*this, "zvcmdVisualizar"};
+  platform::ZVCommandButton zvcmdImprimir{*this, "zvcmdImprimir"};
   platform::PictureBox picOculto{*this, "picOculto"};
   platform::ZVTextBox zvtxtOculto{picOculto, "zvtxtOculto"};
   platform::PictureBox picMensagem{*this, "picMensagem"};
@@ -71,6 +73,7 @@ class frmEnsaio final : public platform::Form {
   void zvcmdCongelar_Click();
   void zvcmdAguardarArquivo_Click();
   void zvcmdServico_Click();
+  void zvcmdVisualizar_Click();
   void tbMenu_ButtonClick(const platform::ToolbarButton& botao);
 };
 

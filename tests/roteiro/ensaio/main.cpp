@@ -44,6 +44,6 @@ int main(int count, char** arguments) {
   return roteiro::Run(
       std::vector<std::string>(arguments + 1, arguments + count),
       {.makeModule = [] { return std::make_unique<Ensaio>(); },
-       .useDatabase = [](const std::string&, roteiro::StandIns&,
+       .useDatabase = [](const roteiro::Options&, roteiro::StandIns&,
                          platform::Desktop&) { throw std::runtime_error("sem banco"); }});
 }
