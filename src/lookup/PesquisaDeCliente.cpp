@@ -6,6 +6,7 @@
 #include "frame/Valores.h"
 #include "frame/modMensagemDeErro.h"
 #include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
+#include "lookup/frmPesquisaDeClientes.h"
 #include "platform/Input.h"
 
 namespace lookup {
@@ -25,6 +26,22 @@ std::string NinguemEncontrado(const ProcuraDeCliente& procura) {
     return "Nenhum cliente encontrado com o nome ou razão social '" + procura.nome + "'.";
   }
   return "Nenhum cliente encontrado com o código '" + base::ToText(procura.codigo) + "' informado.";
+}
+
+/// The record of the customer whom the operator picks; null when he picks none. The list itself
+/// lets nobody through who cannot be served.
+base::RecordSetPtr EscolherDaLista(const base::RecordSetPtr& encontrados,
+                                   const std::string& aviso) {
+  frame::FundoEscuro fundo;
+  frmPesquisaDeClientes lista;
+  std::int16_t falha = 0;
+  lista.ConfigurarGrade(falha);
+  if (falha == 0) lista.PreencherGrade(encontrados, falha, aviso);
+  if (falha == 1) return nullptr;
+  lista.ShowModal();
+  base::RecordSetPtr cliente = lista.RegistroSelecionado() ? lista.Escolhido() : nullptr;
+  lista.Unload();
+  return cliente;
 }
 
 }  // namespace
@@ -49,8 +66,7 @@ base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
     return nullptr;
   }
   if (encontrados->RecordCount() > 1) {
-    AvisarVariosEncontrados("cliente");
-    return nullptr;
+    return EscolherDaLista(encontrados, clientes->DescricaoDaFalha());
   }
   encontrados->MoveFirst();
   const auto recusa = RecusaDaSituacao(base::ToInt32(encontrados->Fields("Situacao")));
@@ -164,12 +180,6 @@ bool PesquisaCurtaDemais(ZVFind& campo) {
   campo.Enabled = true;
   Informar(kTresCaracteres);
   return true;
-}
-
-void AvisarVariosEncontrados(std::string_view oQue) {
-  Informar("Mais de um " + std::string(oQue) +
-           " atende à pesquisa e a lista de escolha ainda não está disponível: informe o código ou "
-           "mais letras do nome.");
 }
 
 }  // namespace lookup

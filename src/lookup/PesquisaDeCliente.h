@@ -22,9 +22,9 @@ struct ProcuraDeCliente {
   double codigo = 0;
 };
 
-/// Asks the service for the customer. The record of the one found, its cursor on it; null when
-/// there was none, when he is inactive, blocked or excluded and thus refused, or after a fault: the
-/// operator has been told.
+/// Asks the service for the customer, and the operator for one of several. His record, its cursor
+/// on it; null when there was none, none was chosen, he is inactive, blocked or excluded and thus
+/// refused, or after a fault: the operator has been told.
 base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
                                    frame::PainelDeMensagem& painel);
 
@@ -83,8 +83,5 @@ inline constexpr std::string_view kTresCaracteres =
     "Informe 3 caracteres ou mais para iniciar a pesquisa.";
 /// Whether a find field for text holds too little to search for; the operator is told.
 bool PesquisaCurtaDemais(platform::ZVFind& campo);
-
-/// Several hits where the pick list is not there yet.
-void AvisarVariosEncontrados(std::string_view oQue);
 
 }  // namespace lookup

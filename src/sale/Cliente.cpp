@@ -115,7 +115,10 @@ void frmCaixaOperar::AceitarCliente(ZVFind& campo) {
   optServico.Enabled = false;
   optServico.Value = false;
   optProduto.Enabled = true;
+  // Left set by the sale before, the option clicks no more, but that sale's end closed the fields.
+  const bool jaEraProduto = optProduto.Value();
   optProduto.Value = true;
+  if (jaEraProduto) optProduto_Click();
   optProduto.SetFocus();
 }
 

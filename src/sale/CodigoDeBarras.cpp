@@ -1,7 +1,7 @@
 #include "base/Text.h"
 #include "frame/CamposNumericos.h"
+#include "frame/Empresa.h"
 #include "frame/Mensagens.h"
-#include "sale/Empresa.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
@@ -82,7 +82,7 @@ void frmCaixaOperar::PesquisarPorCodigoDeBalanca(const std::string& codigo) {
     RecusarCodigoDeBarras();
     return;
   }
-  const LeituraDaEmpresa leitura = LerEmpresa();
+  const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
   if (!leitura.empresa) return;
   if (leitura.empresa->RecordCount() == 0) {
     frame::Informar(

@@ -7,7 +7,7 @@
 #include "frame/PainelDeMensagem.h"
 #include "frame/Valores.h"
 #include "platform/Desktop.h"
-#include "sale/Empresa.h"
+#include "frame/Empresa.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
@@ -56,7 +56,7 @@ std::int16_t frmCaixaOperar::AtualizarIndicativosDeImpressaoDeDocumentos() {
   std::int16_t resultado = 1;
   Procedimento(
       ", frmCaixaOperar, AtualizarIndicativosDeImpressaoDeDocumentos, Ponto: ", [&](Ponto& ponto) {
-        const LeituraDaEmpresa leitura = LerEmpresa();
+        const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
         if (leitura.falhou) return;
         ponto = 2;
         if (leitura.Cadastrada()) {
@@ -94,7 +94,7 @@ std::int16_t frmCaixaOperar::AtualizarIndicativosDeImpressaoDeDocumentos() {
 void frmCaixaOperar::AtualizarPercDeDescontoLimiteDaVendaNoCaixa() {
   Procedimento(
       ", frmCaixaPagar, AtualizarPercDeDescontoLimiteDaVendaNoCaixa, Ponto: ", [&](Ponto& ponto) {
-        const LeituraDaEmpresa leitura = LerEmpresa();
+        const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
         if (!leitura.Cadastrada()) return;
         ponto = 2;
         const base::Value& limite = leitura.empresa->Fields("PercDeDescontoLimiteDaVendaNoCaixa");
@@ -105,7 +105,7 @@ void frmCaixaOperar::AtualizarPercDeDescontoLimiteDaVendaNoCaixa() {
 std::int16_t frmCaixaOperar::VerificaDescontoPromocionalDeVenda() {
   std::int16_t resultado = 0;
   Procedimento(", frmCaixaOperar, VerificaDescontoPromocionalDeVenda, Ponto: ", [&](Ponto& ponto) {
-    const LeituraDaEmpresa leitura = LerEmpresa();
+    const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
     resultado = leitura.falhou ? 1 : 0;
     if (!leitura.empresa) return;
     ponto = 2;
@@ -140,7 +140,7 @@ std::int16_t frmCaixaOperar::VerificaDescontoPromocionalDeVenda() {
 std::int16_t frmCaixaOperar::VerificaDescMaximoAutomaticoDeVenda() {
   std::int16_t resultado = 1;
   Procedimento(", frmCaixaOperar, VerificaDescMaximoAutomaticoDeVenda, Ponto: ", [&](Ponto& ponto) {
-    const LeituraDaEmpresa leitura = LerEmpresa();
+    const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
     resultado = leitura.falhou ? 1 : 0;
     if (!leitura.empresa) return;
     ponto = 2;

@@ -4,6 +4,8 @@
 #include "frame/modFuncoes.h"
 #include "frame/servicos/ZOVA_A_ClientHist.clsHistDeVendas.h"
 #include "frame/servicos/ZOVA_A_Orcamentos.clsOrcamentos.h"
+#include "lookup/frmPesquisaDeProdutos.h"
+#include "lookup/frmPesquisaDeServicos.h"
 #include "platform/Desktop.h"
 #include "register/Movimentos.h"
 #include "register/frmCaixaMovimento.h"
@@ -172,21 +174,40 @@ void frmCaixaOperar::mnuHistoricoDeCreditoParaOCliente_Click() {
 }
 
 void frmCaixaOperar::mnuConsultarPrecosProdutos_Click() {
-  Procedimento(", frmCaixaOperar, mnuConsultarPrecosProdutos_Click, Ponto: ",
-               [&](Ponto&) { ConsultarPrecos("Consulta de preços de produtos"); });
+  Procedimento(", frmCaixaOperar, mnuConsultarPrecosProdutos_Click, Ponto: ", [&](Ponto&) {
+    lookup::frmPesquisaDeProdutos lista;
+    lista.FormularioDeConsultaDePreco(true);
+    ConsultarPrecos(lista);
+  });
 }
 void frmCaixaOperar::mnuConsultarPrecosServicos_Click() {
-  Procedimento(", frmCaixaOperar, mnuConsultarPrecosServicos_Click, Ponto: ",
-               [&](Ponto&) { ConsultarPrecos("Consulta de preços de serviços"); });
+  Procedimento(", frmCaixaOperar, mnuConsultarPrecosServicos_Click, Ponto: ", [&](Ponto&) {
+    lookup::frmPesquisaDeServicos lista;
+    lista.FormularioDeConsultaDePreco(true);
+    lista.EfetuarOPreenchimentoDaComboboxTiposDeServicos(true);
+    ConsultarPrecos(lista);
+  });
 }
 
-void frmCaixaOperar::ConsultarPrecos(std::string_view tela) {
+// Only looked at: whatever is chosen from the list, the sale stays as it is.
+void frmCaixaOperar::ConsultarPrecos(lookup::frmPesquisa& lista) {
   if (zvcmbCaixas.ListIndex() == -1) {
     frame::Informar("Selecione o caixa.");
     zvcmbCaixas.SetFocus();
     return;
   }
-  TelaIndisponivel(tela);
+  frame::FundoEscuro fundo;
+  std::int16_t falha = 0;
+  lista.ConfigurarGrade(falha);
+  lista.Refresh();
+  if (falha == 0) lista.ShowModal();
+  lista.Unload();
+  fundo.Remover();
+  if (zvfApelidoOuNomeFantasiaDoCliente.Enabled()) {
+    zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+  } else {
+    optServico.SetFocus();
+  }
 }
 
 void frmCaixaOperar::mnuAlterar_Click() {

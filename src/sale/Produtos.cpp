@@ -5,6 +5,8 @@
 #include "frame/modMensagemDeErro.h"
 #include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
 #include "frame/servicos/ZOVA_N_Servicos.clsServicos.h"
+#include "lookup/frmPesquisaDeProdutos.h"
+#include "lookup/frmPesquisaDeServicos.h"
 #include "platform/Input.h"
 #include "sale/frmCaixaOperar.h"
 
@@ -35,6 +37,17 @@ std::string NenhumProduto(const std::string& nome, const std::string& codigoDeBa
 void NadaEncontrado(const std::string& mensagem) {
   frame::Informar(mensagem);
   platform::input::SendKeys("+({HOME})");
+}
+
+/// Shows a pick list with what was found; whether the operator chose a row.
+bool EscolherDaLista(lookup::frmPesquisa& lista, const base::RecordSetPtr& encontrados) {
+  const frame::FundoEscuro fundo;
+  std::int16_t falha = 0;
+  lista.ConfigurarGrade(falha);
+  if (falha == 0) lista.PreencherGrade(encontrados, falha);
+  if (falha == 1) return false;
+  lista.ShowModal();
+  return lista.RegistroSelecionado();
 }
 
 }  // namespace
@@ -70,12 +83,14 @@ bool frmCaixaOperar::PesquisarProduto(const std::string& nome, const std::string
     const base::RecordSetPtr linhas = SelecionarProduto(nome, codigoDeBarras, codigoInterno);
     if (!linhas) return;
     ponto = 2;
-    if (linhas->RecordCount() > 1) {
-      lookup::AvisarVariosEncontrados("produto");
+    if (linhas->RecordCount() == 1) {
+      encontrado = ReceberProduto(*linhas);
       return;
     }
     ponto = 3;
-    encontrado = ReceberProduto(*linhas);
+    lookup::frmPesquisaDeProdutos lista;
+    if (EscolherDaLista(lista, linhas)) encontrado = ReceberProduto(*lista.Produto());
+    lista.Unload();
   });
   return encontrado;
 }
@@ -124,12 +139,16 @@ bool frmCaixaOperar::PesquisarServico(std::int16_t tipo, const std::string& nome
       return;
     }
     ponto = 4;
-    if (linhas->RecordCount() > 1) {
-      lookup::AvisarVariosEncontrados("serviço");
+    if (linhas->RecordCount() == 1) {
+      linhas->MoveFirst();
+      encontrado = ReceberServico(*linhas);
       return;
     }
-    linhas->MoveFirst();
-    encontrado = ReceberServico(*linhas);
+    ponto = 5;
+    lookup::frmPesquisaDeServicos lista;
+    lista.CopiarTiposDeServicos(zvcmbTiposDeServicos);
+    if (EscolherDaLista(lista, linhas)) encontrado = ReceberServico(*lista.Escolhido());
+    lista.Unload();
   });
   return encontrado;
 }

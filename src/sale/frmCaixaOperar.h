@@ -33,6 +33,10 @@ namespace registers {
 struct Movimento;
 }
 
+namespace lookup {
+class frmPesquisa;
+}
+
 namespace sale {
 
 /// The sale counter: the operator's one long-lived screen, inside a window of the host. It knows
@@ -217,7 +221,7 @@ class frmCaixaOperar final : public platform::Form {
   void mnuConsultarPrecosProdutos_Click();
   void mnuConsultarPrecosServicos_Click();
   void mnuAlterar_Click();
-  void ConsultarPrecos(std::string_view tela);
+  void ConsultarPrecos(lookup::frmPesquisa& lista);
 
   // Clearing and enabling (Limpeza.cpp).
   void HabilitarDesabilitarCampos(bool habilitar);

@@ -1,0 +1,213 @@
+#include "lookup/frmPesquisa.h"
+
+#include <memory>
+#include <utility>
+
+#include "frame/CamposNumericos.h"
+#include "frame/Mensagens.h"
+#include "frame/Procedimento.h"
+#include "frame/modArredondarCantosDoObjeto.h"
+#include "frame/modMensagemDeErro.h"
+#include "platform/Input.h"
+
+namespace lookup {
+
+using frame::Ponto;
+using frame::Procedimento;
+using platform::Look;
+
+frmPesquisa::frmPesquisa(const Pesquisa& pesquisa)
+    : Form(pesquisa.formulario),
+      lblCampo(*this, pesquisa.rotulo),
+      zvfndCampo(*this, pesquisa.campo),
+      pesquisa_(pesquisa),
+      lista_(msfgGrade, pesquisa.colunas) {
+  cancelButton = &zvcmdFechar;
+  picMensagem.Visible.Assign(false);
+  Load = [this] { Form_Load(); };
+  Activate = [this] { Form_Activate(); };
+  lista_.aoEscolher = [this] { msfgGrade_Click(); };
+  zvfndCampo.Click = [this] { zvfndCampo_Click(); };
+  zvcmdFechar.Click = [this] { zvcmdFechar_Click(); };
+}
+
+platform::Layout frmPesquisa::Desenho(std::vector<platform::Place> acima,
+                                      std::int32_t inicioDoCampo) {
+  constexpr std::int32_t kLargura = 13200, kAltura = 8550;
+  constexpr unsigned kAoLado = platform::kHoldWidth;
+  const std::int32_t larguraDoCampo = kLargura - inicioDoCampo - 240;
+  platform::Layout desenho{.size = {kLargura, kAltura}, .places = {}};
+  std::vector<platform::Place>& lugares = desenho.places;
+  lugares.push_back({zvTheme, {0, 0, kLargura, 660}, pesquisa_.titulo, Look::kTitle, kAoLado});
+  for (const platform::Place& lugar : acima) lugares.push_back(lugar);
+  lugares.push_back({lblCampo,
+                     {inicioDoCampo, 855, larguraDoCampo, 210},
+                     pesquisa_.legenda,
+                     Look::kNormal,
+                     kAoLado});
+  lugares.push_back(
+      {zvfndCampo, {inicioDoCampo, 1125, larguraDoCampo, 450}, "", Look::kNormal, kAoLado});
+  lugares.push_back(
+      {msfgGrade, {240, 1755, kLargura - 480, 5760}, "", Look::kNormal, platform::kHoldAll});
+  lugares.push_back({picRodape,
+                     {0, 7695, kLargura, 855},
+                     "",
+                     Look::kFooter,
+                     platform::kHoldLeft | platform::kHoldRight | platform::kHoldBottom});
+  lugares.push_back({zvcmdFechar,
+                     {kLargura - 1350, 195, 1110, 480},
+                     "Fechar",
+                     Look::kNormal,
+                     platform::kHoldTopRight,
+                     "Cancelar a pesquisa e fechar"});
+  lugares.push_back({lblAvisoDaLista, {240, 300, kLargura - 1830, 255}, "", Look::kHint, kAoLado});
+  lugares.push_back({lshpObj, {0, 0, kLargura, kAltura}, "", Look::kNormal, platform::kHoldAll});
+  lugares.push_back({picMensagem, {3900, 3300, 5400, 1200}, "", Look::kWait});
+  lugares.push_back({lblMensagem, {150, 420, 5100, 360}, "Aguarde, pesquisando", Look::kWait});
+  return desenho;
+}
+
+std::string frmPesquisa::Etiqueta(std::string_view rotina) const {
+  return ", " + std::string(pesquisa_.formulario) + ", " + std::string(rotina) + ", Ponto: ";
+}
+
+void frmPesquisa::ConfigurarGrade(std::int16_t& falha) {
+  falha = 1;
+  Procedimento(", " + std::string(pesquisa_.formularioDaGrade) + ", ConfigurarGrade, Ponto: ",
+               [&](Ponto&) {
+                 lista_.Esvaziar();
+                 lblAvisoDaLista.Caption = "";
+                 falha = 0;
+               });
+}
+
+void frmPesquisa::PreencherGrade(const base::RecordSetPtr& registros, std::int16_t& falha,
+                                 std::string_view aviso) {
+  falha = 1;
+  Procedimento(", " + std::string(pesquisa_.formularioDaGrade) + ", PreencherGrade, Ponto: ",
+               [&](Ponto& ponto) {
+                 if (!registros) {
+                   lista_.Esvaziar();
+                 } else {
+                   lista_.Preencher(*registros);
+                 }
+                 ponto = 2;
+                 lblAvisoDaLista.Caption = aviso.empty() ? base::ToText(lista_.Quantos()) + " " +
+                                                               std::string(pesquisa_.registros)
+                                                         : std::string(aviso);
+                 falha = 0;
+               });
+}
+
+base::RecordSetPtr frmPesquisa::Escolhido(std::span<const CampoDaLinha> campos) const {
+  std::vector<std::string> nomes;
+  std::vector<base::Value> linha;
+  for (const CampoDaLinha& cada : campos) {
+    nomes.emplace_back(cada.campo);
+    const std::string& texto = msfgGrade.TextMatrix(msfgGrade.RowSel(), cada.coluna);
+    linha.push_back(texto.empty() ? base::Value() : base::Value(texto));
+  }
+  const auto registro = std::make_shared<base::RecordSet>(std::move(nomes));
+  registro->Append(std::move(linha));
+  registro->MoveFirst();
+  return registro;
+}
+
+base::RecordSetPtr frmPesquisa::Escolhido() const {
+  std::vector<CampoDaLinha> campos;
+  for (std::size_t i = 0; i < pesquisa_.colunas.size(); ++i) {
+    const std::string_view campo = pesquisa_.colunas[i].campo;
+    if (!campo.empty()) campos.push_back({campo, static_cast<std::int32_t>(i)});
+  }
+  return Escolhido(campos);
+}
+
+frmPesquisa::Encontrados frmPesquisa::Resultado(servicos::ServicoDeNegocio& servico, bool falhou,
+                                                frame::Espera& espera) {
+  if (falhou) {
+    espera.Ocultar();
+    frame::ExibirErroDoServico(servico);
+    return {};
+  }
+  Encontrados encontrados{servico.ResultadoDaSelecaoEmRecordSet(), {}};
+  if (encontrados.registros->RecordCount() > 1) encontrados.aviso = servico.DescricaoDaFalha();
+  return encontrados;
+}
+
+void frmPesquisa::Form_Load() {
+  Procedimento(Etiqueta("Form_Load"), [&](Ponto& ponto) {
+    frame::EmoldurarFormulario(*this, lshpObj);
+    ponto = 2;
+    Carregar();
+  });
+}
+
+void frmPesquisa::Form_Activate() {
+  registroSelecionado_ = false;
+  // What the opener has found already is chosen with the arrows and Enter.
+  if (lista_.Quantos() > 0) {
+    msfgGrade.SetFocus();
+  } else {
+    PrimeiroCampo().SetFocus();
+  }
+}
+
+void frmPesquisa::msfgGrade_Click() {
+  Procedimento(Etiqueta("msfgGrade_Click"), [&](Ponto&) {
+    if (ValidarCampos() == 1) return;
+    registroSelecionado_ = true;
+    Hide();
+  });
+}
+
+void frmPesquisa::zvcmdFechar_Click() {
+  registroSelecionado_ = false;
+  Hide();
+}
+
+void frmPesquisa::zvfndCampo_Click() {
+  Procedimento(", " + std::string(pesquisa_.formularioDoCampo) + ", " +
+                   std::string(pesquisa_.campo) + "_Click, Ponto: ",
+               [&](Ponto& ponto) {
+                 if (std::exchange(suprimirProximoClick_, false)) return;
+                 if (!PodePesquisar()) return;
+                 ponto = 2;
+                 if (!Pesquisar()) {
+                   frame::SelecionarTudo(zvfndCampo);
+                 } else if (lista_.Quantos() >= 2) {
+                   zvfndCampo.SetFocus();
+                 }
+               });
+}
+
+bool frmPesquisa::Pesquisar() {
+  bool encontrou = false;
+  Procedimento(Etiqueta(pesquisa_.rotina), [&](Ponto& ponto) {
+    frame::Espera espera(painel_);
+    suprimirProximoClick_ = true;
+    // It stands while the dialog writes; the operator's next search is his own.
+    const auto baixar = [](bool* suprimir) { *suprimir = false; };
+    const std::unique_ptr<bool, decltype(baixar)> escrita(&suprimirProximoClick_, baixar);
+    const std::string texto = zvfndCampo.Text();
+    ponto = 2;
+    const Encontrados encontrados = Selecionar(texto, espera);
+    if (!encontrados.registros) return;
+    ponto = 3;
+    if (encontrados.registros->RecordCount() == 0) {
+      espera.Ocultar();
+      frame::Informar(NadaEncontrado(texto));
+      platform::input::SendKeys("+({HOME})");
+      return;
+    }
+    ponto = 4;
+    std::int16_t falha = 0;
+    PreencherGrade(encontrados.registros, falha, encontrados.aviso);
+    espera.Ocultar();
+    if (falha == 1) return;
+    encontrou = true;
+    if (lista_.Quantos() == 1) msfgGrade_Click();
+  });
+  return encontrou;
+}
+
+}  // namespace lookup
