@@ -54,6 +54,13 @@ TEST_P(Bancos, PlayedOnPostgres) {
   Play(ROTEIRO_OF_CAIXA, GetParam(), server.NewDatabase());
 }
 INSTANTIATE_TEST_SUITE_P(, Bancos, testing::ValuesIn(FilesIn("bancos")), NameOf);
+
+/// Whole sales in the demonstration clinic, down to what they leave in the database.
+class Vendas : public testing::TestWithParam<std::string> {};
+TEST_P(Vendas, Played) {
+  Play(ROTEIRO_OF_CAIXA, GetParam(), "sqlite:${DIR}/clinica.db");
+}
+INSTANTIATE_TEST_SUITE_P(, Vendas, testing::ValuesIn(FilesIn("vendas")), NameOf);
 #endif
 
 }  // namespace

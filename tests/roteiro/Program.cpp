@@ -68,6 +68,10 @@ Program::~Program() {
   close(errors_);
 }
 
+void Program::Terminate() {
+  if (process_ > 0) kill(process_, SIGTERM);
+}
+
 void Program::Send(const std::string& line) {
   const std::string whole = line + "\n";
   std::size_t sent = 0;
@@ -110,6 +114,17 @@ std::optional<int> Program::Finish() {
   }
   if (!WIFEXITED(status)) return std::nullopt;
   return WEXITSTATUS(status);
+}
+
+bool Program::Stop() {
+  siginfo_t state{};
+  const bool runs =
+      process_ > 0 &&
+      waitid(P_PID, static_cast<id_t>(process_), &state, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+      state.si_pid == 0;
+  if (runs) kill(process_, SIGTERM);
+  Finish();
+  return runs;
 }
 
 }  // namespace roteiro_tests

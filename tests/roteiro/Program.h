@@ -17,12 +17,16 @@ class Program {
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
+  /// Asks it to end, as the system does.
+  void Terminate();
   void Send(const std::string& line);
   /// The next line; nothing when the program ended or took too long.
   std::optional<std::string> Read();
   /// Ends the program's input and waits for its exit status; nothing when it was killed, by a
   /// signal or because it took too long.
   std::optional<int> Finish();
+  /// Asks it to end, as for a program that works until it is told to; whether it still ran.
+  bool Stop();
   /// What it wrote to its standard error, after Finish.
   const std::string& Complaint() const { return complaint_; }
 

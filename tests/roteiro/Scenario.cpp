@@ -59,10 +59,18 @@ class Player {
  public:
   Player(std::string program, std::string bank)
       : programPath_(std::move(program)), bank_(std::move(bank)) {}
+  ~Player() {
+    for (const auto& [name, program] : beside_) program->Stop();
+  }
+  Player(const Player&) = delete;
+  Player& operator=(const Player&) = delete;
 
   void Play(const std::string& file) {
     Read(file);
     if (!ended_) End();
+    for (const auto& [name, program] : beside_) {
+      EXPECT_TRUE(program->Stop()) << name << " had ended by itself; " << program->Complaint();
+    }
   }
 
  private:
@@ -96,6 +104,14 @@ class Player {
       RunBeside(parsed);
       return;
     }
+    if (parsed.contains("start")) {
+      StartBeside(parsed);
+      return;
+    }
+    if (parsed.contains("beside")) {
+      WaitBeside(parsed["beside"]);
+      return;
+    }
     Require(!ended_, "the conversation has ended");
     if (parsed.contains("end")) {
       End();
@@ -113,14 +129,14 @@ class Player {
       Require(command.contains("do"), "neither a command nor an expectation: " + line);
       Send(command.dump());
     }
-    for (const char* key : {"expect", "event", "no-event", "box", "focus", "state"}) {
+    for (const char* key : {"expect", "says", "event", "no-event", "box", "focus", "state"}) {
       if (expected.contains(key)) Expect(key, expected[key], expected);
     }
   }
 
   static bool IsExpectation(const std::string& key) {
-    static const std::set<std::string> kKeys{"expect", "event",  "no-event", "state",
-                                             "box",    "answer", "focus"};
+    static const std::set<std::string> kKeys{"expect", "says", "event",  "no-event",
+                                             "state",  "box",  "answer", "focus"};
     return kKeys.contains(key);
   }
 
@@ -141,19 +157,40 @@ class Player {
 
   /// Runs another of our programs to its end.
   void RunBeside(const Json& step) {
-    auto words = step["run"].get<std::vector<std::string>>();
-    Require(!words.empty(), "\"run\" names no program");
-    const auto path = std::filesystem::path(programPath_).parent_path() / words.front();
-    words.erase(words.begin());
-    Program beside(path, words);
+    const std::unique_ptr<Program> beside = Launched(step["run"]);
     std::string printed;
-    while (const std::optional<std::string> line = beside.Read()) printed += *line + "\n";
-    EXPECT_EQ(beside.Finish(), 0) << here_ << printed << beside.Complaint();
+    while (const std::optional<std::string> line = beside->Read()) printed += *line + "\n";
+    EXPECT_EQ(beside->Finish(), 0) << here_ << printed << beside->Complaint();
     for (const Json& part : step.value("prints", Json::array())) {
       EXPECT_NE(printed.find(part.get<std::string>()), std::string::npos)
           << here_ << "expected " << part << " in\n"
           << printed;
     }
+  }
+
+  /// Starts another of our programs, which works beside the conversation until the scenario ends.
+  void StartBeside(const Json& step) {
+    const std::string name = step["start"][0];
+    beside_.emplace_back(name, Launched(step["start"]));
+    if (step.contains("prints")) WaitBeside(step["prints"]);
+  }
+
+  /// Lets the program that was started last get as far as printing this.
+  void WaitBeside(const std::string& text) {
+    Require(!beside_.empty(), "no program was started");
+    auto& [name, program] = beside_.back();
+    std::optional<std::string> line = program->Read();
+    while (line && line->find(text) == std::string::npos) line = program->Read();
+    Require(line.has_value(), name + " never printed: " + text);
+  }
+
+  /// A program of the same folder as the one that is talked to.
+  std::unique_ptr<Program> Launched(const Json& words) const {
+    auto arguments = words.get<std::vector<std::string>>();
+    Require(!arguments.empty(), "no program is named");
+    const auto path = std::filesystem::path(programPath_).parent_path() / arguments.front();
+    arguments.erase(arguments.begin());
+    return std::make_unique<Program>(path, arguments);
   }
 
   /// Sends a command when nothing is left to say of the answer before it.
@@ -184,6 +221,10 @@ class Player {
           << here_ << "expected " << expected << "\nbut got " << answer_;
       if (expected.contains("ok")) refusalExpected_ = true;
       for (const Json& each : expected.value("events", Json::array())) Forgive(each);
+    } else if (key == "says") {
+      const std::string text = answer_["at"].value("text", "");
+      EXPECT_NE(text.find(expected.get<std::string>()), std::string::npos)
+          << here_ << expected << "\nbut got " << answer_;
     } else if (key == "event") {
       EXPECT_TRUE(AnyContains(events, expected)) << here_ << "no such event in " << events;
       Forgive(expected);
@@ -250,6 +291,7 @@ class Player {
   std::string bank_;
   support::TemporaryFolder folder_;  ///< "${DIR}" in the lines.
   std::unique_ptr<Program> program_;
+  std::vector<std::pair<std::string, std::unique_ptr<Program>>> beside_;
   bool ended_ = false;
   std::string here_;  ///< File and line, for what is told of them.
   Json answer_;

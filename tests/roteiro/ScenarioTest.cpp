@@ -33,6 +33,7 @@ TEST(Scenario, FailsWhereAnAnswerIsNotTheExpectedOne) {
                "\"Left\"}\n{\"expect\": {\"value\": 0.0}}"),
       ":3: expected");
   EXPECT_NONFATAL_FAILURE(PlayText("{\"box\": \"Olá\"}"), ":1: ");
+  EXPECT_NONFATAL_FAILURE(PlayText("{\"says\": \"Olá\"}"), ":1: ");
   EXPECT_NONFATAL_FAILURE(PlayText("{\"do\": \"open\", \"focus\": \"zvdtpData\"}"), "zvtxtNome");
   for (const char* state : {"zvtxtNome", "optTipo(1).Value", "msfgGrade[1,0]",
                             "host.CodigoDoClienteComOperacoesBloqueadas"}) {
@@ -48,6 +49,8 @@ TEST(Scenario, FailsOnARefusalAndOnAnErrorThatNobodyExpected) {
 }
 
 TEST(Scenario, FailsWhenTheProgramIsNotThere) {
+  EXPECT_NONFATAL_FAILURE(PlayText(R"({"start": ["roteiro-de-ensaio", "--nada"], "prints": "x"})"),
+                          "never printed: x");
   EXPECT_NONFATAL_FAILURE(Play("/nao/existe", ROTEIRO_FOLDER "/protocolo/atos.jsonl"), "no answer");
 }
 

@@ -17,7 +17,7 @@ namespace banco {
 namespace {
 
 constexpr const char* kAjuda =
-    "Uso: caixa-banco BANCO COMANDO [ARGUMENTO] [--agora AAAA-MM-DDTHH:MM:SS]\n"
+    "Uso: caixa-banco BANCO COMANDO [ARGUMENTO...] [--agora AAAA-MM-DDTHH:MM:SS]\n"
     "\n"
     "BANCO é sqlite:ARQUIVO ou postgresql:CONEXÃO, como em\n"
     "  sqlite:/var/lib/clinica/caixa.db\n"
@@ -26,7 +26,12 @@ constexpr const char* kAjuda =
     "Comandos:\n"
     "  criar           cria as tabelas, ou atualiza as de uma versão anterior\n"
     "  demonstracao    preenche um banco vazio com uma clínica inventada e mostra as senhas\n"
+    "  empresa [AJUSTE=VALOR...]\n"
+    "                  altera ajustes da empresa, como DataFinalDaPromocao=30/11/2026, e mostra\n"
+    "                  todos\n"
     "  vendas [N]      mostra as últimas N vendas, com itens, pagamentos e troco (padrão: 10)\n"
+    "  venda NÚMERO    mostra tudo o que uma venda deixou no banco\n"
+    "  cliente CÓDIGO  mostra o crédito, as contas e as pré-vendas em aberto de um cliente\n"
     "  travas          mostra os clientes em atendimento e em que computador\n"
     "  liberar CÓDIGO  libera o cliente que um computador desligado deixou em atendimento\n"
     "  conferir        confere se as contas de todas as vendas fecham\n"
@@ -64,7 +69,7 @@ class Relogio : public base::Clock {
 
 struct Pedido {
   std::string banco, comando;
-  std::optional<std::string> argumento;
+  std::vector<std::string> argumentos;
   std::optional<base::DateTime> agora;
 };
 
@@ -100,10 +105,9 @@ Pedido Ler(const std::vector<std::string>& argumentos) {
     }
   }
   if (soltos.size() < 2) throw MauUso{"Informe o banco de dados e o comando."};
-  if (soltos.size() > 3) throw MauUso{"Há argumentos a mais."};
   pedido.banco = soltos[0];
   pedido.comando = soltos[1];
-  if (soltos.size() == 3) pedido.argumento = soltos[2];
+  pedido.argumentos.assign(soltos.begin() + 2, soltos.end());
   return pedido;
 }
 
@@ -125,8 +129,46 @@ int Demonstrar(const Pedido& pedido, const base::Clock& relogio) {
 
 int MostrarVendas(const Pedido& pedido, const base::Clock& relogio) {
   constexpr std::int32_t kPadrao = 10;
-  const std::int32_t quantas = pedido.argumento ? LerNumero(*pedido.argumento) : kPadrao;
+  const std::int32_t quantas =
+      pedido.argumentos.empty() ? kPadrao : LerNumero(pedido.argumentos[0]);
   Mostrar(std::cout, services::UltimasVendas(*Abrir(pedido, relogio), quantas));
+  return 0;
+}
+
+int MostrarVenda(const Pedido& pedido, const base::Clock& relogio) {
+  const std::int32_t numero = LerNumero(pedido.argumentos[0]);
+  const auto ficha = services::LerFichaDaVenda(*Abrir(pedido, relogio), numero);
+  if (!ficha) {
+    std::cerr << "Não há venda de número " << numero << ".\n";
+    return 1;
+  }
+  Mostrar(std::cout, *ficha);
+  return 0;
+}
+
+int MostrarCliente(const Pedido& pedido, const base::Clock& relogio) {
+  const std::int32_t codigo = LerNumero(pedido.argumentos[0]);
+  const auto ficha = services::LerFichaDoCliente(*Abrir(pedido, relogio), codigo);
+  if (!ficha) {
+    std::cerr << "Não há cliente cadastrado com o código " << codigo << ".\n";
+    return 1;
+  }
+  Mostrar(std::cout, codigo, *ficha);
+  return 0;
+}
+
+int AjustarEmpresa(const Pedido& pedido, const base::Clock& relogio) {
+  std::vector<services::Ajuste> ajustes;
+  for (const std::string& argumento : pedido.argumentos) {
+    const std::size_t igual = argumento.find('=');
+    if (igual == std::string::npos) {
+      throw MauUso{"'" + argumento + "' não é um ajuste como ImprimirNotaPromissoria=Sim."};
+    }
+    ajustes.emplace_back(argumento.substr(0, igual), argumento.substr(igual + 1));
+  }
+  const auto banco = Abrir(pedido, relogio);
+  services::AlterarEmpresa(*banco, ajustes);
+  Mostrar(std::cout, services::LerAjustesDaEmpresa(*banco));
   return 0;
 }
 
@@ -136,8 +178,7 @@ int MostrarTravas(const Pedido& pedido, const base::Clock& relogio) {
 }
 
 int Liberar(const Pedido& pedido, const base::Clock& relogio) {
-  if (!pedido.argumento) throw MauUso{"Informe o código do cliente a liberar."};
-  const std::int32_t codigo = LerNumero(*pedido.argumento);
+  const std::int32_t codigo = LerNumero(pedido.argumentos[0]);
   if (!services::LiberarTrava(*Abrir(pedido, relogio), codigo)) {
     std::cerr << "O cliente " << codigo << " não está em atendimento.\n";
     return 1;
@@ -156,20 +197,31 @@ int ConferirContas(const Pedido& pedido, const base::Clock& relogio) {
 
 struct Comando {
   std::string_view nome;
-  bool aceitaArgumento;
+  std::size_t minimo, maximo;  ///< Arguments.
   int (*executar)(const Pedido&, const base::Clock&);
 };
 
+constexpr std::size_t kQualquer = 100;
+
 constexpr Comando kComandos[] = {
-    {"criar", false, Criar},         {"demonstracao", false, Demonstrar},
-    {"vendas", true, MostrarVendas}, {"travas", false, MostrarTravas},
-    {"liberar", true, Liberar},      {"conferir", false, ConferirContas},
+    {"criar", 0, 0, Criar},
+    {"demonstracao", 0, 0, Demonstrar},
+    {"empresa", 0, kQualquer, AjustarEmpresa},
+    {"vendas", 0, 1, MostrarVendas},
+    {"venda", 1, 1, MostrarVenda},
+    {"cliente", 1, 1, MostrarCliente},
+    {"travas", 0, 0, MostrarTravas},
+    {"liberar", 1, 1, Liberar},
+    {"conferir", 0, 0, ConferirContas},
 };
 
 int Cumprir(const Pedido& pedido) {
   for (const Comando& comando : kComandos) {
     if (comando.nome != pedido.comando) continue;
-    if (pedido.argumento && !comando.aceitaArgumento) throw MauUso{"Há argumentos a mais."};
+    if (pedido.argumentos.size() < comando.minimo) {
+      throw MauUso{"Falta o número ou código depois de " + pedido.comando + "."};
+    }
+    if (pedido.argumentos.size() > comando.maximo) throw MauUso{"Há argumentos a mais."};
     return comando.executar(pedido, Relogio(pedido.agora));
   }
   throw MauUso{"O comando '" + pedido.comando + "' não existe."};

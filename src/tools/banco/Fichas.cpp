@@ -1,0 +1,106 @@
+#include <ostream>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "tools/banco/Relatorios.h"
+
+namespace banco {
+namespace {
+
+using base::FormatMoney;
+
+std::string Dia(base::DateTime quando) {
+  return base::Format(quando, base::DateMask::kDayMonthYear);
+}
+
+const char* NomeDoLancamento(services::TipoDeLancamento tipo) {
+  return tipo == services::TipoDeLancamento::kTroco ? "Troco" : "Recebimento";
+}
+
+void MostrarItens(std::ostream& saida, const services::VendaRegistrada& venda) {
+  std::size_t numero = 0;
+  for (const auto& item : venda.itens) {
+    saida << "Item " << ++numero << ": " << base::ToText(item.quantidade) << " x " << item.nome;
+    if (!item.animal.empty()) saida << " (" << item.animal << ")";
+    saida << " a " << FormatMoney(item.valorUnitario) << ", desconto de "
+          << FormatMoney(item.desconto) << ", total " << FormatMoney(item.valorTotal)
+          << (item.preVenda ? ", de pré-venda" : "") << '\n';
+  }
+}
+
+void MostrarSomas(std::ostream& saida, const services::FichaDaVenda& ficha) {
+  const struct {
+    const char* nome;
+    base::Currency valor;
+  } somas[] = {{"Valor bruto", ficha.venda.bruto},
+               {"Descontos", ficha.totalDeDescontos},
+               {"Valor líquido", ficha.venda.liquido},
+               {"Recebido", ficha.totalRecebido},
+               {"Troco", ficha.venda.troco},
+               {"Crédito que restava", ficha.creditoAnterior},
+               {"Crédito usado", ficha.creditoUsado},
+               {"Crédito deixado", ficha.venda.creditoParaOCliente},
+               {"Custo", ficha.custo},
+               {"Comissão", ficha.comissao},
+               {"Lucro", ficha.lucro}};
+  for (const auto& soma : somas) saida << soma.nome << ": " << FormatMoney(soma.valor) << '\n';
+}
+
+void MostrarMovimentos(std::ostream& saida, const services::FichaDaVenda& ficha) {
+  for (const auto& lancamento : ficha.lancamentos) {
+    saida << NomeDoLancamento(lancamento.tipo) << " em " << services::NomeDaMoeda(lancamento.moeda)
+          << ": " << FormatMoney(lancamento.valor) << '\n';
+  }
+  for (const auto& conta : ficha.contas) {
+    saida << "A receber: parcela " << conta.parcela << " de " << conta.parcelas << ", vence em "
+          << Dia(conta.vencimento) << ", " << FormatMoney(conta.valor)
+          << (conta.emAberto ? ", em aberto" : ", recebida") << '\n';
+  }
+  for (const auto& credito : ficha.creditos) {
+    saida << credito.observacao << ": " << FormatMoney(credito.valor) << '\n';
+  }
+  for (const auto& preVenda : ficha.preVendas) {
+    saida << "Pré-venda baixada: " << preVenda.numero << " - " << preVenda.nome << '\n';
+  }
+}
+
+}  // namespace
+
+void Mostrar(std::ostream& saida, const services::FichaDaVenda& ficha) {
+  const services::VendaRegistrada& venda = ficha.venda;
+  saida << "Venda: " << venda.numero << '\n'
+        << "Quando: " << base::ToText(venda.quando) << '\n'
+        << "Caixa: " << venda.caixa << '\n'
+        << "Operador: " << venda.operador << '\n'
+        << "Cliente: " << venda.codigoDoCliente << " - " << venda.nomeDoCliente << '\n';
+  MostrarItens(saida, venda);
+  MostrarSomas(saida, ficha);
+  MostrarMovimentos(saida, ficha);
+  saida << "Chave do CF-e: " << (venda.chaveSat.empty() ? "nenhuma" : venda.chaveSat) << '\n'
+        << "Observação: " << base::Replace(ficha.observacao, "\n", " / ") << '\n';
+}
+
+void Mostrar(std::ostream& saida, std::int32_t codigo, const services::FichaDoCliente& ficha) {
+  saida << "Cliente: " << codigo << " - " << ficha.apelido << " (" << ficha.nome << ")\n"
+        << "Crédito: " << FormatMoney(ficha.credito) << '\n'
+        << "Limite de crédito: " << (ficha.limite.IsZero() ? "nenhum" : FormatMoney(ficha.limite))
+        << '\n';
+  for (const auto& conta : ficha.contasEmAberto) {
+    saida << "A receber: "
+          << (conta.venda == 0 ? "sem venda" : "venda " + std::to_string(conta.venda))
+          << ", vence em " << Dia(conta.vencimento) << ", " << FormatMoney(conta.valor) << '\n';
+  }
+  for (const auto& preVenda : ficha.preVendasEmAberto) {
+    saida << "Pré-venda em aberto: " << preVenda.numero << " - " << preVenda.nome << ", "
+          << FormatMoney(preVenda.valor) << '\n';
+  }
+  if (ficha.contasEmAberto.empty() && ficha.preVendasEmAberto.empty()) {
+    saida << "Nada em aberto.\n";
+  }
+}
+
+void Mostrar(std::ostream& saida, const std::vector<services::Ajuste>& ajustes) {
+  for (const auto& [nome, valor] : ajustes) saida << nome << '=' << valor << '\n';
+}
+
+}  // namespace banco
