@@ -1,16 +1,12 @@
-#include "base/DateTime.h"
 #include "base/RuntimeError.h"
 #include "checkout/GradeDePagamentos.h"
 #include "checkout/Observacao.h"
 #include "checkout/frmCaixaPagar.h"
 #include "frame/CamposNumericos.h"
-#include "frame/FormasDePagamento.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
 #include "frame/Valores.h"
-#include "frame/servicos/ZOVA_A_RelFin.clsRelFin.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
-#include "platform/Desktop.h"
 
 namespace checkout {
 
@@ -19,32 +15,6 @@ using frame::LerCurrency;
 using frame::Ponto;
 using frame::valores;
 using servicos::ZOVA_N_Caixa::clsCaixa;
-
-namespace {
-
-/// Whether a line of the sale is a product; services alone never need a fiscal document.
-bool TemProduto(const base::GradeLida& itens) {
-  constexpr double kProduto = 2;
-  for (std::int32_t linha = 1; linha < itens.Rows(); ++linha) {
-    if (base::Val(itens.TextMatrix(linha, itens.Cols() - 1)) == kProduto) return true;
-  }
-  return false;
-}
-
-/// Prints a document of the sale, asking first where the company wants that.
-template <class Impressao>
-void Imprimir(frame::Espera& espera, bool perguntar, std::string_view pergunta,
-              Impressao impressao) {
-  if (!perguntar) {
-    impressao();
-    return;
-  }
-  espera.Ocultar();
-  if (frame::Perguntar(pergunta)) impressao();
-  espera.Mostrar();
-}
-
-}  // namespace
 
 void frmCaixaPagar::zvcmdConfirmar_Click() {
   // Once the service has answered, the checkout ends on every road out of here, that of an error in
@@ -88,19 +58,6 @@ void frmCaixaPagar::zvcmdConfirmar_Click() {
   });
 }
 
-/// Issues the fiscal coupon of a sale with products. False: the confirmation stops here, with the
-/// tenders kept. A sale never carries the key of an earlier one.
-bool frmCaixaPagar::EmitirDocumentoFiscal(frame::Espera& espera) {
-  valores().ChaveSAT.clear();
-  if (!frame::EmiteDocumentoFiscal()) return true;
-  if (!TemProduto(base::Required(venda_.GradeDeItensDaVendas))) return true;
-  espera.Ocultar();
-  frame::Parar(
-      "A emissão do documento fiscal (CF-e SAT) ainda não está disponível: a venda não foi "
-      "registrada e os pagamentos foram mantidos.");
-  return false;
-}
-
 void frmCaixaPagar::PreencherVenda(clsCaixa& caixa) {
   caixa.GradeDePagamentosEfetuados(&msfgGrade);
   // Read up to the comma: a change below 1,00 counts as none.
@@ -129,44 +86,6 @@ void frmCaixaPagar::PreencherVenda(clsCaixa& caixa) {
                                      valores().CPFCNPJDoCliente, itens));
   if (!valores().ChaveSAT.empty()) caixa.ChaveSAT(valores().ChaveSAT);
   caixa.DadosDoUsuario(valores().DadosDoUsuario);
-}
-
-void frmCaixaPagar::ImprimirComprovante(frame::Espera& espera, std::int32_t numeroDaVenda) {
-  if (!valores().ImprimirComprovanteDePagamento) return;
-  Imprimir(espera, valores().SolicitarConfirmacaoParaImprimirComprovanteDePagamento,
-           "Deseja imprimir o comprovante de pagamento?",
-           [&] { ImprimirComprovanteDePagamentoDeVenda(numeroDaVenda); });
-}
-
-void frmCaixaPagar::ImprimirComprovanteDePagamentoDeVenda(std::int32_t numeroDaVenda) {
-  frame::Procedimento(", frmCaixaPagar, ImprimirComprovanteDePagamentoDeVenda, Ponto: ",
-                      [&](Ponto&) {
-                        frame::Informar(
-                            "A impressão do comprovante de pagamento ainda não está disponível: a "
-                            "venda " +
-                            base::ToText(numeroDaVenda) + " foi registrada.");
-                      });
-}
-
-void frmCaixaPagar::ImprimirNotasPromissorias(frame::Espera& espera) {
-  if (!valores().ImprimirNotaPromissoria) return;
-  for (std::int32_t linha = 1; linha < msfgGrade.Rows(); ++linha) {
-    const std::string& forma = msfgGrade.TextMatrix(linha, kColunaForma);
-    if (frame::CodigoDaForma(forma) != frame::kACredito) continue;
-    Imprimir(espera, valores().SolicitarConfirmacaoParaImprimirNotaPromissoria,
-             "Deseja imprimir a nota promissória?", [&] { ImprimirNotaPromissoria(linha); });
-  }
-}
-
-void frmCaixaPagar::ImprimirNotaPromissoria(std::int32_t linha) {
-  auto nota = servicos::CriarServico<servicos::ZOVA_A_RelFin::clsRelFin>();
-  nota->NomeDaAplicacao(valores().NomeDaAplicacao);
-  nota->DadosDoUsuario(valores().DadosDoUsuario);
-  nota->ImprimirNotaPromissoria(
-      base::Format(platform::Desktop::Current().Now(), base::DateMask::kDayMonthYear),
-      base::ToDate(msfgGrade.TextMatrix(linha, kColunaVencimento)),
-      base::ToCurrency(msfgGrade.TextMatrix(linha, kColunaValor)),
-      base::ToDouble(zvtxtCodigoDoCliente.Text()), valores().VisualizarImpressaoDaNotaPromissoria);
 }
 
 }  // namespace checkout

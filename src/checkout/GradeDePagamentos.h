@@ -14,6 +14,7 @@ enum ColunaDePagamento : std::int32_t {
   kColunaForma = 0,
   kColunaValor = 1,
   kColunaVencimento = 2,
+  kColunaNumeroDoLancamento = 3,
 };
 
 inline constexpr std::array<frame::Coluna, 4> kColunasDePagamento{{

@@ -6,6 +6,7 @@
 
 #include "base/Currency.h"
 #include "base/GradeLida.h"
+#include "fiscal/TrocaDeArquivosCFeSAT.h"
 #include "frame/PainelDeMensagem.h"
 #include "platform/Form.h"
 #include "platform/Label.h"
@@ -23,6 +24,8 @@ class clsCaixa;
 }
 
 namespace checkout {
+
+class drComprovanteDePagamentoDeVenda;
 
 /// The checkout: tenders, change, credit kept or spent, and the registration of the sale. The
 /// counter fills its values, opens it and learns whether the sale stands. One instance serves one
@@ -122,6 +125,12 @@ class frmCaixaPagar : public platform::Form {
     std::int16_t Animais = 0;
   };
 
+  /// Whom the coupon is issued to, fiscal::Identificacao, and the document told at the register.
+  struct Consumidor {
+    std::int16_t tipoDeIdentificacao = 0;
+    std::string documento;
+  };
+
   static constexpr std::string_view kSaldoAPagar = "Saldo a pagar";
   static constexpr std::string_view kTroco = "Troco";
 
@@ -166,10 +175,31 @@ class frmCaixaPagar : public platform::Form {
 
   // Confirmacao.cpp: the sale is registered.
   void zvcmdConfirmar_Click();
-  bool EmitirDocumentoFiscal(frame::Espera& espera);
   void PreencherVenda(servicos::ZOVA_N_Caixa::clsCaixa& caixa);
+
+  // DocumentoFiscal.cpp: the coupon is issued.
+  bool EmitirDocumentoFiscal(frame::Espera& espera);
+  Consumidor PerguntarConsumidor();
+  bool ImprimirCFeSAT(frame::Espera& espera);
+  base::Currency MontarRegistrosSAT();
+  void MontarCabecalhoSAT(std::int16_t tipoDeIdentificacaoDoConsumidor,
+                          std::string_view documentoDoConsumidor, std::string_view imprimirCFeSAT);
+  void MontarRegistroDeItensDeProdutosSAT(std::string_view sequencia, std::string_view codigo,
+                                          std::string_view quantidade,
+                                          std::string_view valorUnitario, std::string_view desconto,
+                                          std::string_view valorTotal);
+  void MontarRegistroDeFormasDePagamentosSAT(std::string_view sequencia,
+                                             std::int16_t formaDePagamento, std::string_view valor,
+                                             std::string_view vencimento,
+                                             std::string_view numeroDoLancamento,
+                                             base::Currency totalDeProdutos);
+  bool ExportarDadosCFeSATParaArquivo(std::string_view cabecalho, std::string_view itens,
+                                      std::string_view pagamentos);
+
+  // Comprovante.cpp: the papers of the sale.
   void ImprimirComprovante(frame::Espera& espera, std::int32_t numeroDaVenda);
   void ImprimirComprovanteDePagamentoDeVenda(std::int32_t numeroDaVenda);
+  void PreencherComprovante(drComprovanteDePagamentoDeVenda& comprovante);
   void ImprimirNotasPromissorias(frame::Espera& espera);
   void ImprimirNotaPromissoria(std::int32_t linha);
 
@@ -178,6 +208,11 @@ class frmCaixaPagar : public platform::Form {
   bool GradeComPagamentos = false;
   bool PagamentoCancelado = false;
   bool PagamentoConfirmado = false;
+
+  fiscal::TrocaDeArquivosCFeSAT troca_;
+  /// The records of the coupon: the header is made anew at each try, items and payments are added
+  /// to those of the tries before.
+  std::string CabecalhoCFeSAT, ItensCFeSAT, PagamentosCFeSAT;
 };
 
 }  // namespace checkout

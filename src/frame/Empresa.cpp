@@ -1,9 +1,9 @@
-#include "sale/Empresa.h"
+#include "frame/Empresa.h"
 
 #include "frame/Mensagens.h"
 #include "frame/servicos/ZOVA_N_Empresa.clsEmpresa.h"
 
-namespace sale {
+namespace frame {
 
 LeituraDaEmpresa LerEmpresa() {
   auto servico = servicos::CriarServico<servicos::ZOVA_N_Empresa::clsEmpresa>();
@@ -17,7 +17,7 @@ LeituraDaEmpresa LerEmpresa() {
     case servicos::kErro:
     case servicos::kRecusa:
     case servicos::kRecusaGrave:
-      frame::Aceitar(resultado, *servico);
+      Aceitar(resultado, *servico);
       return {nullptr, true};
     // A result that nothing is agreed on leaves things as they are.
     default:
@@ -25,4 +25,4 @@ LeituraDaEmpresa LerEmpresa() {
   }
 }
 
-}  // namespace sale
+}  // namespace frame

@@ -2,7 +2,7 @@
 
 #include "base/Record.h"
 
-namespace sale {
+namespace frame {
 
 /// What became of reading the company record.
 struct LeituraDaEmpresa {
@@ -16,6 +16,7 @@ struct LeituraDaEmpresa {
   bool Cadastrada() const { return empresa && empresa->RecordCount() > 0; }
 };
 
+/// Reads the one company record; a fault or refusal is told to the operator.
 LeituraDaEmpresa LerEmpresa();
 
-}  // namespace sale
+}  // namespace frame

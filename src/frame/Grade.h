@@ -56,16 +56,20 @@ bool SomenteLinhaEmBranco(const platform::MSFlexGrid& grade);
 /// Takes a row out; the last one leaves a blank row behind.
 void RetirarLinha(platform::MSFlexGrid& grade, std::int32_t linha);
 
-/// Keeps the grid from repainting for a stretch of a routine.
+/// Keeps the grid from repainting for a stretch of a routine; within another such stretch it
+/// changes nothing.
 class SemRedesenho {
  public:
-  explicit SemRedesenho(platform::MSFlexGrid& grade) : grade_(grade) { grade_.Redraw(false); }
-  ~SemRedesenho() { grade_.Redraw(true); }
+  explicit SemRedesenho(platform::MSFlexGrid& grade) : grade_(grade), antes_(grade.Redraw()) {
+    grade_.Redraw(false);
+  }
+  ~SemRedesenho() { grade_.Redraw(antes_); }
   SemRedesenho(const SemRedesenho&) = delete;
   SemRedesenho& operator=(const SemRedesenho&) = delete;
 
  private:
   platform::MSFlexGrid& grade_;
+  const bool antes_;
 };
 
 }  // namespace frame

@@ -30,6 +30,10 @@ void ExibirMensagemDeErro(std::int32_t numero, std::string_view descricao, std::
     BloquearOuDesbloquearClienteParaOperacoesNosCaixas(
         valores().CodigoDoClienteComOperacoesBloqueadas, kDesbloquear);
   }
+  ExibirRelato(numero, descricao, local);
+}
+
+void ExibirRelato(std::int32_t numero, std::string_view descricao, std::string_view local) {
   auto mensagem = servicos::CriarServico<servicos::ZOVA_A_MsgErro::clsMensagem>();
   mensagem->Exibir(numero, descricao, local, valores().NomeDaAplicacao);
 }

@@ -11,6 +11,10 @@ namespace frame {
 /// other workstations can serve him, then shows the error viewer. It has no handler of its own.
 void ExibirMensagemDeErro(std::int32_t numero, std::string_view descricao, std::string_view local);
 
+/// The error viewer alone, nobody freed: for a service that tells its fault itself while the screen
+/// that asked goes on.
+void ExibirRelato(std::int32_t numero, std::string_view descricao, std::string_view local);
+
 /// Reports the fault that a service tells of.
 void ExibirErroDoServico(servicos::ServicoDeNegocio& servico);
 

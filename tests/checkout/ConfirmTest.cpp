@@ -220,47 +220,17 @@ TEST_F(ConfirmTest, AFaultAfterTheRegistrationStillEndsTheSale) {
   EXPECT_EQ(module.desktop.TakeJournal().back(), "forget frmCaixaPagar");
 }
 
-TEST_F(ConfirmTest, TheReceiptIsAskedForAndSaysThatItIsNotThereYet) {
-  const std::string question = "Deseja imprimir o comprovante de pagamento?";
-  const std::string notYet =
-      "A impressão do comprovante de pagamento ainda não está disponível: a venda 4711 foi "
-      "registrada.";
+TEST_F(ConfirmTest, TheReceiptIsAskedForWithThePanelOutOfTheWay) {
   frame::valores().ImprimirComprovanteDePagamento = true;
-  EXPECT_EQ(PayInCash("100", "100"), 0);
-  EXPECT_THAT(Texts(), ElementsAre(notYet));
-
   frame::valores().SolicitarConfirmacaoParaImprimirComprovanteDePagamento = true;
-  module.desktop.Answer(Answer::kYes);
-  EXPECT_EQ(PayInCash("100", "100"), 0);
-  EXPECT_THAT(Texts(), ElementsAre(question, notYet));
   module.desktop.TakeJournal();
   module.desktop.Answer(Answer::kNo);
   EXPECT_EQ(PayInCash("100", "100"), 0);
-  EXPECT_THAT(Texts(), ElementsAre(question));
+  EXPECT_THAT(Texts(), ElementsAre("Deseja imprimir o comprovante de pagamento?"));
   // The question stands over the host as it is, and the panel comes back behind it.
   EXPECT_THAT(module.desktop.TakeJournal(),
               ElementsAre("show frmCaixaPagar", "dim 7 1", "undim 7", "dim 7 1", "undim 7",
                           "hide frmCaixaPagar", "forget frmCaixaPagar"));
-}
-
-TEST_F(ConfirmTest, ProductsThatNeedAFiscalDocumentAreNotRegisteredWithoutIt) {
-  module.session.values["CodigoDoDocumentoComEmissaoPermitida"] = "11";
-  EXPECT_EQ(PayInCash("100", "100"), 0) << "services alone";
-  module.TakeCalls();
-  lines = Lines({{"Rex", "1"}, {"", "2"}});
-  EXPECT_EQ(Pay("100", "0",
-                [&](frmCaixaPagar& form) {
-                  Add(form, 1, "100");
-                  input::Click(form.zvcmdConfirmar);
-                  EXPECT_THAT(module.desktop.TakeBox(), testing::HasSubstr("não está disponível"));
-                  EXPECT_TRUE(form.IsVisible());
-                  EXPECT_EQ(Tenders(form), "1-Dinheiro 100,00 __/__/____");
-                  EXPECT_FALSE(form.picMensagem.IsShown());
-                }),
-            99);
-  EXPECT_TRUE(module.TakeCalls().empty());
-  module.session.values["CodigoDoDocumentoComEmissaoPermitida"] = "9";
-  EXPECT_EQ(PayInCash("100", "100"), 0);
 }
 
 }  // namespace

@@ -1,0 +1,175 @@
+#include "base/DateTime.h"
+#include "base/RuntimeError.h"
+#include "checkout/GradeDePagamentos.h"
+#include "checkout/drComprovanteDePagamentoDeVenda.h"
+#include "checkout/frmCaixaPagar.h"
+#include "frame/CamposNumericos.h"
+#include "frame/Empresa.h"
+#include "frame/FormasDePagamento.h"
+#include "frame/Mensagens.h"
+#include "frame/Procedimento.h"
+#include "frame/Valores.h"
+#include "frame/servicos/ZOVA_A_RelFin.clsRelFin.h"
+#include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
+#include "platform/Desktop.h"
+
+// The papers of a sale that is registered: the receipt, and a promissory note for each tender on
+// credit. Nothing that fails here undoes the sale.
+namespace checkout {
+
+using base::Currency;
+using frame::Ponto;
+using frame::valores;
+
+namespace {
+
+/// Prints a paper, asking first where the company wants that.
+template <class Impressao>
+void Imprimir(frame::Espera& espera, bool perguntar, std::string_view pergunta,
+              Impressao impressao) {
+  if (!perguntar) {
+    impressao();
+    return;
+  }
+  espera.Ocultar();
+  if (frame::Perguntar(pergunta)) impressao();
+  espera.Mostrar();
+}
+
+/// The tenders of a sale as its receipt tells them.
+struct Recebimento {
+  Currency pago;  ///< All but what is on credit.
+  Currency aReceber;
+  std::string rotulo;
+};
+
+Recebimento LerRecebimento(const base::GradeLida& pagamentos) {
+  Recebimento recebimento;
+  std::string nome, lista;
+  int formas = 0;
+  for (std::int32_t linha = 1; linha < pagamentos.Rows(); ++linha) {
+    const std::string forma = pagamentos.TextMatrix(linha, kColunaForma);
+    const std::string valor = pagamentos.TextMatrix(linha, kColunaValor);
+    const Currency quantia = base::ToCurrency(valor);
+    if (frame::CodigoDaForma(forma) == frame::kACredito) {
+      recebimento.aReceber = recebimento.aReceber + quantia;
+      continue;
+    }
+    recebimento.pago = recebimento.pago + quantia;
+    // What follows "N-".
+    nome = forma.substr(std::min<std::size_t>(2, forma.size()));
+    if (++formas > 1) lista += " / ";
+    lista += nome + ": " + valor;
+  }
+  const std::string& quais = formas == 1 ? nome : lista;
+  recebimento.rotulo = quais.empty() ? "Valor Pago:" : "Valor Pago (" + quais + "):";
+  return recebimento;
+}
+
+/// The rows of a selection, or null when it failed or found none: the operator has been told.
+base::RecordSetPtr ItensDaVenda(std::int32_t numeroDaVenda) {
+  auto caixa = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsCaixa>();
+  const std::int16_t resultado = caixa->SelecionarItensDeVenda(
+      " WHERE ItensDeVendas.NumeroDaVenda = " + base::ToText(numeroDaVenda) + " ");
+  if (!frame::Aceitar(resultado, *caixa)) return nullptr;
+  base::RecordSetPtr itens = caixa->ResultadoDaSelecaoEmRecordSet();
+  if (itens->RecordCount() > 0) return itens;
+  frame::Informar(
+      "Não foi possível imprimir porque os dados não foram localizados.\nTente a impressão "
+      "novamente");
+  return nullptr;
+}
+
+}  // namespace
+
+void frmCaixaPagar::ImprimirComprovante(frame::Espera& espera, std::int32_t numeroDaVenda) {
+  if (!valores().ImprimirComprovanteDePagamento) return;
+  Imprimir(espera, valores().SolicitarConfirmacaoParaImprimirComprovanteDePagamento,
+           "Deseja imprimir o comprovante de pagamento?",
+           [&] { ImprimirComprovanteDePagamentoDeVenda(numeroDaVenda); });
+}
+
+void frmCaixaPagar::ImprimirComprovanteDePagamentoDeVenda(std::int32_t numeroDaVenda) {
+  frame::Procedimento(
+      ", frmCaixaPagar, ImprimirComprovanteDePagamentoDeVenda, Ponto: ", [&](Ponto& ponto) {
+        lblMensagem.Caption = "Aguarde, reorganizando dados.";
+        const frame::Espera espera(painel_);
+        ponto = 2;
+        const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
+        if (leitura.falhou) return;
+        if (!leitura.Cadastrada()) {
+          frame::Informar(
+              "Não foi possível imprimir o documento porque não há empresa cadastrada.\nSelecione "
+              "a "
+              "guia (aba) 'Cadastros' e em seguida, clique na opções 'Empresa'. Efetue o cadastro "
+              "e solicite a impressão novamente");
+          return;
+        }
+        ponto = 3;
+        const base::RecordSetPtr itens = ItensDaVenda(numeroDaVenda);
+        if (!itens) return;
+        ponto = 4;
+        drComprovanteDePagamentoDeVenda comprovante(platform::Desktop::Current().ReceiptPaper());
+        comprovante.lblNomeFantasiaDaEmpresa.Caption =
+            base::ToText(leitura.empresa->Fields("NomeFantasia"));
+        comprovante.lblNumeroDaVenda.Caption = base::ToText(numeroDaVenda);
+        comprovante.DataSource = itens;
+        PreencherComprovante(comprovante);
+        ponto = 5;
+        // Also a panel that the confirmation has up must not lie over the preview.
+        painel_.ExibirOcultar(false, false);
+        if (valores().VisualizarImpressaoDoComprovanteDePagamento) {
+          comprovante.Show();
+        } else {
+          comprovante.PrintReport();
+        }
+      });
+}
+
+/// What the checkout itself knows: the customer, and how the sale was paid.
+void frmCaixaPagar::PreencherComprovante(drComprovanteDePagamentoDeVenda& comprovante) {
+  comprovante.Title = "Imprimir comprovante de pagamento de venda";
+  comprovante.lblTituloDoAplicativo.Caption = valores().NomeDaAplicacao;
+  comprovante.lblCodigoENomeOuRazaoSocialDoCliente.Caption =
+      zvtxtCodigoDoCliente.Text() + " - " + zvtxtNomeOuRazaoSocialDoCliente.Text();
+  comprovante.lblEnderecoDoCliente.Caption = venda_.EnderecoDoCliente;
+  comprovante.lblCanalDeComunicacaoDoCliente.Caption = venda_.CanalDeComunicacaoDoCliente;
+  comprovante.txtTotalDosServicosEProdutos.Caption = zvtxtValorDaVenda.Text();
+  const Recebimento recebimento = LerRecebimento(msfgGrade);
+  comprovante.lblValorPago.Caption = recebimento.rotulo;
+  comprovante.txtValorPago.Caption = base::FormatMoney(recebimento.pago);
+  comprovante.txtSaldoDevedor.Caption = base::FormatMoney(recebimento.aReceber);
+  const Currency saldo = frame::LerCurrency(zvtxtSaldoDevedorOuTroco);
+  if (saldo < Currency()) {
+    comprovante.lblTroco.Caption = std::string(kTroco);
+    comprovante.txtTroco.Caption = base::FormatMoney(-saldo);
+  }
+  const Currency credito = base::ToCurrency(lblCreditoParaOCliente.Tag());
+  const bool temCredito = credito > Currency();
+  comprovante.lblCredito.Visible = temCredito;
+  comprovante.txtCredito.Visible = temCredito;
+  comprovante.txtCredito.Caption = base::FormatMoney(credito);
+}
+
+void frmCaixaPagar::ImprimirNotasPromissorias(frame::Espera& espera) {
+  if (!valores().ImprimirNotaPromissoria) return;
+  for (std::int32_t linha = 1; linha < msfgGrade.Rows(); ++linha) {
+    const std::string& forma = msfgGrade.TextMatrix(linha, kColunaForma);
+    if (frame::CodigoDaForma(forma) != frame::kACredito) continue;
+    Imprimir(espera, valores().SolicitarConfirmacaoParaImprimirNotaPromissoria,
+             "Deseja imprimir a nota promissória?", [&] { ImprimirNotaPromissoria(linha); });
+  }
+}
+
+void frmCaixaPagar::ImprimirNotaPromissoria(std::int32_t linha) {
+  auto nota = servicos::CriarServico<servicos::ZOVA_A_RelFin::clsRelFin>();
+  nota->NomeDaAplicacao(valores().NomeDaAplicacao);
+  nota->DadosDoUsuario(valores().DadosDoUsuario);
+  nota->ImprimirNotaPromissoria(
+      base::Format(platform::Desktop::Current().Now(), base::DateMask::kDayMonthYear),
+      base::ToDate(msfgGrade.TextMatrix(linha, kColunaVencimento)),
+      base::ToCurrency(msfgGrade.TextMatrix(linha, kColunaValor)),
+      base::ToDouble(zvtxtCodigoDoCliente.Text()), valores().VisualizarImpressaoDaNotaPromissoria);
+}
+
+}  // namespace checkout

@@ -1,0 +1,113 @@
+#include "frame/Lista.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "base/Text.h"
+#include "frame/CamposNumericos.h"
+#include "frame/modRolagemComMouse.h"
+
+namespace frame {
+namespace {
+
+std::string TextoDaCelula(const base::Value& valor, TipoDeColuna tipo) {
+  constexpr std::size_t kHoraEMinuto = 5;
+  if (valor.Is<base::Currency>()) return TextoDeValor(valor);
+  if (!valor.Is<base::DateTime>()) return base::ToText(valor);
+  const base::DateTime momento = base::ToDate(valor);
+  if (tipo == kData) return base::Format(momento, base::DateMask::kDayMonthYear);
+  // What follows the date of a moment that is not midnight.
+  const std::string inteiro = base::ToText(momento);
+  const std::size_t hora = inteiro.find(' ');
+  return hora == std::string::npos ? "00:00" : base::Mid(inteiro, hora + 2, kHoraEMinuto);
+}
+
+/// Where the records have the field; error 9 when they do not.
+std::int32_t PosicaoDoCampo(const base::RecordSet& registros, std::string_view campo) {
+  const std::string procurado = base::Upper(campo);
+  for (std::int32_t i = 0; i < registros.FieldCount(); ++i) {
+    if (base::Upper(registros.FieldName(i)) == procurado) return i;
+  }
+  throw base::RuntimeError(base::Fault::kIndexOutOfRange);
+}
+
+}  // namespace
+
+Lista::Lista(platform::MSFlexGrid& grade, std::span<const Coluna> colunas)
+    : grade_(grade), colunas_(colunas) {
+  grade_.Click = [this] { Clicar(); };
+  grade_.KeyDown = [this](platform::KeyStroke& tecla) { Teclar(tecla); };
+  grade_.SelChange = [this] {
+    SelecionarLinhaInteira(grade_);
+    Selecionar();
+  };
+  grade_.GotFocus = [this] { AtivarRolagemComMouse(grade_.OwnerForm(), grade_); };
+  grade_.LostFocus = [] { DesativarRolagemComMouse(); };
+}
+
+void Lista::Esvaziar() {
+  ConfigurarColunas(grade_, colunas_);
+  SelecionarLinha(grade_, 1);
+  classificacao_ = {};
+  quantos_ = 0;
+}
+
+void Lista::Preencher(base::RecordSet& registros) {
+  const SemRedesenho semRedesenho(grade_);
+  Esvaziar();
+  quantos_ = registros.RecordCount();
+  if (quantos_ == 0) return;
+  grade_.Rows(quantos_ + 1);
+  // A list may have thousands of rows: each field is looked for once.
+  std::vector<std::pair<std::int32_t, std::int32_t>> campos;
+  for (std::int32_t i = 0; i < grade_.Cols(); ++i) {
+    const std::string_view campo = colunas_[static_cast<std::size_t>(i)].campo;
+    if (!campo.empty()) campos.emplace_back(i, PosicaoDoCampo(registros, campo));
+  }
+  std::int32_t linha = 1;
+  base::ForEachRow(registros, [&] {
+    for (const auto& [coluna, campo] : campos) {
+      const TipoDeColuna tipo = colunas_[static_cast<std::size_t>(coluna)].tipo;
+      grade_.TextMatrix(linha, coluna, TextoDaCelula(registros.Fields(campo), tipo));
+    }
+    ++linha;
+  });
+  SelecionarLinha(grade_, 1);
+}
+
+std::string Lista::Selecionado(std::int32_t coluna) const {
+  return quantos_ == 0 ? std::string() : grade_.TextMatrix(grade_.Row(), coluna);
+}
+
+void Lista::SelecionarOnde(std::int32_t coluna, const std::string& texto) {
+  for (std::int32_t linha = 1; linha <= quantos_; ++linha) {
+    if (grade_.TextMatrix(linha, coluna) != texto) continue;
+    SelecionarLinha(grade_, linha);
+    Selecionar();
+    return;
+  }
+}
+
+void Lista::Clicar() {
+  if (quantos_ == 0) return;
+  if (grade_.MouseRow() != 0) {
+    if (aoEscolher) aoEscolher();
+    return;
+  }
+  Classificar(grade_, static_cast<std::int16_t>(grade_.MouseCol()), true, classificacao_);
+  Selecionar();
+}
+
+void Lista::Teclar(platform::KeyStroke& tecla) {
+  if (tecla.key != platform::Key::kEnter || !aoEscolher || quantos_ == 0) return;
+  // The screen that opens next shall not take it for its own.
+  tecla.key = platform::Key::kNone;
+  aoEscolher();
+}
+
+void Lista::Selecionar() {
+  if (aoSelecionar) aoSelecionar();
+}
+
+}  // namespace frame

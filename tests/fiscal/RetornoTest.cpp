@@ -1,0 +1,143 @@
+// The answer of the fiscal application: what the file says, and what each outcome leaves.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/Text.h"
+#include "fiscal/ArquivoDeRetorno.h"
+#include "fiscal/TrocaDeArquivosCFeSAT.h"
+#include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
+#include "support/ModuleServices.h"
+
+namespace fiscal {
+namespace {
+
+using servicos::ZOVA_N_OSParaBD::clsOSExportarRegistros;
+
+TEST(TheReturnFile, IsReadLineByLine) {
+  struct Case {
+    std::string_view text;
+    bool issued;
+    std::string_view error, key;
+  };
+  for (const Case& each : std::initializer_list<Case>{
+           {"|OK||35150900|0|", true, "", "35150900"},
+           {"|ok||KEY|\r\n", true, "", "KEY"},
+           {"xOK|aviso|KEY", true, "aviso", "KEY"},
+           {"|OK", true, "", ""},
+           {"", true, "", ""},
+           {"|OK||KEY|\r\n\r\n", true, "", "KEY"},
+           {"|OK||KEY|\n|OK||KEY|\n", false, "", "KEYKEY"},
+           {"|OK||KEY|\r|", true, "", "KEY"},
+           {"|ERRO|Falha X|", false, "Falha X", ""},
+           {"|ERRO||", false, "", ""},
+           {"\r\n|OK||KEY|", false, "", ""},
+           {"OK||KEY|", false, "", "KEY"},
+           {"| OK||KEY|", false, "", "KEY"},
+       }) {
+    SCOPED_TRACE(each.text);
+    const Retorno answer = LerRetorno(each.text);
+    EXPECT_EQ(answer.emitido, each.issued);
+    EXPECT_EQ(answer.erro, each.error);
+    EXPECT_EQ(answer.chave, each.key);
+  }
+}
+
+TEST(TheReturnFile, ShowsItsAccentsInEitherEncoding) {
+  EXPECT_EQ(TextoDoArquivo("Rejei\xC3\xA7\xC3\xA3o"), "Rejeição");
+  EXPECT_EQ(TextoDoArquivo("\xEF\xBB\xBFRejei\xC3\xA7\xC3\xA3o"), "Rejeição");
+  EXPECT_EQ(TextoDoArquivo("Rejei\xE7\xE3o \x96 \x93NCM\x94 \x80"), "Rejeição – “NCM” €");
+  EXPECT_EQ(TextoDoArquivo("\xC3\xA7 e \xE7"), "Ã§ e ç") << "one or the other, not both";
+}
+
+/// Says where the files are; writes nothing.
+class Exporter final : public clsOSExportarRegistros {
+ public:
+  std::int16_t ExportarDadosCFeSATParaArquivo(std::string_view, std::string_view,
+                                              std::string_view) override {
+    return 0;
+  }
+  std::string NomeCompleDoArquivoDeEnvioComDadosCFeSAT() override { return "envio"; }
+  std::string NomeCompleDoArquivoDeRetornoComDadosCFeSAT() override { return "retorno"; }
+};
+
+class TheExchange : public testing::Test {
+ protected:
+  TheExchange() {
+    module.session.values["CodigoDoDocumentoComEmissaoPermitida"] = "11";
+    servicos::Registrar(Exporter::kIdentificador, [] { return std::make_unique<Exporter>(); });
+  }
+  /// The answer comes at once, while the application has not yet taken the other file away.
+  bool Export(const std::string& answer) {
+    desktop.files["envio"] = "...";
+    desktop.files["retorno"] = answer;
+    frame::valores().ChaveSAT.clear();
+    return exchange.ExportarDadosCFeSATParaArquivo("", "", "");
+  }
+  std::string Files() const {
+    std::string names;
+    for (const auto& [name, bytes] : desktop.files) names += name + " ";
+    return names;
+  }
+
+  support::Module module;
+  support::FakeDesktop& desktop = module.desktop;
+  TrocaDeArquivosCFeSAT exchange;
+};
+
+TEST_F(TheExchange, LeavesKeyAndFilesByItsOutcome) {
+  struct Case {
+    std::string_view answer;
+    bool goesOn;
+    std::string_view key, told, files;
+  };
+  for (const Case& each : std::initializer_list<Case>{
+           {"|OK||KEY|", true, "KEY", "", "envio "},
+           {"", true, "", "", "envio "},
+           {"|ERRO|Rejei\xE7\xE3o|KEY|", true, "", "\tRejeição\n", "envio "},
+           {"|ERRO||", true, "", "\tERRO DESCONHECIDO.\n", "envio "},
+           {"|OK||A|\r\n|OK||B|", true, "", "\tERRO DESCONHECIDO.\n", "envio "},
+       }) {
+    SCOPED_TRACE(each.answer);
+    EXPECT_EQ(Export(std::string(each.answer)), each.goesOn);
+    EXPECT_EQ(frame::valores().ChaveSAT, each.key);
+    const std::vector<platform::MessageBox> boxes = desktop.TakeBoxes();
+    ASSERT_EQ(boxes.size(), each.told.empty() ? 0U : 1U);
+    for (const platform::MessageBox& box : boxes) {
+      EXPECT_THAT(box.text, testing::HasSubstr(std::string(each.told)));
+      EXPECT_EQ(box.icon, platform::Icon::kStop);
+    }
+    EXPECT_EQ(Files(), each.files);
+  }
+}
+
+// Four readings with five seconds after each, then the operator is told; the next try on the same
+// screen is told after one. An answer read at last counts, whatever failed before.
+TEST_F(TheExchange, GivesUpAfterFourReadings) {
+  desktop.unreadable.insert("retorno");
+  desktop.readOnly.insert("envio");
+  constexpr double kWaitForTheOtherFile = 10;
+  for (const int pauses : {4, 1}) {
+    const double before = desktop.Elapsed();
+    EXPECT_FALSE(Export("|OK||KEY|"));
+    EXPECT_NEAR(desktop.Elapsed() - before, kWaitForTheOtherFile + pauses * 5, 0.1);
+    EXPECT_EQ(desktop.TakeBox(),
+              "A leitura do arquivo 'retorno' não foi possível neste computador. \n\n"
+              "70-Permissão negada.\n\nPara corrigir esta situação:\n\n"
+              "\t1. Entre em contato com o suporte técnico, e informe o erro identificado.\n\n"
+              "\t2. Não inclua produto(s) na grade de itens de vendas.");
+    EXPECT_EQ(Files(), "envio ") << "a file that cannot be deleted is no hindrance to the other";
+  }
+  desktop.unreadable.clear();
+  EXPECT_TRUE(Export("|ERRO|Falha X|"));
+  EXPECT_EQ(desktop.TakeBox(),
+            "Houve um erro na tentativa da emissão do documento fiscal. \n\n"
+            "Identificação do erro: \n\n\tFalha X\n\nPara corrigir esta situação:\n\n"
+            "\t1. Entre em contato com o suporte técnico, e informe o erro identificado.\n\n"
+            "\t2. Não inclua produto(s) na da grade de itens de vendas.");
+  EXPECT_TRUE(Export("|OK||KEY|"));
+  EXPECT_EQ(frame::valores().ChaveSAT, "KEY");
+}
+
+}  // namespace
+}  // namespace fiscal
