@@ -12,10 +12,15 @@ constexpr std::int64_t kPercent = base::Currency::kScale;
 void WriteCompany(Session& session) {
   constexpr std::int64_t kLimit = 15;
   constexpr const char* kWeightOnLabel = "2";
+  // Valid, and of a number that is given to nobody.
+  constexpr const char* kNobodysCnpj = "99.000.100/0001-85";
   InsertRows(session, "empresa",
              "codigo, nome_fantasia, formato_de_codigo_de_barras_para_balanca,"
-             " codigo_do_documento_com_emissao_permitida, perc_desconto_limite",
-             {{1, "Clínica Veterinária Bicho Contente", kWeightOnLabel, "0", kLimit * kPercent}});
+             " codigo_do_documento_com_emissao_permitida, perc_desconto_limite, razao_social,"
+             " cnpj, endereco, municipio, uf, telefone",
+             {{1, "Clínica Veterinária Bicho Contente", kWeightOnLabel, "0", kLimit * kPercent,
+               "Bicho Contente Serviços Veterinários Ltda.", kNobodysCnpj,
+               "Rua das Laranjeiras, 250 - Vila Nova", "Vale Claro", "SP", "(11) 5550-0250"}});
 }
 
 void WriteRegisters(Session& session) {

@@ -14,5 +14,7 @@ void EscreverClientes(Session& session, base::DateTime agora);
 void EscreverItens(Session& session);
 /// Open pre-sale lines, and debts some of which are overdue.
 void EscreverPendencias(Session& session, base::DateTime agora);
+/// Estimates: one that is good, one that has lapsed, one that was cancelled.
+void EscreverOrcamentos(Session& session, base::DateTime agora);
 
 }  // namespace services::demonstracao

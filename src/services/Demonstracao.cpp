@@ -31,6 +31,7 @@ std::vector<UsuarioDeDemonstracao> CriarDemonstracao(Banco& banco) {
     demonstracao::EscreverClientes(banco.Sessao(), banco.Agora());
     demonstracao::EscreverItens(banco.Sessao());
     demonstracao::EscreverPendencias(banco.Sessao(), banco.Agora());
+    demonstracao::EscreverOrcamentos(banco.Sessao(), banco.Agora());
   });
   std::vector<UsuarioDeDemonstracao> users;
   for (const demonstracao::Usuario& user : demonstracao::Usuarios()) {

@@ -48,12 +48,16 @@ void AddPackedGoods(std::vector<Params>& rows) {
   }
 }
 
+/// The sand is no feed, and nobody has looked up yet what it is: its first coupon will ask.
+constexpr std::int32_t kGoodsWithoutNcm = 100206;
+
 void AddBulkGoods(std::vector<Params>& rows) {
   for (const Granel& goods : Graneis()) {
     const std::int64_t price = goods.preco * kCentavo;
     rows.push_back({goods.codigo, EmptyLabel(goods.codigo), goods.nome, SearchForm(goods.nome),
-                    "23099010", "A granel", "Balança", "SC", "KG",
-                    price * kCostPercent / 100 / kCentavo * kCentavo, price, 0});
+                    goods.codigo == kGoodsWithoutNcm ? Param() : Param("23099010"), "A granel",
+                    "Balança", "SC", "KG", price * kCostPercent / 100 / kCentavo * kCentavo, price,
+                    0});
   }
 }
 

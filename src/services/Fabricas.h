@@ -13,14 +13,18 @@ using ServicoNovo = std::unique_ptr<servicos::Servico>;
 
 ServicoNovo NovoClsAdministrativo(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsAnimais(const std::shared_ptr<Banco>& banco);
+ServicoNovo NovoClsCadastroFiscal(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsCaixa(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsCaixas(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsClientes(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsDebitosVencCliente(const std::shared_ptr<Banco>& banco);
+ServicoNovo NovoClsDocumentos(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsEmpresa(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsFuncionarios(const std::shared_ptr<Banco>& banco);
+ServicoNovo NovoClsHistorico(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsLogin(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsObterVersaoDoSO(const std::shared_ptr<Banco>& banco);
+ServicoNovo NovoClsOrcamentos(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsProdutos(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsServicos(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsServicosEProdutos(const std::shared_ptr<Banco>& banco);

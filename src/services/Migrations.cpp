@@ -310,6 +310,49 @@ CREATE INDEX pre_vendas_em_aberto ON pre_vendas (codigo_do_cliente)
   WHERE numero_da_venda IS NULL;
 )sql";
 
+/// Who the company is on a printed document, a customer's sales of a period, and estimates.
+constexpr std::string_view kDocumentsAndEstimates = R"sql(
+ALTER TABLE empresa ADD COLUMN razao_social {text} NOT NULL DEFAULT '';
+ALTER TABLE empresa ADD COLUMN cnpj {text} NOT NULL DEFAULT '';
+ALTER TABLE empresa ADD COLUMN endereco {text} NOT NULL DEFAULT '';
+ALTER TABLE empresa ADD COLUMN municipio {text} NOT NULL DEFAULT '';
+ALTER TABLE empresa ADD COLUMN uf {text} NOT NULL DEFAULT '';
+ALTER TABLE empresa ADD COLUMN telefone {text} NOT NULL DEFAULT '';
+
+CREATE INDEX vendas_por_cliente ON vendas (codigo_do_cliente, data_e_hora);
+
+CREATE TABLE orcamentos (
+  numero {key},
+  operacao {money} NOT NULL,
+  codigo_do_cliente {int} NOT NULL REFERENCES clientes (codigo),
+  codigo_do_animal {int} NOT NULL,
+  nome_do_animal {text} NOT NULL,
+  data_e_hora {moment} NOT NULL,
+  validade {date} NOT NULL,
+  valor_bruto {money} NOT NULL,
+  desconto {money} NOT NULL CHECK (desconto >= 0),
+  valor_total {money} NOT NULL CHECK (valor_total = valor_bruto - desconto),
+  observacao {text} NOT NULL,
+  incluido_por {text} NOT NULL,
+  cancelado_em {moment},
+  cancelado_por {text}
+){table};
+CREATE INDEX orcamentos_por_cliente ON orcamentos (codigo_do_cliente);
+
+CREATE TABLE itens_de_orcamento (
+  numero_do_orcamento {int} NOT NULL REFERENCES orcamentos (numero),
+  item {int} NOT NULL,
+  tipo_de_lancamento {int} NOT NULL CHECK (tipo_de_lancamento IN (1, 2)),
+  codigo_do_item {int} NOT NULL,
+  nome_do_item {text} NOT NULL,
+  unidade {text} NOT NULL,
+  quantidade {money} NOT NULL CHECK (quantidade > 0),
+  valor_unitario {money} NOT NULL CHECK (valor_unitario >= 0),
+  valor_total {money} NOT NULL,
+  PRIMARY KEY (numero_do_orcamento, item)
+){keyed};
+)sql";
+
 /// The index of a table's names keeps no copy of them: it follows its table through triggers.
 constexpr std::string_view kSearchOnSqlite = R"sql(
 CREATE VIRTUAL TABLE {t}_busca USING fts5(nome_busca, content='{t}', content_rowid='{k}',
@@ -339,6 +382,7 @@ constexpr NamedTable kFirstNames[] = {
 
 constexpr Migration kMigrations[] = {
     {1, kFirstTables, kFirstNames},
+    {2, kDocumentsAndEstimates, {}},
 };
 
 }  // namespace

@@ -25,7 +25,7 @@ class NameSearch {
 
   /// `selection` has "{named}" where the keys of the rows found belong, as in "codigo IN
   /// ({named})", and `others` places of its own, from $1 on. `limit` is for the keys, as in " LIMIT
-  /// 201".
+  /// 5001".
   NameSearch(std::string_view selection, Table table, int others, std::string_view limit = {});
 
   /// The part of a name that a text asks for; nothing when it has fewer than three characters, by

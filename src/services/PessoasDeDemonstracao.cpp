@@ -5,8 +5,9 @@ namespace {
 
 constexpr Usuario kUsuarios[] = {
     {"marina", "girassol-41", "administradora: pode tudo", true, true, true, true, true, true},
-    {"paulo", "trovoada-27", "supervisor: autoriza descontos, fiado, saídas e cancelamentos", false,
-     true, true, true, true, true},
+    {"paulo", "trovoada-27",
+     "supervisor: altera descontos e autoriza fiado, saídas e cancelamentos", false, true, true,
+     true, true, true},
     {"renata", "pitanga-63", "operadora: altera descontos e vende a crédito", false, true, false,
      true, false, false},
     {"caio", "ladrilho-85", "operador em treinamento: vende sem descontos nem fiado", false, false,

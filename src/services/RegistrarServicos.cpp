@@ -16,6 +16,10 @@
 #include "frame/servicos/ZOVA_N_TipoDeServ.clsTiposDeServ.h"
 #include "services/Banco.h"
 #include "services/Fabricas.h"
+#include "siblings/dados/clsCadastroFiscal.h"
+#include "siblings/dados/clsDocumentos.h"
+#include "siblings/dados/clsHistorico.h"
+#include "siblings/dados/clsOrcamentos.h"
 
 namespace services {
 namespace {
@@ -40,6 +44,10 @@ constexpr Entry kEntries[] = {
     {servicos::ZOVA_N_Servicos::clsServicos::kIdentificador, NovoClsServicos},
     {servicos::ZOVA_N_Caixa::clsServicosEProdutos::kIdentificador, NovoClsServicosEProdutos},
     {servicos::ZOVA_N_TipoDeServ::clsTiposDeServ::kIdentificador, NovoClsTiposDeServ},
+    {siblings::dados::clsCadastroFiscal::kIdentificador, NovoClsCadastroFiscal},
+    {siblings::dados::clsDocumentos::kIdentificador, NovoClsDocumentos},
+    {siblings::dados::clsHistorico::kIdentificador, NovoClsHistorico},
+    {siblings::dados::clsOrcamentos::kIdentificador, NovoClsOrcamentos},
 };
 
 }  // namespace

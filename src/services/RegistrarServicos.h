@@ -11,7 +11,7 @@ class Banco;
 /// (servicos::EsquecerTodos).
 ///
 /// What the contract leaves open is settled thus for all of them:
-/// - a search by part of a name gives at most 200 rows, in the order of the names, and in a pick
+/// - a search by part of a name gives at most 5,000 rows, in the order of the names, and in a pick
 ///   list what has just that code before them; when there are more, the status is a success and
 ///   DescricaoDaFalha says so in a sentence, else it is empty;
 /// - fewer than three characters find nobody by name, only by code;

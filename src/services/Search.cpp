@@ -11,17 +11,31 @@
 namespace services {
 namespace {
 
-/// Takes `expected` off the front of the text, without regard to case; error 5 when it is not
-/// there.
-void Take(std::string_view& text, std::string_view expected) {
-  if (base::Fold(text.substr(0, expected.size())) != base::Fold(expected)) {
-    throw base::RuntimeError(base::Fault::kInvalidArgument);
-  }
+/// Takes `expected` off the front of the text, without regard to case; false when it is not there.
+bool Take(std::string_view& text, std::string_view expected) {
+  if (base::Fold(text.substr(0, expected.size())) != base::Fold(expected)) return false;
   text.remove_prefix(expected.size());
+  return true;
 }
 
-void SkipBlanks(std::string_view& text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+/// Whether there were any.
+bool SkipBlanks(std::string_view& text) {
+  const auto blanks = std::min(text.find_first_not_of(' '), text.size());
+  text.remove_prefix(blanks);
+  return blanks > 0;
+}
+
+/// What stands behind "WHERE column =" in a condition, without blanks around.
+std::optional<std::string> ComparedIn(std::string_view condition, std::string_view column) {
+  SkipBlanks(condition);
+  if (!Take(condition, "WHERE")) return std::nullopt;
+  const bool isParted = SkipBlanks(condition);
+  const bool inBrackets = Take(condition, "[");
+  if (!isParted && !inBrackets) return std::nullopt;
+  if (!Take(condition, column) || (inBrackets && !Take(condition, "]"))) return std::nullopt;
+  SkipBlanks(condition);
+  if (!Take(condition, "=")) return std::nullopt;
+  return base::Trim(condition);
 }
 
 }  // namespace
@@ -55,22 +69,17 @@ std::optional<std::int32_t> CodeIn(double code) {
 }
 
 std::int32_t CodeInCondition(std::string_view condition, std::string_view column) {
-  SkipBlanks(condition);
-  Take(condition, "WHERE");
-  SkipBlanks(condition);
-  const bool inBrackets = condition.starts_with('[');
-  if (inBrackets) Take(condition, "[");
-  Take(condition, column);
-  if (inBrackets) Take(condition, "]");
-  SkipBlanks(condition);
-  Take(condition, "=");
-  const std::string number = base::Trim(condition);
-  std::int32_t code = 0;
-  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), code);
-  if (error != std::errc{} || end != number.data() + number.size()) {
-    throw base::RuntimeError(base::Fault::kInvalidArgument);
+  if (const auto number = ComparedIn(condition, column)) {
+    std::int32_t code = 0;
+    const auto [end, error] =
+        std::from_chars(number->data(), number->data() + number->size(), code);
+    if (error == std::errc{} && end == number->data() + number->size()) return code;
   }
-  return code;
+  constexpr std::size_t kShown = 100;
+  throw base::RuntimeError(static_cast<std::int32_t>(base::Fault::kInvalidArgument),
+                           "A condição '" + base::Left(condition, kShown) +
+                               "' não é aceita; ela deve ter a forma 'WHERE " +
+                               std::string(column) + " = número'. Avise o suporte.");
 }
 
 }  // namespace services

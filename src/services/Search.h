@@ -7,10 +7,10 @@
 
 namespace services {
 
-/// A search by part of a name gives no more rows than an operator can look through.
-inline constexpr std::int64_t kMostRows = 200;
+/// A search by part of a name gives no more rows than a pick list opens with.
+inline constexpr std::int64_t kMostRows = 5'000;
 /// For such a selection: one row more than is shown, to know of it.
-inline constexpr std::string_view kLimit = " LIMIT 201";
+inline constexpr std::string_view kLimit = " LIMIT 5001";
 
 /// The form in which a name stands in a column nome_busca: without case, accents and superfluous
 /// blanks.
@@ -24,7 +24,7 @@ std::optional<std::int32_t> CodeIn(std::string_view text);
 std::optional<std::int32_t> CodeIn(double code);
 
 /// The value of the one comparison in a condition text such as " WHERE [T.C]=12 ", where `column`
-/// is "T.C" and the brackets may be missing; error 5 for any other text.
+/// is "T.C" and the brackets may be missing; error 5, with what was expected, for any other text.
 std::int32_t CodeInCondition(std::string_view condition, std::string_view column);
 
 }  // namespace services

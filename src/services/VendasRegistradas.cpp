@@ -50,15 +50,17 @@ void AddTenders(Session& session, VendaRegistrada& sale) {
   }
 }
 
-}  // namespace
+std::string SelectSales(const std::string& which) {
+  return "SELECT numero, data_e_hora, numero_do_caixa, operador, codigo_do_cliente,"
+         " apelido_do_cliente, valor_bruto, valor_liquido, troco, credito_mantido, chave_sat"
+         " FROM vendas " +
+         which;
+}
 
-std::vector<VendaRegistrada> UltimasVendas(Banco& banco, std::int32_t quantas) {
-  static const Statement latest(
-      "SELECT numero, data_e_hora, numero_do_caixa, operador, codigo_do_cliente,"
-      " apelido_do_cliente, valor_bruto, valor_liquido, troco, credito_mantido, chave_sat"
-      " FROM vendas ORDER BY numero DESC LIMIT $1");
+std::vector<VendaRegistrada> ReadSales(Session& session, const Statement& select,
+                                       const Params& params) {
   std::vector<VendaRegistrada> sales;
-  banco.Sessao().Select(latest, {quantas}, [&](const Row& row) {
+  session.Select(select, params, [&](const Row& row) {
     sales.push_back({.numero = row.Number(0),
                      .quando = row.Moment(1),
                      .caixa = row.Number(2),
@@ -74,10 +76,23 @@ std::vector<VendaRegistrada> UltimasVendas(Banco& banco, std::int32_t quantas) {
                      .recebimentos = {}});
   });
   for (VendaRegistrada& sale : sales) {
-    AddItems(banco.Sessao(), sale);
-    AddTenders(banco.Sessao(), sale);
+    AddItems(session, sale);
+    AddTenders(session, sale);
   }
   return sales;
+}
+
+}  // namespace
+
+std::vector<VendaRegistrada> UltimasVendas(Banco& banco, std::int32_t quantas) {
+  static const Statement latest(SelectSales("ORDER BY numero DESC LIMIT $1"));
+  return ReadSales(banco.Sessao(), latest, {quantas});
+}
+
+std::optional<VendaRegistrada> LerVenda(Banco& banco, std::int32_t numero) {
+  static const Statement one(SelectSales("WHERE numero = $1"));
+  const auto sales = ReadSales(banco.Sessao(), one, {numero});
+  return sales.empty() ? std::nullopt : std::optional(sales.front());
 }
 
 std::string NomeDaMoeda(std::int32_t codigo) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,8 @@ struct VendaRegistrada {
 
 /// The last sales, the latest first. Throws DatabaseError.
 std::vector<VendaRegistrada> UltimasVendas(Banco& banco, std::int32_t quantas);
+/// Nothing when there is no such sale. Throws DatabaseError.
+std::optional<VendaRegistrada> LerVenda(Banco& banco, std::int32_t numero);
 
 /// Goes through the books of all sales, registers and customers' credits, and gives a Portuguese
 /// sentence for everything that does not balance; empty when all does. Throws DatabaseError.

@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
 #include "services/Fabricas.h"
+#include "services/Fields.h"
 #include "services/LeituraDeVenda.h"
 #include "services/Movimento.h"
 #include "services/RegistroDeVenda.h"
@@ -17,6 +18,23 @@ namespace {
 using Contrato = servicos::ZOVA_N_Caixa::clsCaixa;
 
 constexpr const char* kValorDoMovimento = "o valor";
+
+using enum Field::Kind;
+
+/// A line of a receipt. Discounts are positive: they are what the customer saved. The day is that
+/// on which the service was done or the product set aside; for what was rung up at the counter, it
+/// is the day of the sale.
+constexpr Field kItensDoComprovante[] = {
+    {"DataDoServicoEfetuadoOuProdutoReservado", kMoment,
+     "coalesce(CAST(p.data_de_lancamento AS text), substr(CAST(v.data_e_hora AS text), 1, 10))"},
+    {"NomeDoAnimal", kText, "i.nome_do_animal"},
+    {"NomeDoServicoOuProduto", kText, "i.nome_do_item"},
+    {"Quantidade", kMoney, "i.quantidade"},
+    {"UnidadeDeVenda", kText, "i.unidade"},
+    {"ValorUnitario", kMoney, "i.valor_unitario"},
+    {"ValorDeDesconto", kMoney, "i.desconto_em_valor"},
+    {"ValorTotal", kMoney, "i.valor_total"},
+};
 
 /// Read when the operation runs, so that what is no number is refused there.
 std::string TextoDe(double numero) {
@@ -111,6 +129,18 @@ class clsCaixa : public SobreBanco<Contrato> {
     });
   }
   std::int32_t NumeroDaVenda() override { return numeroDaVenda_; }
+
+  std::int16_t SelecionarItensDeVenda(std::string_view condicao) override {
+    return Numerado("SelecionarItensDeVenda", [&] {
+      static const Statement lines("SELECT " + ColumnsOf(kItensDoComprovante) +
+                                   " FROM itens_de_venda i"
+                                   " JOIN vendas v ON v.numero = i.numero_da_venda"
+                                   " LEFT JOIN pre_vendas p ON p.numero = i.numero_de_lancamento"
+                                   " WHERE i.numero_da_venda = $1 ORDER BY i.item");
+      const auto numero = CodeInCondition(condicao, "ItensDeVendas.NumeroDaVenda");
+      outcome_.rows = SelectRows(sessao(), kItensDoComprovante, lines, {numero}).rows;
+    });
+  }
 
  private:
   enum class Sinal { kPodeSerZero, kPositivo };

@@ -2,8 +2,9 @@
 
 namespace siblings {
 
-/// Puts the sibling screens of the suite behind their identifiers: the error viewer and the
-/// darkened window; of those that are not there yet, one that says so.
+/// Puts the sibling screens of the suite behind their identifiers: the error viewer, the darkened
+/// window, the sales history, estimates, the codes that a fiscal coupon needs, the promissory note.
+/// What they show they ask the services of siblings/dados for.
 void RegistrarTelas();
 
 }  // namespace siblings

@@ -73,11 +73,51 @@ TEST_P(CommandTest, RefusesTheDemonstrationWhereThereAreData) {
       OnDatabase("demonstracao"));
 }
 
+TEST_P(CommandTest, ChangesTheCompanyAllOrNothing) {
+  EXPECT_EQ("1 Não há empresa cadastrada. Cadastre-a antes.\n", OnDatabase("empresa"));
+  Write(
+      "INSERT INTO empresa (codigo, nome_fantasia, formato_de_codigo_de_barras_para_balanca,"
+      " codigo_do_documento_com_emissao_permitida) VALUES (1, 'Bicho Contente', '2', '0')");
+  const std::string before = OnDatabase("empresa");
+  EXPECT_THAT(before, testing::StartsWith("0 NomeFantasia=Bicho Contente\n"));
+  const struct {
+    const char* setting;
+    const char* refusal;
+  } refused[] = {
+      {"Cor=Azul", "A empresa não tem o ajuste 'Cor'."},
+      {"ImprimirNotaPromissoria=talvez", "informe Sim ou Não"},
+      {"PercPromocaoDeDescontoNaVendaDeProduto=100,01", "um percentual de 0 a 100"},
+      {"PercPromocaoDeDescontoNaVendaDeProduto=-1", "um percentual de 0 a 100"},
+      {"PercPromocaoDeDescontoNaVendaDeProduto=", "um percentual de 0 a 100"},
+      {"DataInicialDaPromocao=31/11/2026", "uma data como 22/11/2026"},
+      {"DataInicialDaPromocao=01/11/2026", "formam um período"},
+      {"DataInicialDaPromocao=02/11/2026 DataFinalDaPromocao=01/11/2026", "formam um período"},
+      {"FormatoDeCodigoDeBarrasParaBalanca=3", "1 (preço na etiqueta) ou 2 (peso na etiqueta)"},
+      {"CodigoDoDocumentoComEmissaoPermitida=12", "11 (CF-e SAT) ou 0 (nenhum)"},
+      {"NomeFantasia=", "informe um texto"}};
+  for (const auto& [setting, refusal] : refused) {
+    const std::string answer = OnDatabase(std::string("empresa NomeFantasia=Outra ") + setting);
+    EXPECT_EQ("1 ", answer.substr(0, 2)) << setting;
+    EXPECT_THAT(answer, HasSubstr(refusal)) << setting;
+    EXPECT_EQ(before, OnDatabase("empresa")) << setting;
+  }
+  EXPECT_THAT(
+      OnDatabase("empresa ImprimirNotaPromissoria=sim DataInicialDaPromocao=01/11/2026"
+                 " DataFinalDaPromocao=01/11/2026 PercDeDescontoLimiteDaVendaNoCaixa=12,5"
+                 " CodigoDoDocumentoComEmissaoPermitida=11"),
+      testing::AllOf(HasSubstr("\nDataInicialDaPromocao=01/11/2026\nDataFinalDaPromocao=01/11/2026"
+                               "\nPercPromocaoDeDescontoNaVendaDeServico=0,00\n"),
+                     HasSubstr("\nPercDeDescontoLimiteDaVendaNoCaixa=12,50\n"),
+                     HasSubstr("\nImprimirNotaPromissoria=Sim\n"),
+                     HasSubstr("\nCodigoDoDocumentoComEmissaoPermitida=11\n")));
+}
+
 TEST(CommandLineTest, WhatIsNotUnderstoodExitsWithTwo) {
   for (const char* arguments :
        {"", "sqlite:x.db", "sqlite:x.db apagar", "sqlite:x.db criar já", "sqlite:x.db liberar",
         "sqlite:x.db liberar zero", "sqlite:x.db vendas -1", "--nada", "sqlite:x.db vendas 1 2",
-        "sqlite:x.db demonstracao --agora", "sqlite:x.db demonstracao --agora ontem"}) {
+        "sqlite:x.db demonstracao --agora", "sqlite:x.db demonstracao --agora ontem",
+        "sqlite:x.db venda", "sqlite:x.db cliente Ana", "sqlite:x.db empresa Cor"}) {
     const std::string answer = AnswerTo(arguments);
     EXPECT_EQ("2 ", answer.substr(0, 2)) << arguments;
     EXPECT_THAT(answer, HasSubstr("Uso: caixa-banco BANCO COMANDO")) << arguments;

@@ -253,8 +253,8 @@ TEST_P(OpeningTest, ANewerSchemaIsLeftAlone) {
   Write("UPDATE esquema_do_caixa SET versao = 99");
   const auto [why, words] = WhyNot(address_);
   EXPECT_EQ(Motivo::kEsquemaMaisNovo, why);
-  EXPECT_THAT(words,
-              HasSubstr("(esquema 99; este programa conhece até o 1). Atualize este programa."));
+  EXPECT_THAT(words, HasSubstr("(esquema 99; este programa conhece até o " +
+                               std::to_string(CurrentSchema()) + "). Atualize este programa."));
   EXPECT_THROW(CriarBanco(address_), FalhaDeAbertura);
   EXPECT_EQ("99", Read("SELECT versao FROM esquema_do_caixa"));
 }

@@ -1,0 +1,135 @@
+#include "siblings/EscolhaDeItem.h"
+
+#include <string_view>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "frame/Mensagens.h"
+#include "frame/PainelDeMensagem.h"
+#include "frame/modMensagemDeErro.h"
+#include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
+#include "frame/servicos/ZOVA_N_Servicos.clsServicos.h"
+#include "lookup/PesquisaDeCliente.h"
+#include "lookup/frmPesquisaDeProdutos.h"
+#include "lookup/frmPesquisaDeServicos.h"
+#include "siblings/Sessao.h"
+
+namespace siblings {
+namespace {
+
+using dados::Orcamento;
+using servicos::ZOVA_N_Produtos::clsProdutos;
+using servicos::ZOVA_N_Servicos::clsServicos;
+
+constexpr std::size_t kMenorPesquisa = 3;
+
+/// Where a kind of item is found, and what its record calls things.
+struct Fonte {
+  std::string_view oQue, codigo, codigoDeBarras, unidade;
+};
+constexpr Fonte kServicos{"serviço", "Codigo", "", ""};
+constexpr Fonte kProdutos{"produto", "CodigoInterno", "CodigoDeBarras", "UnidadeDeVenda"};
+
+const Fonte& FonteDe(TipoDeItem tipo) {
+  return tipo == TipoDeItem::kServico ? kServicos : kProdutos;
+}
+
+struct Encontrados {
+  base::RecordSetPtr registros;
+  std::string aviso;  ///< What the service has to say of them, such as that there are more.
+};
+
+/// Nothing after a fault, which has been reported.
+template <class Classe, class Tipo>
+std::optional<Encontrados> Selecionar(const std::string& texto, Tipo tipo) {
+  auto servico = CriarServico<Classe>();
+  if (servico->Selecionar(2, 0, 1, texto, tipo)) {
+    frame::ExibirErroDoServico(*servico);
+    return std::nullopt;
+  }
+  return Encontrados{servico->ResultadoDaSelecaoEmRecordSet(), servico->DescricaoDaFalha()};
+}
+
+Orcamento::Item ItemDe(const base::RecordSet& registro, TipoDeItem tipo) {
+  const Fonte& fonte = FonteDe(tipo);
+  Orcamento::Item item;
+  item.tipoDeLancamento = static_cast<std::int32_t>(tipo);
+  item.codigo = base::ToInt32(registro.Fields(fonte.codigo));
+  item.nome = base::ToText(registro.Fields("Nome"));
+  if (!fonte.unidade.empty()) item.unidade = base::ToText(registro.Fields(fonte.unidade));
+  item.valorUnitario = base::ToCurrency(registro.Fields("ValorDeVenda"));
+  return item;
+}
+
+/// Whether the record is the one whose code or barcode was asked for, and no mere likeness.
+bool TemOCodigo(const base::RecordSet& registro, const Fonte& fonte, const std::string& texto) {
+  if (base::ToText(registro.Fields(fonte.codigo)) == texto) return true;
+  return !fonte.codigoDeBarras.empty() &&
+         base::ToText(registro.Fields(fonte.codigoDeBarras)) == texto;
+}
+
+std::optional<Encontrados> Selecionar(TipoDeItem tipo, const std::string& texto) {
+  return tipo == TipoDeItem::kServico ? Selecionar<clsServicos>(texto, std::int32_t{0})
+                                      : Selecionar<clsProdutos>(texto, std::string_view());
+}
+
+/// The code of the one that the operator picks from the list; empty when he leaves.
+std::string Escolher(lookup::frmPesquisa& lista, const Encontrados& encontrados,
+                     std::string_view codigo) {
+  std::int16_t falha = 0;
+  lista.ConfigurarGrade(falha);
+  if (falha == 0) lista.PreencherGrade(encontrados.registros, falha, encontrados.aviso);
+  if (falha == 0) lista.ShowModal();
+  std::string escolhido;
+  if (falha == 0 && lista.RegistroSelecionado()) {
+    escolhido = base::ToText(lista.Escolhido()->Fields(codigo));
+  }
+  lista.Unload();
+  return escolhido;
+}
+
+std::string Escolher(const Encontrados& encontrados, TipoDeItem tipo) {
+  const std::string_view codigo = FonteDe(tipo).codigo;
+  if (tipo == TipoDeItem::kProduto) {
+    lookup::frmPesquisaDeProdutos produtos;
+    return Escolher(produtos, encontrados, codigo);
+  }
+  lookup::frmPesquisaDeServicos servicos;
+  servicos.EfetuarOPreenchimentoDaComboboxTiposDeServicos(true);
+  return Escolher(servicos, encontrados, codigo);
+}
+
+}  // namespace
+
+std::optional<Orcamento::Item> EscolherItem(platform::Form& tela, TipoDeItem tipo,
+                                            const std::string& texto) {
+  const Fonte& fonte = FonteDe(tipo);
+  if (base::Length(texto) < kMenorPesquisa && !base::IsNumeric(texto)) {
+    frame::Informar(lookup::kTresCaracteres);
+    return std::nullopt;
+  }
+  std::optional<Encontrados> encontrados;
+  {
+    const frame::PonteiroDeEspera espera(tela, platform::kHourglassPointer);
+    encontrados = Selecionar(tipo, texto);
+  }
+  if (!encontrados) return std::nullopt;
+  encontrados->registros->MoveFirst();
+  if (encontrados->registros->RecordCount() == 0) {
+    frame::Informar("Nenhum " + std::string(fonte.oQue) + " encontrado com '" + texto +
+                    "'. Confira o código ou digite outra parte do nome.");
+    return std::nullopt;
+  }
+  if (encontrados->registros->RecordCount() > 1 &&
+      !TemOCodigo(*encontrados->registros, fonte, texto)) {
+    // The list has its own search, and so may give what was not among these.
+    const std::string codigo = Escolher(*encontrados, tipo);
+    if (codigo.empty()) return std::nullopt;
+    encontrados = Selecionar(tipo, codigo);
+    if (!encontrados || encontrados->registros->RecordCount() == 0) return std::nullopt;
+    encontrados->registros->MoveFirst();
+  }
+  return ItemDe(*encontrados->registros, tipo);
+}
+
+}  // namespace siblings
