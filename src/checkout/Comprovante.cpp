@@ -23,6 +23,14 @@ using frame::valores;
 
 namespace {
 
+constexpr std::string_view kSemEmpresa =
+    "Não foi possível imprimir o documento porque não há empresa cadastrada.\n"
+    "Selecione a guia (aba) 'Cadastros' e em seguida, clique na opções 'Empresa'. Efetue o "
+    "cadastro e solicite a impressão novamente";
+constexpr std::string_view kSemItens =
+    "Não foi possível imprimir porque os dados não foram localizados.\n"
+    "Tente a impressão novamente";
+
 /// Prints a paper, asking first where the company wants that.
 template <class Impressao>
 void Imprimir(frame::Espera& espera, bool perguntar, std::string_view pergunta,
@@ -48,19 +56,22 @@ Recebimento LerRecebimento(const base::GradeLida& pagamentos) {
   std::string nome, lista;
   int formas = 0;
   for (std::int32_t linha = 1; linha < pagamentos.Rows(); ++linha) {
-    const std::string forma = pagamentos.TextMatrix(linha, kColunaForma);
-    const std::string valor = pagamentos.TextMatrix(linha, kColunaValor);
+    const std::string& forma = pagamentos.TextMatrix(linha, kColunaForma);
+    if (forma.empty()) continue;  // A sale of nothing was paid with nothing.
+    const std::string& valor = pagamentos.TextMatrix(linha, kColunaValor);
     const Currency quantia = base::ToCurrency(valor);
+    ++formas;
     if (frame::CodigoDaForma(forma) == frame::kACredito) {
-      recebimento.aReceber = recebimento.aReceber + quantia;
+      recebimento.aReceber += quantia;
       continue;
     }
-    recebimento.pago = recebimento.pago + quantia;
+    recebimento.pago += quantia;
     // What follows "N-".
     nome = forma.substr(std::min<std::size_t>(2, forma.size()));
-    if (++formas > 1) lista += " / ";
-    lista += nome + ": " + valor;
+    if (!lista.empty()) lista += " / ";
+    lista.append(nome).append(": ").append(valor);
   }
+  // Beside another tender, one on credit too, each is told with its value.
   const std::string& quais = formas == 1 ? nome : lista;
   recebimento.rotulo = quais.empty() ? "Valor Pago:" : "Valor Pago (" + quais + "):";
   return recebimento;
@@ -74,9 +85,7 @@ base::RecordSetPtr ItensDaVenda(std::int32_t numeroDaVenda) {
   if (!frame::Aceitar(resultado, *caixa)) return nullptr;
   base::RecordSetPtr itens = caixa->ResultadoDaSelecaoEmRecordSet();
   if (itens->RecordCount() > 0) return itens;
-  frame::Informar(
-      "Não foi possível imprimir porque os dados não foram localizados.\nTente a impressão "
-      "novamente");
+  frame::Informar(kSemItens);
   return nullptr;
 }
 
@@ -98,11 +107,7 @@ void frmCaixaPagar::ImprimirComprovanteDePagamentoDeVenda(std::int32_t numeroDaV
         const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
         if (leitura.falhou) return;
         if (!leitura.Cadastrada()) {
-          frame::Informar(
-              "Não foi possível imprimir o documento porque não há empresa cadastrada.\nSelecione "
-              "a "
-              "guia (aba) 'Cadastros' e em seguida, clique na opções 'Empresa'. Efetue o cadastro "
-              "e solicite a impressão novamente");
+          frame::Informar(kSemEmpresa);
           return;
         }
         ponto = 3;

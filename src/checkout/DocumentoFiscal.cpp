@@ -45,18 +45,6 @@ bool EhConsumidorFinal(const std::string& nome) {
   return base::Contains(base::Upper(nome), "CONSUMIDOR");
 }
 
-/// Takes a screen off the display while another one is open in its place.
-class Escondida {
- public:
-  explicit Escondida(platform::Form& formulario) : formulario_(formulario) { formulario_.Hide(); }
-  ~Escondida() { formulario_.Show(); }
-  Escondida(const Escondida&) = delete;
-  Escondida& operator=(const Escondida&) = delete;
-
- private:
-  platform::Form& formulario_;
-};
-
 }  // namespace
 
 /// Issues the fiscal coupon of a sale with products. False: the confirmation stops here, with the
@@ -79,11 +67,11 @@ bool frmCaixaPagar::EmitirDocumentoFiscal(frame::Espera& espera) {
   return valores().ConfirmarAVendaNoCaixaMesmoComFalhaNaEmissaoDoCFeSAT;
 }
 
+/// Asks whom the coupon is to name; the dialog stands in the place of the checkout meanwhile.
 frmCaixaPagar::Consumidor frmCaixaPagar::PerguntarConsumidor() {
-  {
-    const Escondida escondida(*this);
-    frmCaixaInformarCPFCNPJ().MontarExibirFormulario();
-  }
+  Hide();
+  frmCaixaInformarCPFCNPJ().MontarExibirFormulario();
+  Show();
   switch (frmCaixaInformarCPFCNPJ::TipoDeEnvio) {
     case frmCaixaInformarCPFCNPJ::kOutroCPF:
     case frmCaixaInformarCPFCNPJ::kOutroCNPJ:
@@ -129,6 +117,7 @@ Currency frmCaixaPagar::MontarRegistrosSAT() {
     const auto celula = [&](std::int32_t coluna) -> const std::string& {
       return msfgGrade.TextMatrix(linha, coluna);
     };
+    if (celula(kColunaForma).empty()) continue;
     MontarRegistroDeFormasDePagamentosSAT(
         base::ToText(++sequencia), frame::CodigoDaForma(celula(kColunaForma)), celula(kColunaValor),
         celula(kColunaVencimento), celula(kColunaNumeroDoLancamento), totalDeProdutos);

@@ -1,5 +1,6 @@
 #include "fiscal/TrocaDeArquivosCFeSAT.h"
 
+#include <exception>
 #include <optional>
 
 #include "base/Numbers.h"
@@ -70,6 +71,22 @@ void SeguirAposErro(Acao acao) {
   } catch (const RuntimeError&) {
   }
 }
+
+/// Takes the file handed over back when the host closes in the middle of the exchange: its sale is
+/// never registered then, and no coupon may be issued from a file that nobody has read yet.
+class EnvioEmAberto {
+ public:
+  explicit EnvioEmAberto(const std::string& arquivo) : arquivo_(arquivo) {}
+  ~EnvioEmAberto() {
+    if (std::uncaught_exceptions() > antes_) SeguirAposErro([&] { ApagarSeExistir(arquivo_); });
+  }
+  EnvioEmAberto(const EnvioEmAberto&) = delete;
+  EnvioEmAberto& operator=(const EnvioEmAberto&) = delete;
+
+ private:
+  const std::string& arquivo_;
+  const int antes_ = std::uncaught_exceptions();
+};
 
 /// Lets the screens live until the file is there, or gone, as `presente` says. The clock is read
 /// again after each presence test, which on a slow network takes its time: when that brings the
@@ -157,6 +174,7 @@ bool TrocaDeArquivosCFeSAT::ExportarDadosCFeSATParaArquivo(std::string_view cabe
         ponto = 4;
         if (!Desktop::Current().FileExists(envio)) return;
         ponto = 5;
+        const EnvioEmAberto emAberto(envio);
         if (!EsperarQueLeiam(envio)) return;
         ponto = 6;
         if (!EsperarQueRespondam(retorno)) return;

@@ -139,5 +139,12 @@ TEST_F(TheExchange, GivesUpAfterFourReadings) {
   EXPECT_EQ(frame::valores().ChaveSAT, "KEY");
 }
 
+// The sale of a host that closes is never registered: no coupon may still be issued from its file.
+TEST_F(TheExchange, TakesTheFileBackWhenTheHostCloses) {
+  desktop.After(1, [this] { desktop.Close(); });
+  EXPECT_THROW(Export("|OK||KEY|"), platform::Shutdown);
+  EXPECT_EQ(Files(), "retorno ");
+}
+
 }  // namespace
 }  // namespace fiscal
