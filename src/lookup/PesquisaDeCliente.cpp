@@ -66,7 +66,7 @@ base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
     return nullptr;
   }
   if (encontrados->RecordCount() > 1) {
-    return EscolherDaLista(encontrados, clientes->DescricaoDaFalha());
+    return EscolherDaLista(encontrados, frmPesquisa::AvisoDaSelecao(*clientes, *encontrados));
   }
   encontrados->MoveFirst();
   const auto recusa = RecusaDaSituacao(base::ToInt32(encontrados->Fields("Situacao")));

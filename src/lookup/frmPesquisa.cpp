@@ -33,7 +33,7 @@ frmPesquisa::frmPesquisa(const Pesquisa& pesquisa)
 
 platform::Layout frmPesquisa::Desenho(std::vector<platform::Place> acima,
                                       std::int32_t inicioDoCampo) {
-  constexpr std::int32_t kLargura = 13200, kAltura = 8550;
+  constexpr std::int32_t kLargura = 13200, kAltura = 8670;
   constexpr unsigned kAoLado = platform::kHoldWidth;
   const std::int32_t larguraDoCampo = kLargura - inicioDoCampo - 240;
   platform::Layout desenho{.size = {kLargura, kAltura}, .places = {}};
@@ -48,9 +48,9 @@ platform::Layout frmPesquisa::Desenho(std::vector<platform::Place> acima,
   lugares.push_back(
       {zvfndCampo, {inicioDoCampo, 1125, larguraDoCampo, 450}, "", Look::kNormal, kAoLado});
   lugares.push_back(
-      {msfgGrade, {240, 1755, kLargura - 480, 5760}, "", Look::kNormal, platform::kHoldAll});
+      {msfgGrade, {240, 1755, kLargura - 480, 5880}, "", Look::kNormal, platform::kHoldAll});
   lugares.push_back({picRodape,
-                     {0, 7695, kLargura, 855},
+                     {0, 7815, kLargura, 855},
                      "",
                      Look::kFooter,
                      platform::kHoldLeft | platform::kHoldRight | platform::kHoldBottom});
@@ -129,9 +129,14 @@ frmPesquisa::Encontrados frmPesquisa::Resultado(servicos::ServicoDeNegocio& serv
     frame::ExibirErroDoServico(servico);
     return {};
   }
-  Encontrados encontrados{servico.ResultadoDaSelecaoEmRecordSet(), {}};
-  if (encontrados.registros->RecordCount() > 1) encontrados.aviso = servico.DescricaoDaFalha();
-  return encontrados;
+  const base::RecordSetPtr registros = servico.ResultadoDaSelecaoEmRecordSet();
+  return {registros, AvisoDaSelecao(servico, *registros)};
+}
+
+std::string frmPesquisa::AvisoDaSelecao(servicos::ServicoDeNegocio& servico,
+                                        const base::RecordSet& registros) {
+  constexpr std::int32_t kSelecaoLonga = 1'000;
+  return registros.RecordCount() < kSelecaoLonga ? std::string() : servico.DescricaoDaFalha();
 }
 
 void frmPesquisa::Form_Load() {

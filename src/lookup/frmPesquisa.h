@@ -62,6 +62,11 @@ class frmPesquisa : public platform::Form {
   void CentralizarpicMensagem() { painel_.Centralizar(); }
   void ExibirOcultarpicMensagem(bool exibir) { painel_.ExibirOcultar(exibir, false); }
 
+  /// What a service says of a selection that leaves out some of what it found; empty for a whole
+  /// one. Only long selections are asked for it.
+  static std::string AvisoDaSelecao(servicos::ServicoDeNegocio& servico,
+                                    const base::RecordSet& registros);
+
   /// A field of a record and the column of the grid that holds it.
   struct CampoDaLinha {
     std::string_view campo;

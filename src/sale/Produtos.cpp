@@ -40,11 +40,12 @@ void NadaEncontrado(const std::string& mensagem) {
 }
 
 /// Shows a pick list with what was found; whether the operator chose a row.
-bool EscolherDaLista(lookup::frmPesquisa& lista, const base::RecordSetPtr& encontrados) {
+bool EscolherDaLista(lookup::frmPesquisa& lista, const base::RecordSetPtr& encontrados,
+                     const std::string& aviso) {
   const frame::FundoEscuro fundo;
   std::int16_t falha = 0;
   lista.ConfigurarGrade(falha);
-  if (falha == 0) lista.PreencherGrade(encontrados, falha);
+  if (falha == 0) lista.PreencherGrade(encontrados, falha, aviso);
   if (falha == 1) return false;
   lista.ShowModal();
   return lista.RegistroSelecionado();
@@ -54,7 +55,7 @@ bool EscolherDaLista(lookup::frmPesquisa& lista, const base::RecordSetPtr& encon
 
 base::RecordSetPtr frmCaixaOperar::SelecionarProduto(const std::string& nome,
                                                      const std::string& codigoDeBarras,
-                                                     double codigoInterno) {
+                                                     double codigoInterno, std::string* aviso) {
   frame::Espera espera(painelDeMensagem_);
   auto produtos = servicos::CriarServico<servicos::ZOVA_N_Produtos::clsProdutos>();
   std::string nomeProcurado = nome, codigoProcurado = codigoDeBarras;
@@ -73,6 +74,7 @@ base::RecordSetPtr frmCaixaOperar::SelecionarProduto(const std::string& nome,
     return nullptr;
   }
   linhas->MoveFirst();
+  if (aviso != nullptr) *aviso = lookup::frmPesquisa::AvisoDaSelecao(*produtos, *linhas);
   return linhas;
 }
 
@@ -80,7 +82,9 @@ bool frmCaixaOperar::PesquisarProduto(const std::string& nome, const std::string
                                       double codigoInterno) {
   bool encontrado = false;
   Procedimento(", frmCaixaOperar, PesquisarProduto, Ponto: ", [&](Ponto& ponto) {
-    const base::RecordSetPtr linhas = SelecionarProduto(nome, codigoDeBarras, codigoInterno);
+    std::string aviso;
+    const base::RecordSetPtr linhas =
+        SelecionarProduto(nome, codigoDeBarras, codigoInterno, &aviso);
     if (!linhas) return;
     ponto = 2;
     if (linhas->RecordCount() == 1) {
@@ -89,7 +93,7 @@ bool frmCaixaOperar::PesquisarProduto(const std::string& nome, const std::string
     }
     ponto = 3;
     lookup::frmPesquisaDeProdutos lista;
-    if (EscolherDaLista(lista, linhas)) encontrado = ReceberProduto(*lista.Produto());
+    if (EscolherDaLista(lista, linhas, aviso)) encontrado = ReceberProduto(*lista.Produto());
     lista.Unload();
   });
   return encontrado;
@@ -146,8 +150,9 @@ bool frmCaixaOperar::PesquisarServico(std::int16_t tipo, const std::string& nome
     }
     ponto = 5;
     lookup::frmPesquisaDeServicos lista;
+    const std::string aviso = lookup::frmPesquisa::AvisoDaSelecao(*catalogo, *linhas);
     lista.CopiarTiposDeServicos(zvcmbTiposDeServicos);
-    if (EscolherDaLista(lista, linhas)) encontrado = ReceberServico(*lista.Escolhido());
+    if (EscolherDaLista(lista, linhas, aviso)) encontrado = ReceberServico(*lista.Escolhido());
     lista.Unload();
   });
   return encontrado;

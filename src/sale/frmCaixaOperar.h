@@ -270,8 +270,9 @@ class frmCaixaOperar final : public platform::Form {
   bool ProcurarServicoDosCampos();
   bool ReceberProduto(const base::RecordSet& produto);
   bool ReceberServico(const base::RecordSet& servico);
+  /// `aviso`, where given, becomes what the service says of a selection that is not whole.
   base::RecordSetPtr SelecionarProduto(const std::string& nome, const std::string& codigoDeBarras,
-                                       double codigoInterno);
+                                       double codigoInterno, std::string* aviso = nullptr);
   void AbrirCamposDoProdutoEncontrado();
   std::vector<platform::ZVFind*> Companheiros(const platform::ZVFind& campo);
   void RecomecarItem(platform::ZVFind& campo);

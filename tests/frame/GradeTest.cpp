@@ -90,6 +90,17 @@ TEST_F(Grade, SortsByTheKindOfItsColumn) {
   EXPECT_EQ(grade.TextMatrix(1, 4), "20260101");
 }
 
+TEST_F(Grade, IsRedrawnOnceForAStretchThatHoldsOthers) {
+  const std::int32_t before = grade.Revision();
+  {
+    const SemRedesenho semRedesenho(grade);
+    ConfigurarColunas(grade, kColunas);
+    grade.TextMatrix(1, 0, "7");
+    EXPECT_EQ(grade.Revision(), before);
+  }
+  EXPECT_EQ(grade.Revision(), before + 1);
+}
+
 TEST_F(Grade, ScrollsByAPageUnderTheWheel) {
   const auto wheel = [&](std::int32_t delta) {
     platform::input::Wheel(grade, delta);
