@@ -1,6 +1,7 @@
 #include <stdexcept>
 
 #include "clinic/Goods.h"
+#include "counter/Cases.h"
 #include "counter/Counter.h"
 #include "support/Bench.h"
 
@@ -40,7 +41,7 @@ double OneMore(Counter& counter, Work work) {
 
 }  // namespace
 
-void Register() {
+void AddLines() {
   constexpr int kRounds = 1'000;
   Add("line/add", kRounds, [](benchmark::State& state) {
     Counter counter(ClinicWithProducts());

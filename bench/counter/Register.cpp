@@ -1,0 +1,7 @@
+#include "counter/Cases.h"
+#include "support/Bench.h"
+
+void bench::Register() {
+  AddLines();
+  AddFiscalText();
+}
