@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <memory>
 
 #include "desktop/DesktopQt.h"
@@ -37,7 +38,7 @@ class HostTest : public testing::Test {
     services::CriarBanco(address);
     bank = services::AbrirBanco(address, desktop, desktop.ComputerName());
     users = services::CriarDemonstracao(*bank);
-    services::RegistrarServicos(bank);
+    services::RegistrarServicos(bank, [this] { desktop.ProcessEvents(); });
     siblings::RegistrarTelas();
     window = std::make_unique<host::MainWindow>(desktop);
     window->onClosed = [this] { closed = true; };
@@ -149,6 +150,24 @@ TEST_F(HostTest, NoCaptionOfCounterAndPaymentIsCut) {
   });
 }
 
+TEST_F(HostTest, ClosingWhileThePasswordIsVerifiedEndsTheSignIn) {
+  bool inTheMiddle = false;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    if (desktop.IsIdle() || inTheMiddle) return;
+    inTheMiddle = true;
+    window->close();
+    EXPECT_FALSE(closed) << "the sign-in still stood on the stack";
+  });
+  watch.start(1);
+  Play({{Act::kType, "zvtxtUsuario", "{usuario}"},
+        {Act::kType, "zvtxtSenha", "{senha}"},
+        {Act::kClick, "zvcmdEntrar"}},
+       [] {});
+  EXPECT_TRUE(inTheMiddle) << "the screen stood still";
+  EXPECT_EQ(platform::screens::Front()->Name(), "frmEntrada");
+}
+
 TEST_F(HostTest, AWrongPasswordIsToldOnTheSpot) {
   const std::vector<Step> script{
       {Act::kClick, "zvcmdEntrar"},
@@ -231,13 +250,24 @@ TEST_F(ProgramTest, WithoutAScreenItSaysSo) {
   EXPECT_NE(ended.complained.find("--demonstracao"), std::string::npos);
 }
 
-TEST_F(ProgramTest, TheDemonstrationSellsThroughTheWindows) {
+TEST_F(ProgramTest, TheDemonstrationSellsThroughTheWindowsWithCouponAndReceipt) {
+  QProcess integrator;
+  ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("demo/cfe")));
+  integrator.start(QStringLiteral(INTEGRATOR_PROGRAM), {Path("demo/cfe")});
   const Ended ended = Run({QStringLiteral("--demonstracao"), Path("demo")}, false);
+  integrator.kill();
+  integrator.waitForFinished();
+  const QString answered = QString::fromUtf8(integrator.readAllStandardOutput());
   EXPECT_EQ(ended.status, 0) << ended.complained;
   EXPECT_NE(ended.said.find("Líquido a pagar: 320,40"), std::string::npos) << ended.said;
   EXPECT_NE(ended.said.find("Troco: -29,60"), std::string::npos);
+  const QString key = answered.section(QStringLiteral("Emitido: "), 1).left(44);
+  EXPECT_EQ(key.size(), 44) << answered.toStdString();
+  EXPECT_NE(ended.said.find("com o cupom de chave " + key.toStdString()), std::string::npos)
+      << ended.said;
+  EXPECT_TRUE(QFile::exists(Path("demo/comprovante.pdf")));
   const QStringList pictures = QDir(Path("demo")).entryList({QStringLiteral("*.png")});
-  EXPECT_GE(pictures.size(), 10);
+  EXPECT_GE(pictures.size(), 12);
   EXPECT_FALSE(pictures.contains(QStringLiteral("falha.png")));
 }
 

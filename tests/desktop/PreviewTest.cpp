@@ -3,7 +3,12 @@
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
+#include <cstdint>
+#include <string>
+#include <vector>
 
+#include "base/Numbers.h"
+#include "base/Text.h"
 #include "desktop/Convert.h"
 #include "desktop/Stage.h"
 #include "desktop/reports/Pdf.h"
@@ -188,12 +193,56 @@ TEST_F(PreviewTest, WithoutItsPrinterADocumentComesOnTheScreen) {
 TEST_F(PreviewTest, AFileThatCannotBeReplacedStaysWhole) {
   const auto pages = platform::Compose(*support::ReceiptOf(1), desktop::reports::QtMeasure(),
                                        base::DateTime(2026, 11, 22));
-  EXPECT_THROW(desktop::reports::WritePdf(pages, folder.File("falta/venda.pdf")),
-               std::runtime_error);
+  const auto fault = [&](const std::string& file) -> std::string {
+    try {
+      desktop::reports::WritePdf(pages, folder.File(file));
+    } catch (const std::runtime_error& failure) {
+      return failure.what();
+    }
+    return "";
+  };
+  EXPECT_TRUE(base::Contains(fault("falta/venda.pdf"), "A pasta não existe"));
   // A folder of that name cannot be replaced, and nothing else is left beside it.
   QDir().mkpath(PathOf(QStringLiteral("venda.pdf")));
-  EXPECT_THROW(desktop::reports::WritePdf(pages, folder.File("venda.pdf")), std::runtime_error);
+  EXPECT_TRUE(base::Contains(fault("venda.pdf"), "Já existe uma pasta com este nome"));
   EXPECT_TRUE(Files().isEmpty());
+}
+
+// A line of the longest names and the highest amounts, in the faces that it is printed in.
+TEST_F(PreviewTest, OnAReceiptNothingIsCutTouchesOrLeavesThePaper) {
+  const desktop::reports::QtMeasure measure;
+  for (const platform::Paper& paper : {platform::kA4Paper, platform::kRoll80Paper}) {
+    const auto receipt = support::ReceiptOf(1, paper);
+    const base::Currency much = base::ToCurrency("1234567,89");
+    receipt->DataSource->Append({base::DateTime(2026, 11, 22), std::string(60, 'W'),
+                                 std::string(90, 'W'), base::ToCurrency("0,255"), "FRASCO", much,
+                                 much, much});
+    receipt->lblNomeFantasiaDaEmpresa.Caption = "Clínica " + std::string(90, 'W');
+    receipt->lblCodigoENomeOuRazaoSocialDoCliente.Caption = std::string(120, 'W');
+    receipt->txtTotalDosServicosEProdutos.Caption = base::FormatMoney(much);
+    const auto pages = platform::Compose(*receipt, measure, base::DateTime(2026, 11, 22));
+    const auto left = [&](const platform::PrintedText& text) {
+      const std::int32_t spare = text.width - measure.Width(text.text, text.font);
+      if (text.align == platform::ReportAlign::kLeft) return text.left;
+      return text.left + (text.align == platform::ReportAlign::kRight ? spare : spare / 2);
+    };
+    const auto right = [&](const platform::PrintedText& text) {
+      return left(text) + measure.Width(text.text, text.font);
+    };
+    const std::vector<platform::PrintedText>& texts = pages.pages.front().texts;
+    for (const platform::PrintedText& text : texts) {
+      EXPECT_FALSE(base::Contains(text.text, "…")) << text.text;
+      EXPECT_GE(left(text), paper.sideMargin) << text.text;
+      EXPECT_LE(right(text), paper.width - paper.sideMargin) << text.text;
+      for (const platform::PrintedText& other : texts) {
+        if (other.top + other.height <= text.top || text.top + text.height <= other.top) continue;
+        constexpr std::int32_t kMillimetre = 57;
+        const bool apart =
+            right(text) + kMillimetre <= left(other) || right(other) + kMillimetre <= left(text);
+        EXPECT_TRUE(&other == &text || apart) << text.text << " touches " << other.text;
+      }
+    }
+  }
 }
 
 TEST_F(PreviewTest, TheHostMayCloseMeanwhile) {

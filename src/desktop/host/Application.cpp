@@ -13,12 +13,15 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "base/DateTime.h"
 #include "desktop/Convert.h"
 #include "desktop/DesktopQt.h"
 #include "desktop/Fonts.h"
@@ -28,9 +31,14 @@
 #include "desktop/host/Process.h"
 #include "desktop/host/ScreenFile.h"
 #include "desktop/host/Scripts.h"
+#include "desktop/host/Settings.h"
+#include "frame/modMensagemDeErro.h"
 #include "frame/servicos/Servico.h"
+#include "services/AjustesDaEmpresa.h"
 #include "services/Banco.h"
 #include "services/Demonstracao.h"
+#include "services/ExportacaoFiscal.h"
+#include "services/FichaDaVenda.h"
 #include "services/RegistrarServicos.h"
 #include "siblings/RegistrarTelas.h"
 
@@ -42,7 +50,22 @@ namespace fs = std::filesystem;
 constexpr const char* kName = "caixa";
 constexpr const char* kDefaultDatabase = "caixa.db";
 constexpr const char* kDemonstrationDatabase = "demonstracao.db";
+constexpr const char* kExchangeFolder = "cfe";
+constexpr const char* kReceipt = "comprovante.pdf";
 constexpr QSize kUsualSize{1024, 768};
+
+/// What a script shows of the papers of a sale; it ends, whether a coupon is answered or not.
+constexpr std::pair<const char*, const char*> kShownPapers[] = {
+    {"CodigoDoDocumentoComEmissaoPermitida", "11"},
+    {"ImprimirComprovanteDeCFeSAT", "Sim"},
+    {"SolicitarConfirmacaoParaImprimirComprovanteDeCFeSAT", "Sim"},
+    {"ConfirmarAVendaNoCaixaMesmoComFalhaNaEmissaoDoCFeSAT", "Sim"},
+    {"ImprimirComprovanteDePagamento", "Sim"},
+    {"VisualizarImpressaoDoComprovanteDePagamento", "Sim"},
+    {"ImprimirNotaPromissoria", "Sim"},
+    {"SolicitarConfirmacaoParaImprimirNotaPromissoria", "Sim"},
+    {"VisualizarImpressaoDaNotaPromissoria", "Sim"},
+};
 
 bool HasDisplay() {
   return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr ||
@@ -118,7 +141,9 @@ class Application {
 
   /// Throws std::runtime_error with a sentence for the operator.
   int Run() {
+    ReadSettings();
     OpenDatabase();
+    MeetFiscalApplication();
     window_ = std::make_unique<MainWindow>(desktop_);
     window_->onClosed = [] { QCoreApplication::exit(0); };
     const EndRequests requests(*window_);
@@ -129,7 +154,9 @@ class Application {
     if (IsScripted()) Play();
     if (options_.mode == Options::Mode::kMeasure) Measure();
     const int status = QCoreApplication::exec();
-    return failed_ ? 1 : status;
+    if (failed_) return 1;
+    if (options_.mode == Options::Mode::kDemonstration) TellSale();
+    return status;
   }
 
   /// Tells the operator what stood in the way, on the screen if there is one.
@@ -147,6 +174,40 @@ class Application {
   }
   bool IsScripted() const { return !options_.pictures.empty(); }
 
+  void ReadSettings() {
+    const std::string folder = desktop_.ModuleFolder();
+    // A script leaves nothing but its pictures.
+    if (!IsScripted()) Settings::CreateIfMissing(folder);
+    settings_ = Settings::Read(folder);
+    PrintOn(settings_.papel == Settings::Papel::kBobina80 ? platform::kRoll80Paper
+                                                          : platform::kA4Paper);
+  }
+
+  void PrintOn(const platform::Paper& paper) {
+    desktop::reports::Printing printing{
+        .paper = paper, .printer = settings_.impressora, .saveAs = {}};
+    if (IsScripted()) {
+      // What a script prints and saves is kept beside its pictures.
+      const fs::path folder = fs::absolute(options_.pictures);
+      printing.printer = "pdf:" + folder.string();
+      printing.saveAs = [folder](const std::string&) { return (folder / kReceipt).string(); };
+    }
+    desktop_.UsePrinting(std::move(printing));
+  }
+
+  /// The default folder is ours to make; one that was chosen may be out of reach for now, which an
+  /// export tells.
+  void MeetFiscalApplication() {
+    std::string folder =
+        options_.fiscalFolder.empty() ? settings_.pastaFiscal : options_.fiscalFolder;
+    if (folder.empty()) {
+      folder = (fs::path(desktop_.ModuleFolder()) / kExchangeFolder).string();
+      Made(folder);
+    }
+    services::RegistrarExportacaoFiscal(folder, desktop_, desktop_.ComputerName(),
+                                        frame::ExibirRelato);
+  }
+
   void OpenDatabase() {
     std::string address = options_.database;
     if (IsScripted()) {
@@ -154,7 +215,8 @@ class Application {
     } else if (address.empty()) {
       address = "sqlite:" + (fs::path(Made(UserFolder())) / kDefaultDatabase).string();
     }
-    services::RegistrarServicos(services::AbrirBanco(address, desktop_, desktop_.ComputerName()));
+    services::RegistrarServicos(services::AbrirBanco(address, desktop_, desktop_.ComputerName()),
+                                [this] { desktop_.ProcessEvents(); });
     siblings::RegistrarTelas();
   }
 
@@ -164,9 +226,30 @@ class Application {
     for (const char* suffix : {"", "-wal", "-shm"}) fs::remove(file.string() + suffix, ignored);
     std::string address = "sqlite:" + file.string();
     services::CriarBanco(address);
-    const auto bank = services::AbrirBanco(address, desktop_, desktop_.ComputerName());
-    users_ = services::CriarDemonstracao(*bank);
+    demonstration_ = services::AbrirBanco(address, desktop_, desktop_.ComputerName());
+    users_ = services::CriarDemonstracao(*demonstration_);
+    services::AlterarEmpresa(*demonstration_, {std::begin(kShownPapers), std::end(kShownPapers)});
     return address;
+  }
+
+  /// What became of the demonstration's sale, as it stands in the database.
+  void TellSale() {
+    const auto sale = services::LerFichaDaVenda(*demonstration_, 1);
+    if (!sale) throw std::runtime_error("A demonstração terminou sem registrar a venda.");
+    const std::string& key = sale->venda.chaveSat;
+    const std::string& folder = options_.pictures;
+    Tell(key.empty() ? "A venda foi registrada sem cupom: nenhum aplicativo fiscal o emitiu. Um "
+                       "simulado se abre antes, com: integrador-simulado " +
+                           folder + "/" + kExchangeFolder
+                     : "A venda foi registrada com o cupom de chave " + key + ".");
+    Tell("Para conferir: caixa-banco sqlite:" + folder + "/" + kDemonstrationDatabase + " venda 1");
+    Tell("O comprovante está em " + folder + "/" + kReceipt + ", os retratos das telas em " +
+         folder + ".");
+  }
+
+  static void Tell(const std::string& line) {
+    std::printf("%s\n", line.c_str());
+    std::fflush(stdout);
   }
 
   void ShowWindow() {
@@ -188,9 +271,11 @@ class Application {
       player_->words[kRoles[i]] = users_[i].nome;
       player_->words[std::string("senha do ") + kRoles[i]] = users_[i].senha;
     }
-    player_->tell = [](const std::string& line) {
-      std::printf("%s\n", line.c_str());
-      std::fflush(stdout);
+    player_->words["vencimento"] =
+        base::Format(desktop_.Now().PlusMonths(1), base::DateMask::kDayMonthYear);
+    player_->tell = Tell;
+    player_->usePaper = [this](const std::string& name) {
+      PrintOn(name == "Bobina80" ? platform::kRoll80Paper : platform::kA4Paper);
     };
     player_->onEnd = [this](bool done, const std::string& why) {
       failed_ = !done;
@@ -213,6 +298,8 @@ class Application {
 
   const Options& options_;
   desktop::DesktopQt desktop_;
+  Settings settings_;
+  std::shared_ptr<services::Banco> demonstration_;
   std::vector<services::UsuarioDeDemonstracao> users_;
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<Player> player_;

@@ -55,19 +55,35 @@ constexpr std::array kPay{
     Step{Act::kSettle, "frmCaixaPagar"},
     Step{Act::kTell, "zvtxtSaldoDevedorOuTroco", "Troco:"},
     Step{Act::kPicture, "", "troco"},
+};
+
+constexpr std::array kToCoupon{
+    Step{Act::kSay, "", "Confirma. A venda tem um produto: informa o CPF do consumidor no cupom."},
     Step{Act::kClick, "zvcmdConfirmar"},
+    Step{Act::kScreen, "frmCaixaInformarCPFCNPJ"},
+};
+
+/// With nobody in the exchange folder the cash desk says so after a while, and the sale is
+/// registered without a coupon.
+constexpr std::array kCouponAndReceipt{
+    Step{Act::kSay, "", "Pede o cupom ao aplicativo fiscal pela pasta {pasta}/cfe."},
+    Step{Act::kSay, "", "Sem resposta, o caixa desiste em menos de um minuto."},
+    Step{Act::kAnswer, "", "sim"},
+    Step{Act::kSettle, "frmVisualizacao"},
+    Step{Act::kSay, "", "A venda está registrada. O comprovante aparece; é salvo em PDF."},
+    Step{Act::kPicture, "", "comprovante"},
+    Step{Act::kClick, "zvcmdSalvar"},
+    Step{Act::kKey, "", "Esc"},
     Step{Act::kSettle, "frmCaixaOperar"},
     Step{Act::kPicture, "", "proximo-cliente"},
-    Step{Act::kSay, "", "A venda está em {pasta}/demonstracao.db; para conferir:"},
-    Step{Act::kSay, "", "  caixa-banco sqlite:{pasta}/demonstracao.db vendas"},
-    Step{Act::kSay, "", "Os retratos das telas estão em {pasta}."},
 };
 
 }  // namespace
 
 std::vector<Step> Demonstration() {
   return Joined({kSignIn, kOpenRegister, kFindCustomer, kFindService, kToldService, kAdd,
-                 kToProduct, kFindProduct, kToldProduct, kAdd, kPay});
+                 kToProduct, kFindProduct, kToldProduct, kAdd, kPay, kToCoupon, kConsumersDocument,
+                 kCouponAndReceipt});
 }
 
 }  // namespace host::scripts

@@ -3,15 +3,18 @@
 namespace host {
 
 const char* Options::Help() {
-  return "Uso: caixa [--banco ENDEREÇO] [--pasta PASTA]\n"
+  return "Uso: caixa [--banco ENDEREÇO] [--pasta PASTA] [--pasta-fiscal PASTA]\n"
          "     caixa --retratos PASTA | --demonstracao PASTA\n"
          "\n"
          "  --banco ENDEREÇO       sqlite:ARQUIVO ou postgresql:CONEXÃO\n"
          "                         (padrão: caixa.db na pasta de dados do usuário)\n"
-         "  --pasta PASTA          onde fica o arquivo de configurações\n"
+         "  --pasta PASTA          onde ficam as configurações (aplicacao.ini é criado nela)\n"
          "                         (padrão: a pasta de dados do usuário)\n"
+         "  --pasta-fiscal PASTA   onde o caixa troca arquivos com o aplicativo fiscal\n"
+         "                         (padrão: a das configurações)\n"
          "  --demonstracao PASTA   cria em PASTA uma clínica de demonstração, faz nela uma venda\n"
-         "                         pelas telas, conta cada passo e deixa retratos em PASTA\n"
+         "                         pelas telas, conta cada passo e deixa em PASTA retratos e o\n"
+         "                         comprovante; um aplicativo fiscal em PASTA/cfe emite o cupom\n"
          "  --retratos PASTA       deixa em PASTA um retrato de cada tela\n"
          "  --contar-tela ARQUIVO  mantém em ARQUIVO o que está na tela e onde, para testes que "
          "usam\n"
@@ -38,6 +41,7 @@ Options Options::Read(const std::vector<std::string>& arguments) {
     std::string* value = nullptr;
     if (name == "--banco") value = &options.database;
     if (name == "--pasta") value = &options.folder;
+    if (name == "--pasta-fiscal") value = &options.fiscalFolder;
     if (name == "--contar-tela") value = &options.screenFile;
     if (name == "--retratos" || name == "--demonstracao") {
       if (!options.pictures.empty()) {

@@ -17,10 +17,11 @@ struct Options {
   enum class Mode { kWork, kPortraits, kDemonstration, kMeasure, kHelp };
 
   Mode mode = Mode::kWork;
-  std::string database;    ///< "sqlite:FILE" or "postgresql:CONNINFO"; empty for the default.
-  std::string folder;      ///< Where the settings file lies; empty for the user's data folder.
-  std::string pictures;    ///< Where a script leaves its pictures.
-  std::string screenFile;  ///< Where what is on the screen is told, if at all: see ScreenFile.
+  std::string database;      ///< "sqlite:FILE" or "postgresql:CONNINFO"; empty for the default.
+  std::string folder;        ///< Where the settings files lie; empty for the user's data folder.
+  std::string fiscalFolder;  ///< Where files are exchanged; empty for what the settings say.
+  std::string pictures;      ///< Where a script leaves its pictures.
+  std::string screenFile;    ///< Where what is on the screen is told, if at all: see ScreenFile.
 
   /// Throws BadOption.
   static Options Read(const std::vector<std::string>& arguments);

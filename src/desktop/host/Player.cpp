@@ -119,6 +119,7 @@ bool Player::IsReady(const Step& step) const {
     case Act::kSay:
     case Act::kKey:
     case Act::kFault:
+    case Act::kPaper:
     case Act::kPicture:
       return true;
     case Act::kScreen:
@@ -221,6 +222,8 @@ void Player::Do(const Step& step) {
     case Act::kFault:
       platform::input::Run([&] { frame::ExibirMensagemDeErro(kFault, text, kFaultAt); });
       return;
+    case Act::kPaper:
+      return usePaper(text);
     case Act::kPicture:
     case Act::kWaitPanel: {
       ++pictures_;

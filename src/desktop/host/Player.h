@@ -28,22 +28,23 @@ namespace host {
 /// needs; "{name}" in it stands for one of the player's words.
 struct Step {
   enum class Act {
-    kSay,        ///< Tells `text`.
-    kTell,       ///< Tells `text` and what the control `target` shows.
-    kScreen,     ///< Waits for the screen `target` to be in front, at rest and without a box.
-    kBox,        ///< Waits for a message box that contains `text`.
-    kAnswer,     ///< Presses a button of the box: "sim", "não", "ok".
-    kSettle,     ///< Answers every box that comes with its safe answer, until `target` is in front.
-    kClick,      ///< Clicks on the control; on a find field, on its text.
-    kSearch,     ///< Clicks on the button of a find field.
-    kType,       ///< Clicks on the control, selects all, and types `text`.
-    kKey,        ///< Presses one key: "Enter", "Tab", "Esc", "F4", "Delete", "Down", "Up".
-    kPick,       ///< Opens the combo box and clicks on the item that begins with `text`.
-    kTool,       ///< Clicks on the button of key `text` of the toolbar `target`.
-    kMenu,       ///< Clicks on the entry `text` of the menu that is up.
-    kCell,       ///< Clicks on row `text` of the grid `target`, counted from the header as 0.
-    kFault,      ///< Reports an error of that description, as one that a screen meets is reported.
-    kPicture,    ///< Takes a picture of the window into the file `text`.png.
+    kSay,      ///< Tells `text`.
+    kTell,     ///< Tells `text` and what the control `target` shows.
+    kScreen,   ///< Waits for the screen `target` to be in front, at rest and without a box.
+    kBox,      ///< Waits for a message box that contains `text`.
+    kAnswer,   ///< Presses a button of the box: "sim", "não", "ok".
+    kSettle,   ///< Answers every box that comes with its safe answer, until `target` is in front.
+    kClick,    ///< Clicks on the control; on a find field, on its text.
+    kSearch,   ///< Clicks on the button of a find field.
+    kType,     ///< Clicks on the control, selects all, and types `text`.
+    kKey,      ///< Presses one key: "Enter", "Tab", "Esc", "F4", "Delete", "Down", "Up".
+    kPick,     ///< Opens the combo box and clicks on the item that begins with `text`.
+    kTool,     ///< Clicks on the button of key `text` of the toolbar `target`.
+    kMenu,     ///< Clicks on the entry `text` of the menu that is up.
+    kCell,     ///< Clicks on row `text` of the grid `target`, counted from the header as 0.
+    kFault,    ///< Reports an error of that description, as one that a screen meets is reported.
+    kPaper,    ///< From now on reports are laid out for the paper `text`, by its name in settings.
+    kPicture,  ///< Takes a picture of the window into the file `text`.png.
     kWaitPanel,  ///< The same while a wait panel is up, which is when the system is not at rest.
   };
   Act act;
@@ -64,6 +65,8 @@ class Player final : public QObject {
   bool numbered = true;
   /// Told what happens, a line at a time.
   std::function<void(const std::string&)> tell;
+  /// Told on what paper reports come from now on.
+  std::function<void(const std::string&)> usePaper;
   /// The script ended, well or at a step that could not be done; then `why` says which and why.
   std::function<void(bool done, const std::string& why)> onEnd;
 

@@ -48,7 +48,33 @@ constexpr std::array kMovements{
     Step{Act::kSettle, "frmCaixaOperar"},
     Step{Act::kTool, "tbMenuCaixa", "ConsultarPrecos"},
     Step{Act::kPicture, "", "menu"},
+};
+
+/// Prices to look at, and the choice among several customers.
+constexpr std::array kPickLists{
+    Step{Act::kMenu, "", "Produtos"},
+    Step{Act::kScreen, "frmPesquisaDeProdutos"},
+    Step{Act::kType, "zvfndCodigoInternoOuNome", "ração"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kPicture, "", "lista-de-produtos"},
     Step{Act::kKey, "", "Esc"},
+    Step{Act::kScreen, "frmCaixaOperar"},
+    Step{Act::kTool, "tbMenuCaixa", "ConsultarPrecos"},
+    Step{Act::kMenu, "", "Serviços"},
+    Step{Act::kScreen, "frmPesquisaDeServicos"},
+    Step{Act::kPick, "zvcmbTiposDeServicos", "(Todos)"},
+    Step{Act::kType, "zvfndCodigoOuNome", "consulta"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kPicture, "", "lista-de-servicos"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kScreen, "frmCaixaOperar"},
+    Step{Act::kType, "zvfNomeOuRazaoSocialDoCliente", "mar"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kScreen, "frmPesquisaDeClientes"},
+    Step{Act::kKey, "", "Down"},
+    Step{Act::kPicture, "", "lista-de-clientes"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaOperar"},
 };
 
 /// A customer with lines of pre-sale; the wait, and what is told of the debts.
@@ -92,6 +118,128 @@ constexpr std::array kPay{
     Step{Act::kSettle, "frmCaixaOperar"},
 };
 
+/// From another customer to the checkout, once with a product and once without.
+constexpr std::array kNextCustomer{
+    Step{Act::kClick, "zvcmdLimparCampos"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kType, "zvfCodigoDoCliente", "2"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kPick, "zvcmbTiposDeServicos", "Clínicos"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kType, "zvfCodigoDoServico", "1"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kClick, "zvcmdAdicionar"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+};
+
+constexpr std::array kTwoProducts{
+    Step{Act::kClick, "optProduto"},
+    Step{Act::kType, "zvfCodigoDeBarrasDoProduto", "7890000010030"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kType, "zvnumPercentualDeDescontoPorItem", "5,00"},
+    Step{Act::kKey, "", "Tab"},
+    Step{Act::kClick, "zvcmdAdicionar"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kType, "zvfCodigoDeBarrasDoProduto", "7890000010481"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kClick, "zvcmdAdicionar"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+};
+
+/// Part of it in cash, the rest on credit.
+constexpr std::array kPayOnCredit{
+    Step{Act::kClick, "zvcmdPagamento"},
+    Step{Act::kSettle, "frmCaixaPagar"},
+    Step{Act::kPick, "zvcmbFormaDePagamento", "1-Dinheiro"},
+    Step{Act::kType, "zvnumValor", "100,00"},
+    Step{Act::kClick, "zvcmdAdicionar"},
+    Step{Act::kSettle, "frmCaixaPagar"},
+    Step{Act::kPick, "zvcmbFormaDePagamento", "6-A crédito"},
+    Step{Act::kKey, "", "Tab"},
+    Step{Act::kType, "zvdtpDataDeVencimento", "{vencimento}"},
+    Step{Act::kClick, "zvcmdAdicionar"},
+    Step{Act::kSettle, "frmCaixaPagar"},
+    Step{Act::kClick, "zvcmdConfirmar"},
+    Step{Act::kScreen, "frmCaixaInformarCPFCNPJ"},
+};
+
+/// No fiscal application answers: the cash desk takes its time, less than a minute, until it gives
+/// up. The sale is registered all the same, and has its papers.
+constexpr std::array kPapers{
+    Step{Act::kAnswer, "", "não"},
+    Step{Act::kBox},
+    Step{Act::kPicture, "", "aplicativo-fiscal-parado"},
+    Step{Act::kSettle, "frmVisualizacao"},
+    Step{Act::kPicture, "", "comprovante"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kBox, "", "Deseja imprimir a nota promissória?"},
+    Step{Act::kAnswer, "", "sim"},
+    Step{Act::kScreen, "frmVisualizacao"},
+    Step{Act::kPicture, "", "nota-promissoria"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+};
+
+/// The receipt of a sale on the roll; and the customer is at the counter once more.
+constexpr std::array kRoll{
+    Step{Act::kPaper, "", "Bobina80"},
+    Step{Act::kClick, "zvcmdPagamento"},
+    Step{Act::kSettle, "frmCaixaPagar"},
+    Step{Act::kPick, "zvcmbFormaDePagamento", "8-PIX"},
+    Step{Act::kClick, "zvcmdAdicionar"},
+    Step{Act::kSettle, "frmCaixaPagar"},
+    Step{Act::kClick, "zvcmdConfirmar"},
+    Step{Act::kScreen, "frmVisualizacao"},
+    Step{Act::kPicture, "", "comprovante-bobina"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kPaper, "", "A4"},
+    Step{Act::kType, "zvfCodigoDoCliente", "2"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+};
+
+/// The customer's history, his estimates and a new one, with a product picked from the list.
+constexpr std::array kHistoryAndEstimates{
+    Step{Act::kTool, "tbMenuCaixa", "ConsultarHistoricoDeVendas"},
+    Step{Act::kScreen, "frmHistoricoDeVendas"},
+    Step{Act::kPicture, "", "historico"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kScreen, "frmCaixaOperar"},
+    Step{Act::kTool, "tbMenuCaixa", "Orcamentos"},
+    Step{Act::kScreen, "frmOrcamentos"},
+    Step{Act::kPicture, "", "orcamentos"},
+    Step{Act::kClick, "zvcmdNovo"},
+    Step{Act::kScreen, "frmOrcamento"},
+    Step{Act::kType, "zvfItem", "1"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kClick, "optProduto"},
+    Step{Act::kType, "zvfItem", "adultos"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kScreen, "frmPesquisaDeProdutos"},
+    Step{Act::kKey, "", "Down"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kScreen, "frmOrcamento"},
+    Step{Act::kKey, "", "Enter"},
+    Step{Act::kType, "zvnumDesconto", "5,00"},
+    Step{Act::kType, "zvtxtObservacao", "Sem medicamentos."},
+    Step{Act::kPicture, "", "orcamento"},
+    Step{Act::kClick, "zvcmdSalvar"},
+    Step{Act::kBox, "", "Deseja imprimir o orçamento?"},
+    Step{Act::kAnswer, "", "sim"},
+    Step{Act::kScreen, "frmVisualizacao"},
+    Step{Act::kPicture, "", "orcamento-impresso"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kScreen, "frmOrcamentos"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kScreen, "frmCaixaOperar"},
+};
+
 constexpr std::array kClose{
     Step{Act::kClick, "zvcmdLimparCampos"},
     Step{Act::kSettle, "frmCaixaOperar"},
@@ -124,8 +272,28 @@ std::vector<Step> Scanned() {
 
 std::vector<Step> Portraits() {
   const std::vector<Step> scanned = Scanned();
-  return Joined({kSignIn, kOpenRegister, kMovements, kCustomer, kFindService, kAnimal, kAdd,
-                 kFindProduct, kAdd, scanned, kFullGrid, kPay, kClose});
+  return Joined({kSignIn,
+                 kOpenRegister,
+                 kMovements,
+                 kPickLists,
+                 kCustomer,
+                 kFindService,
+                 kAnimal,
+                 kAdd,
+                 kFindProduct,
+                 kAdd,
+                 scanned,
+                 kFullGrid,
+                 kPay,
+                 kNextCustomer,
+                 kTwoProducts,
+                 kPayOnCredit,
+                 kConsumersDocument,
+                 kPapers,
+                 kNextCustomer,
+                 kRoll,
+                 kHistoryAndEstimates,
+                 kClose});
 }
 
 }  // namespace host::scripts

@@ -55,6 +55,15 @@ inline constexpr std::array kFindProduct{
     Step{Act::kPicture, "", "balcao"},
 };
 
+/// A CPF for the coupon, which is nobody's: numbers that begin so are not given out.
+inline constexpr std::array kConsumersDocument{
+    Step{Act::kClick, "optTipo(1)"},
+    Step{Act::kType, "zvmskCpfCnpj", "99900077725"},
+    Step{Act::kPicture, "", "documento-do-consumidor"},
+    Step{Act::kClick, "zvcmdEnviar"},
+    Step{Act::kBox, "", "Deseja imprimir o comprovante de CF-e / SAT?"},
+};
+
 inline constexpr std::array kAdd{
     Step{Act::kClick, "zvcmdAdicionar"},
     Step{Act::kSettle, "frmCaixaOperar"},

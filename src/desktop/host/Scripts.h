@@ -6,7 +6,7 @@
 
 /// What the player plays in the demonstration clinic. The words "{administrador}", "{supervisor}"
 /// and "{operador}" are its users, "{senha do administrador}" and so on their passwords, "{pasta}"
-/// is where pictures go.
+/// is where pictures go, "{vencimento}" a day on which a sale on credit may fall due.
 namespace host::scripts {
 
 /// A whole sale, told step by step.

@@ -72,7 +72,7 @@ void frmEntrada::zvcmdEntrar_Click() {
   }
   auto login = servicos::CriarServico<clsLogin>();
   login->NomeDeUsuario(base::Trim(zvtxtUsuario.Text()));
-  login->SenhaDoUsuario(zvtxtSenha.Text());
+  login->SenhaDoUsuario(base::Trim(zvtxtSenha.Text()));
   const auto resultado = [&] {
     const frame::PonteiroDeEspera espera(*this);
     return login->Autenticar();

@@ -1,83 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <optional>
-#include <stdexcept>
-
-#include "desktop/screen/Operator.h"
-#include "desktop/screen/XScreen.h"
+#include "desktop/screen/Clinic.h"
 
 namespace {
 
 using xscreen::Operator;
-using xscreen::XScreen;
 
-/// The program on a screen, over the demonstration clinic, and the second command that proves what
-/// stands in the database.
-class FirstSaleTest : public testing::Test {
- protected:
-  void SetUp() override {
-    Bank({QStringLiteral("criar")});
-    Bank({QStringLiteral("demonstracao")});
-  }
-
-  QString Database() const {
-    return QStringLiteral("sqlite:") + folder.filePath(QStringLiteral("clinica.db"));
-  }
-
-  std::string Bank(const QStringList& command) {
-    QProcess bank;
-    bank.start(QStringLiteral(CAIXA_BANCO_PROGRAM), QStringList{Database()} + command);
-    EXPECT_TRUE(bank.waitForFinished(60'000));
-    EXPECT_EQ(bank.exitCode(), 0) << bank.readAllStandardError().toStdString();
-    // When, and on which computer, is another one each time.
-    QString told = QString::fromUtf8(bank.readAllStandardOutput());
-    told.replace(QRegularExpression(QStringLiteral(R"(\d\d/\d\d/\d{4} \d\d:\d\d:\d\d)")),
-                 QStringLiteral("(agora)"));
-    return told.toStdString();
-  }
-
-  /// Does the work on a screen; where it gets stuck, tells so and leaves a picture.
-  template <class Work>
-  void OnScreen(bool windowManager, const Work& work) {
-    const XScreen screen(folder.path(), windowManager);
-    Operator at(screen, folder.path(), Database());
-    try {
-      work(at);
-    } catch (const std::runtime_error& stuck) {
-      const QString picture =
-          QDir(QStringLiteral(CAIXA_PICTURES)).filePath(QStringLiteral("falha-na-tela.png"));
-      ADD_FAILURE() << stuck.what() << "\nthe screen: "
-                    << (screen.Save(picture) ? picture.toStdString() : "(no picture)")
-                    << "\nand it told: " << at.Told().toStdString();
-    }
-  }
-
-  void ExpectBalancedAndFree() {
-    EXPECT_EQ(Bank({QStringLiteral("conferir")}), "As contas de todas as vendas fecham.\n");
-    EXPECT_EQ(Bank({QStringLiteral("travas")}), "Nenhum cliente em atendimento.\n");
-  }
-
-  QTemporaryDir folder;
-};
-
-void SignInAndOpenTheRegister(Operator& at) {
-  at.See("frmEntrada");
-  at.Click("zvtxtUsuario");
-  at.Type("marina\t");
-  at.See("zvtxtUsuario", "marina");
-  at.Type("girassol-41");
-  at.Key("Return");
-  at.See("frmCaixaOperar");
-  at.Pick("zvcmbCaixas", "Recepção");
-  at.Click("tbMenuCaixa.Abertura");
-  at.See("frmCaixaAbrir");
-  at.Fill("zvnumValorEmDinheiro", "150,00");
-  at.Click("zvcmdSalvar");
-  at.See("lblSituacaoDoCaixa", "Aberto");
-}
+class FirstSaleTest : public xscreen::Clinic {};
 
 TEST_F(FirstSaleTest, IsRungUpWithTheMouseAndAScanner) {
   OnScreen(true, [this](Operator& at) {
