@@ -157,7 +157,8 @@ class ReportSection : public Object {
  public:
   /// `groupField`, for the header and footer of a group: the field whose change begins another one.
   /// Groups nest in the order in which their headers are declared, the outermost first; groups that
-  /// have but footers lie within these, the last declared outside.
+  /// have but footers lie within these, the last declared outside. A group begins and ends also
+  /// where its sections are hidden.
   ReportSection(DataReport& report, std::string_view name, Band band,
                 std::string_view groupField = {});
 

@@ -48,7 +48,7 @@ class Filler {
     for (const ReportSection* section : report.Sections()) {
       if (section->Visible()) sections_[section->GetBand()].push_back(section);
     }
-    FindGroups();
+    FindGroups(report.Sections());
     FindSums();
     if (rows_ != nullptr) rows_->MoveFirst();
   }
@@ -68,14 +68,21 @@ class Filler {
   }
 
  private:
-  /// Headers are declared from outside inwards, footers the other way round.
-  void FindGroups() {
+  /// Headers are declared from outside inwards, footers the other way round. A group whose sections
+  /// are hidden still parts those within it.
+  void FindGroups(const std::vector<ReportSection*>& all) {
+    for (const ReportSection* each : all) {
+      if (each->GetBand() == Band::kGroupHeader) GroupOf(*each);
+    }
+    for (auto each = all.rbegin(); each != all.rend(); ++each) {
+      if ((*each)->GetBand() == Band::kGroupFooter) GroupOf(**each);
+    }
     for (const ReportSection* each : sections_[Band::kGroupHeader]) {
       GroupOf(*each).headers.push_back(each);
     }
-    const Sections& footers = sections_[Band::kGroupFooter];
-    for (auto each = footers.rbegin(); each != footers.rend(); ++each) GroupOf(**each);
-    for (const ReportSection* each : footers) GroupOf(*each).footers.push_back(each);
+    for (const ReportSection* each : sections_[Band::kGroupFooter]) {
+      GroupOf(*each).footers.push_back(each);
+    }
   }
 
   Group& GroupOf(const ReportSection& section) {

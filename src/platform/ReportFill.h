@@ -34,7 +34,8 @@ struct Fillings {
 
 /// Goes through the rows once, from the first to the last. A field in a header is that of the first
 /// row of its group or page, in a footer that of the last one of its group; a page's footer shows
-/// what its header would. Hidden sections and controls read nothing.
+/// what its header would. Hidden sections and controls read nothing, but that a hidden section's
+/// group begins and ends where it would.
 Fillings Fill(const DataReport& report);
 
 }  // namespace platform::reports

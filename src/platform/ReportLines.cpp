@@ -50,7 +50,10 @@ void LineFitter::Wrap(std::string_view line, bool breakWords,
       end = EndOfWord(line, 0);
       if (breakWords) end = LongestStart(line.substr(0, end), "");
     }
-    pieces.emplace_back(WithoutEndBlanks(line.substr(0, end)));
+    // Blanks that a line begins with may fill all of a narrow column: they are no line of their
+    // own.
+    const std::string_view piece = WithoutEndBlanks(line.substr(0, end));
+    if (!piece.empty()) pieces.emplace_back(piece);
     line.remove_prefix(std::min(line.find_first_not_of(' ', end), line.size()));
     if (line.empty()) return;
   }

@@ -71,7 +71,7 @@ ReportLayout drNotaPromissoria::EmBobina() {
   constexpr ReportFont kTexto{.points = 9};
   constexpr ReportFont kRotulo{.points = 8};
   return {.paper = platform::kRoll80Paper,
-          .bands = {{Nota, 7350}},
+          .bands = {{Nota, 6480}},
           .places = {
               {lblTitulo, {0, 0, 4081, 300}, kTitulo, kGrande, kAoCentro},
               {lblNumero, {0, 360, 4081, 240}, "", kForte, kAoCentro},
@@ -79,18 +79,18 @@ ReportLayout drNotaPromissoria::EmBobina() {
               {boxValor, {540, 960, 3001, 450}},
               {lblValor, {540, 1050, 3001, 285}, "", kGrande, kAoCentro},
               {linTitulo, {0, 1530, 4081, 0}},
-              {lblPromessa, {0, 1620, 4081, 1100}, "", kTexto, kAEsquerda, kCresce},
-              {lblQuantia, {0, 2790, 4081, 240}, "", kForte, kAEsquerda, kCresce},
-              {lblPraca, {0, 3090, 4081, 240}, "", kTexto, kAEsquerda, kCresce},
-              {lblLocalEData, {0, 3600, 4081, 240}, "", kTexto, kAEsquerda, kCresce},
-              {lblRotuloDoEmitente, {0, 4050, 4081, 210}, "Emitente", kRotulo},
-              {lblEmitente, {0, 4260, 4081, 240}, "", kForte, kAEsquerda, kCresce},
-              {lblRotuloDoDocumento, {0, 4590, 4081, 210}, "CPF/CNPJ", kRotulo},
-              {lblDocumento, {0, 4800, 4081, 240}, "", kTexto},
-              {lblRotuloDoEndereco, {0, 5130, 4081, 210}, "Endereço", kRotulo},
-              {lblEndereco, {0, 5340, 4081, 240}, "", kTexto, kAEsquerda, kCresce},
-              {linAssinatura, {240, 6720, 3601, 0}},
-              {lblAssinatura, {240, 6780, 3601, 240}, kAssinatura, kRotulo, kAoCentro},
+              {lblPromessa, {0, 1620, 4081, 210}, "", kTexto, kAEsquerda, kCresce},
+              {lblQuantia, {0, 1920, 4081, 240}, "", kForte, kAEsquerda, kCresce},
+              {lblPraca, {0, 2220, 4081, 240}, "", kTexto, kAEsquerda, kCresce},
+              {lblLocalEData, {0, 2730, 4081, 240}, "", kTexto, kAEsquerda, kCresce},
+              {lblRotuloDoEmitente, {0, 3180, 4081, 210}, "Emitente", kRotulo},
+              {lblEmitente, {0, 3390, 4081, 240}, "", kForte, kAEsquerda, kCresce},
+              {lblRotuloDoDocumento, {0, 3720, 4081, 210}, "CPF/CNPJ", kRotulo},
+              {lblDocumento, {0, 3930, 4081, 240}, "", kTexto},
+              {lblRotuloDoEndereco, {0, 4260, 4081, 210}, "Endereço", kRotulo},
+              {lblEndereco, {0, 4470, 4081, 240}, "", kTexto, kAEsquerda, kCresce},
+              {linAssinatura, {240, 5850, 3601, 0}},
+              {lblAssinatura, {240, 5910, 3601, 240}, kAssinatura, kRotulo, kAoCentro},
           }};
 }
 

@@ -274,6 +274,14 @@ TEST(Report, SaysWhatItPrintedInOrder) {
   EXPECT_TRUE(report.DataSource->Eof());
 }
 
+TEST(Report, AGroupThatIsHiddenPartsThoseWithinIt) {
+  drVendas report;
+  report.Add("1", "Bento", "Tosa", 60.0);
+  report.Add("2", "Bento", "Coleira", 25.0);
+  report.CabecalhoDoCaixa.Visible = report.RodapeDoCaixa.Visible = false;
+  EXPECT_EQ(Said(Composed(report), "rptfCliente"), (Texts{"60,00", "25,00"}));
+}
+
 TEST(Report, WithoutRowsPrintsTheHeadersAndFootersAlone) {
   drVendas report;
   constexpr std::string_view kBare =
@@ -376,6 +384,7 @@ TEST(Report, BringsTextsIntoTheirWidth) {
     grow  | ãõçáéíóúâêôã é            | ãõçáéíóúâê/ôã é
     grow  | Um/dois/três              | Um/dois/três
     grow  | a  b         c            | a  b/c
+    grow  | "            abc"          | abc
     right | 123.456.789,00            | 123.456.789,00
     right | R$ 123.456.789,00         | R$/123.456.789,00)")) {
     const bool isRight = row[0] == "right";

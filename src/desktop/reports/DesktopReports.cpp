@@ -1,8 +1,8 @@
 #include <QEvent>
 #include <QWidget>
-#include <algorithm>
+#include <memory>
 #include <stdexcept>
-#include <utility>
+#include <string>
 
 #include "desktop/Convert.h"
 #include "desktop/DesktopQt.h"

@@ -17,18 +17,23 @@ namespace {
 constexpr int kTwipsPerInch = 1440;
 constexpr double kTwipsPerPoint = 20;
 
-[[noreturn]] void Fail(const QString& path, const QSaveFile& file) {
-  const QFileInfo folder(QFileInfo(path).absolutePath());
-  QString why = QStringLiteral(
-      "Confira se há espaço no disco e se a pasta ainda está disponível, e tente de novo.");
-  if (!folder.isDir()) {
-    why = QStringLiteral("A pasta não existe: escolha outra.");
-  } else if (file.error() == QFileDevice::PermissionsError ||
-             file.error() == QFileDevice::OpenError) {
-    why = QStringLiteral("A pasta não permite gravar: escolha outra.");
+/// What stood in the way, as far as it can be told, and what to do about it.
+QString Reason(const QFileInfo& file) {
+  const QFileInfo folder(file.absolutePath());
+  if (!folder.isDir()) return QStringLiteral("A pasta não existe: escolha outra.");
+  if (file.isDir()) return QStringLiteral("Já existe uma pasta com este nome: escolha outro.");
+  if (!folder.isWritable()) return QStringLiteral("A pasta não permite gravar: escolha outra.");
+  if (file.exists() && !file.isWritable()) {
+    return QStringLiteral("O arquivo que já existe está protegido: escolha outro nome.");
   }
-  throw std::runtime_error(FromQt(QStringLiteral("Não foi possível gravar o PDF em \"%1\". %2")
-                                      .arg(QDir::toNativeSeparators(path), why)));
+  return QStringLiteral(
+      "Confira se há espaço no disco e se a pasta ainda está disponível, e tente de novo.");
+}
+
+[[noreturn]] void Fail(const QString& path) {
+  throw std::runtime_error(
+      FromQt(QStringLiteral("Não foi possível gravar o PDF em \"%1\". %2")
+                 .arg(QDir::toNativeSeparators(path), Reason(QFileInfo(path)))));
 }
 
 }  // namespace
@@ -47,7 +52,7 @@ QPageLayout LayoutOf(const platform::Paper& paper, const platform::ReportPage& p
 void WritePdf(const platform::ReportPages& report, const std::string& path) {
   const QString name = ToQt(path);
   QSaveFile file(name);
-  if (!file.open(QIODevice::WriteOnly)) Fail(name, file);
+  if (!file.open(QIODevice::WriteOnly)) Fail(name);
   {
     QPdfWriter writer(&file);
     // A unit is a twip: nothing is scaled, so text keeps the widths that it was laid out with.
@@ -64,7 +69,7 @@ void WritePdf(const platform::ReportPages& report, const std::string& path) {
       PaintPage(painter, page, 1);
     }
   }
-  if (!file.commit()) Fail(name, file);
+  if (!file.commit()) Fail(name);
 }
 
 }  // namespace desktop::reports

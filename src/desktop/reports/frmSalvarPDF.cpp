@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "base/Text.h"
@@ -20,6 +21,8 @@ namespace {
 
 constexpr platform::Color kCorDeRecusa = platform::Rgb(255, 0, 0);
 constexpr auto kEnding = ".pdf";
+/// File systems take some 250 bytes, and an accented letter has two.
+constexpr std::int32_t kLongestName = 100;
 
 }  // namespace
 
@@ -45,6 +48,7 @@ frmSalvarPDF::frmSalvarPDF(std::vector<Lugar> lugares, const std::string& nome)
   zvcmdCancelar.Click = [this] { Hide(); };
   zvcmdSalvar.Click = [this] { zvcmdSalvar_Click(); };
   if (!lugares_.empty()) zvcmbLugar.ListIndex = 0;
+  zvtxtNome.MaxLength = kLongestName;
   zvtxtNome.Text = nome;
   Activate = [this] { zvtxtNome.SetFocus(); };
 }
