@@ -42,7 +42,8 @@ void Escrever(drOrcamento& relatorio, const base::RecordSet& orcamento) {
   relatorio.Title = "Orçamento " + numero;
   relatorio.lblTitulo.Caption = "Orçamento nº " + numero;
   relatorio.lblData.Caption = Dia(orcamento.Fields("DataEHora"));
-  relatorio.lblAnimal.Caption = "Animal: " + base::ToText(orcamento.Fields("Animal"));
+  const std::string animal = base::ToText(orcamento.Fields("Animal"));
+  if (!animal.empty()) relatorio.lblAnimal.Caption = "Animal: " + animal;
   relatorio.lblDesconto.Caption = base::FormatMoney(base::ToCurrency(orcamento.Fields("Desconto")));
   relatorio.lblTotal.Caption = base::FormatMoney(base::ToCurrency(orcamento.Fields("ValorTotal")));
   const std::string observacao = base::ToText(orcamento.Fields("Observacao"));
