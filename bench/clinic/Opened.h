@@ -15,14 +15,15 @@ namespace bench {
 /// The business services over a database, found by their identifiers while it lives.
 class Opened {
  public:
-  explicit Opened(const Database& database) {
-    banco_ = services::AbrirBanco(database.Address(), clock_, "BALCAO-1");
+  explicit Opened(const Database& database, const std::string& computer = "BALCAO-1") {
+    banco_ = services::AbrirBanco(database.Address(), clock_, computer);
     services::RegistrarServicos(banco_);
   }
   ~Opened() { servicos::EsquecerTodos(); }
   Opened(const Opened&) = delete;
   Opened& operator=(const Opened&) = delete;
 
+  services::Banco& Bank() { return *banco_; }
   services::Session& Session() { return banco_->Sessao(); }
 
  private:

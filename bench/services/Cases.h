@@ -10,5 +10,7 @@ void AddBarcodes(services::Engine engine);
 void AddNames(services::Engine engine);
 /// A sale registered for good.
 void AddPayments(services::Engine engine);
+/// Several workstations registering sales at once, over the server.
+void AddWorkstations();
 
 }  // namespace bench

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace bench {
 
@@ -24,6 +25,8 @@ enum class Commit {
 };
 
 RawSale RawSaleOnSqlite(const std::string& file, const ModelSale& model);
-RawSale RawSaleOnPostgres(const std::string& connection, const ModelSale& model, Commit commit);
+/// Over one connection; several models take turns.
+RawSale RawSaleOnPostgres(const std::string& connection, const std::vector<ModelSale>& models,
+                          Commit commit);
 
 }  // namespace bench

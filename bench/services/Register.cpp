@@ -7,4 +7,5 @@ void bench::Register() {
     AddNames(engine);
     AddPayments(engine);
   }
+  AddWorkstations();
 }
