@@ -74,15 +74,17 @@ std::string MatchAll(const std::vector<std::string>& samples) {
 constexpr std::string_view kOnSqlite =
     "SELECT {t}.{k} FROM {t}_busca CROSS JOIN {t} ON {t}.{k} = {t}_busca.rowid"
     " WHERE {t}_busca MATCH {1} AND instr({t}.nome_busca, {2}) > 0{l}";
+/// As an array, of which the planner expects few: of thousands it would not look each up by its
+/// key, but read the whole table once more.
 constexpr std::string_view kOnPostgres =
-    "SELECT {k} FROM {t} WHERE nome_busca LIKE CAST({1} AS text){l}";
+    "SELECT unnest(ARRAY(SELECT {k} FROM {t} WHERE nome_busca LIKE CAST({1} AS text){l}))";
 /// The samples stand apart from the rest so that the planner takes them from the index: it would
 /// guess that so many rows have them that reading the table from its beginning were quicker.
 constexpr std::string_view kBySamplesOnPostgres =
-    "WITH likely AS MATERIALIZED (SELECT {k}, nome_busca FROM {t}"
+    "SELECT unnest(ARRAY(WITH likely AS MATERIALIZED (SELECT {k}, nome_busca FROM {t}"
     " WHERE nome_busca LIKE CAST({1} AS text) AND nome_busca LIKE CAST({2} AS text)"
     " AND nome_busca LIKE CAST({3} AS text) AND nome_busca LIKE CAST({4} AS text))"
-    " SELECT {k} FROM likely WHERE strpos(nome_busca, CAST({5} AS text)) > 0{l}";
+    " SELECT {k} FROM likely WHERE strpos(nome_busca, CAST({5} AS text)) > 0{l}))";
 
 std::string Filled(std::string_view selection, std::string_view named, NameSearch::Table table,
                    int others, std::string_view limit) {

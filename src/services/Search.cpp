@@ -54,6 +54,10 @@ std::string SearchForm(std::string_view nickname, std::string_view name) {
   return SearchForm(nickname).append("\n").append(SearchForm(name));
 }
 
+std::string ComputerForm(std::string_view name) {
+  return base::Upper(base::Trim(name));
+}
+
 std::optional<std::int32_t> CodeIn(std::string_view text) {
   const std::string digits = base::Trim(text);
   std::int32_t code = 0;

@@ -18,6 +18,9 @@ std::string SearchForm(std::string_view name);
 /// The same of a customer's two names, so that no part is found across both.
 std::string SearchForm(std::string_view nickname, std::string_view name);
 
+/// The form in which a computer's name is compared: without case and blanks around.
+std::string ComputerForm(std::string_view name);
+
 /// The whole number that a text is, if it is one of 32 bits above 0: how a code is typed.
 std::optional<std::int32_t> CodeIn(std::string_view text);
 /// The same of a code that is passed as a double.

@@ -12,7 +12,7 @@ namespace {
 
 /// Waits a moment that grows with the tries and differs between computers.
 void PauseBeforeRetry(int attempt) {
-  static std::minstd_rand chance{std::random_device{}()};
+  thread_local std::minstd_rand chance{std::random_device{}()};
   std::uniform_int_distribution<int> milliseconds(1, 10 * attempt);
   std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds(chance)));
 }

@@ -28,7 +28,7 @@ int Nap(void* waiting, int count) {
   const auto now = std::chrono::steady_clock::now();
   if (count == 0) wait.end = now + wait.patience;
   if (now >= wait.end) return 0;
-  static std::minstd_rand chance{std::random_device{}()};
+  thread_local std::minstd_rand chance{std::random_device{}()};
   std::uniform_int_distribution<int> microseconds(200, 2'000);
   std::this_thread::sleep_for(std::chrono::microseconds(microseconds(chance)));
   return 1;

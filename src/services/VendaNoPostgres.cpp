@@ -9,29 +9,46 @@
 namespace services {
 namespace {
 
-/// The money, the credit and the pre-sale lines are taken first, where they are there to take. What
-/// was not becomes a null in a column of the sale that takes none, and the whole statement fails.
-constexpr std::string_view kTake =
-    "WITH serie AS MATERIALIZED (SELECT CAST(nextval('vendas_numero_seq') AS integer) AS n),"
-    " caixa AS (UPDATE caixas SET dinheiro = dinheiro + CAST($2 AS bigint)"
-    " WHERE numero = CAST($1 AS integer) AND ativo = 1 AND aberto = 1 RETURNING numero),"
-    " cliente AS (UPDATE clientes SET credito = credito - CAST($4 AS bigint) + CAST($5 AS bigint)"
-    " WHERE codigo = CAST($3 AS integer) AND credito >= CAST($4 AS bigint)"
-    " AND (CAST($4 AS bigint) <> 0 OR CAST($5 AS bigint) <> 0) RETURNING codigo),"
+// Money, credit and pre-sale lines are taken one after the other, always in this order, where they
+// are there to take. Only when all of that is done does the sale get its number, since a number
+// that was drawn is gone whatever becomes of the sale: so none is missing. {1} and {2} are places.
+
+constexpr std::string_view kMoney =
+    "WITH caixa AS (UPDATE caixas SET dinheiro = dinheiro + CAST($2 AS bigint)"
+    " WHERE numero = CAST($1 AS integer) AND ativo = 1 AND aberto = 1 RETURNING numero),";
+constexpr int kFirstPlaces = 3;
+constexpr std::string_view kCredit =
+    " cliente AS (UPDATE clientes SET credito = credito - CAST({1} AS bigint) + CAST({2} AS bigint)"
+    " WHERE codigo = CAST($3 AS integer) AND credito >= CAST({1} AS bigint)"
+    " AND EXISTS (SELECT 1 FROM caixa) RETURNING codigo),";
+constexpr std::string_view kNoCredit =
+    " cliente AS (SELECT codigo FROM clientes"
+    " WHERE codigo = CAST($3 AS integer) AND EXISTS (SELECT 1 FROM caixa)),";
+constexpr std::string_view kPreSales =
+    " livres AS (SELECT numero FROM pre_vendas WHERE numero = ANY(CAST({1} AS integer[]))"
+    " AND codigo_do_cliente = CAST($3 AS integer) AND numero_da_venda IS NULL"
+    " AND EXISTS (SELECT 1 FROM cliente) ORDER BY numero FOR UPDATE),"
+    " serie AS MATERIALIZED (SELECT CAST(nextval('vendas_numero_seq') AS integer) AS n"
+    " WHERE EXISTS (SELECT 1 FROM cliente)"
+    " AND (SELECT count(*) FROM livres) = cardinality(CAST({1} AS integer[]))),"
     " pre AS (UPDATE pre_vendas p SET numero_da_venda = s.n FROM serie s"
-    " WHERE p.numero = ANY(CAST($6 AS integer[])) AND p.codigo_do_cliente = CAST($3 AS integer)"
-    " AND p.numero_da_venda IS NULL RETURNING p.numero),"
+    " WHERE p.numero = ANY(CAST({1} AS integer[]))),";
+constexpr std::string_view kNoPreSales =
+    " serie AS MATERIALIZED (SELECT CAST(nextval('vendas_numero_seq') AS integer) AS n"
+    " WHERE EXISTS (SELECT 1 FROM cliente)),";
+constexpr std::string_view kSale =
     " venda AS (INSERT INTO vendas"
     " (numero, numero_do_caixa, codigo_do_cliente, itens_de_pre_venda, {names})"
-    " SELECT s.n, (SELECT numero FROM caixa),"
-    " CASE WHEN CAST($4 AS bigint) = 0 AND CAST($5 AS bigint) = 0 THEN CAST($3 AS integer)"
-    " ELSE (SELECT codigo FROM cliente) END,"
-    " CASE WHEN (SELECT count(*) FROM pre) = CAST($7 AS integer) THEN CAST($7 AS integer) END,"
-    " {places} FROM serie s RETURNING numero)";
-constexpr int kTakenPlaces = 7;
+    " SELECT s.n, CAST($1 AS integer), CAST($3 AS integer), CAST({1} AS integer), {places}"
+    " FROM serie s RETURNING numero)";
 constexpr std::size_t kMostTables = 4;
 
-/// "CAST($8 AS bigint), CAST($9 AS text)" and so on, from place `next` on; with `suffix` behind
+/// Takes the next place: its name in place of `mark`, wherever that stands.
+std::string Placed(std::string_view text, std::string_view mark, int& next) {
+  return base::Replace(text, mark, "$" + std::to_string(next++));
+}
+
+/// "CAST($4 AS bigint), CAST($5 AS text)" and so on, from place `next` on; with `suffix` behind
 /// every type.
 std::string Places(std::span<const Coluna> columns, int& next, std::string_view suffix = {}) {
   std::string places;
@@ -46,14 +63,20 @@ std::string Places(std::span<const Coluna> columns, int& next, std::string_view 
 /// The rows of a sale in each of its tables.
 using Rows = std::vector<std::vector<Params>>;
 
-/// Which tables a sale has rows in, a bit each; the others have no part in its statement, since the
-/// server takes its time over them even when they get none.
-using Used = std::bitset<kMostTables>;
+/// What a sale touches, a bit each: the tables that get rows, the customer's credit, pre-sale
+/// lines. The rest has no part in its statement, since the server takes its time over what comes to
+/// nothing too.
+using Used = std::bitset<kMostTables + 2>;
+constexpr std::size_t kCreditBit = kMostTables;
+constexpr std::size_t kPreSalesBit = kMostTables + 1;
 
 std::string SaleText(Used used) {
-  int next = kTakenPlaces + 1;
-  std::string text = base::Replace(kTake, "{names}", Nomes(ColunasDaVenda()));
-  text = base::Replace(text, "{places}", Places(ColunasDaVenda(), next));
+  int next = kFirstPlaces + 1;
+  std::string text(kMoney);
+  text += used[kCreditBit] ? Placed(Placed(kCredit, "{1}", next), "{2}", next) : kNoCredit;
+  text += used[kPreSalesBit] ? Placed(kPreSales, "{1}", next) : kNoPreSales;
+  std::string sale = Placed(base::Replace(kSale, "{names}", Nomes(ColunasDaVenda())), "{1}", next);
+  text += base::Replace(sale, "{places}", Places(ColunasDaVenda(), next));
   for (std::size_t i = 0; i < TabelasDaVenda().size(); ++i) {
     if (!used[i]) continue;
     const TabelaDaVenda& table = TabelasDaVenda()[i];
@@ -68,8 +91,8 @@ std::string SaleText(Used used) {
 const Statement& SaleInto(Used used) {
   static const auto statements = [] {
     std::deque<Statement> all;
-    for (std::size_t tables = 0; tables < 1U << kMostTables; ++tables) {
-      all.emplace_back(SaleText(tables));
+    for (std::size_t each = 0; each < 1U << Used().size(); ++each) {
+      all.emplace_back(SaleText(each));
     }
     return all;
   }();
@@ -108,11 +131,16 @@ std::string ArrayOf(const std::vector<std::int32_t>& numbers) {
   return ArrayOf(rows, 0);
 }
 
-Params SaleParams(const Venda& venda, const Rows& rows) {
+/// In the order of the places.
+Params SaleParams(const Venda& venda, const Rows& rows, Used used) {
+  Params params{venda.numeroDoCaixa, venda.VariacaoDoDinheiro(), venda.codigoDoCliente};
+  if (used[kCreditBit]) {
+    params.emplace_back(venda.creditoUsado);
+    params.emplace_back(venda.creditoMantido);
+  }
   const auto preSales = venda.PreVendas();
-  Params params{venda.numeroDoCaixa, venda.VariacaoDoDinheiro(), venda.codigoDoCliente,
-                venda.creditoUsado,  venda.creditoMantido,       ArrayOf(preSales),
-                preSales.size()};
+  if (used[kPreSalesBit]) params.emplace_back(ArrayOf(preSales));
+  params.emplace_back(preSales.size());
   for (Param& value : LinhaDaVenda(venda)) params.push_back(std::move(value));
   for (const std::vector<Params>& each : rows) {
     if (each.empty()) continue;
@@ -132,13 +160,14 @@ std::optional<std::int32_t> EscreverNoPostgres(Session& session, const Venda& ve
     rows.push_back(table.linhas(venda));
     used.set(rows.size() - 1, !rows.back().empty());
   }
-  std::int32_t number = 0;
+  used.set(kCreditBit, !venda.creditoUsado.IsZero() || !venda.creditoMantido.IsZero());
+  used.set(kPreSalesBit, !venda.PreVendas().empty());
+  std::optional<std::int32_t> number;
   try {
-    session.Select(SaleInto(used), SaleParams(venda, rows),
+    session.Select(SaleInto(used), SaleParams(venda, rows, used),
                    [&](const Row& row) { number = row.Number(0); });
   } catch (const DatabaseError& error) {
     if (error.What() != Trouble::kConstraint) throw;
-    return std::nullopt;
   }
   return number;
 }

@@ -40,6 +40,15 @@ class LookupTest : public OverDatabase {
                {{code, type, name, SearchForm(name)}});
   }
 
+  /// Rows of a table in one statement, one more than a search shows, coded from 10000 on: `values`
+  /// are SQL of the code n.
+  void TooMany(const std::string& table, const std::string& columns, const std::string& values) {
+    Write("INSERT INTO " + table + " (" + columns +
+          ") WITH RECURSIVE codes (n) AS (SELECT 10000 UNION ALL SELECT n + 1 FROM codes"
+          " WHERE n < " +
+          std::to_string(10'000 + kMostRows) + ") SELECT " + values + " FROM codes");
+  }
+
   /// As the counter searches: by the text of a name field, or by the code.
   std::string CustomersBy(std::string name, double code = 0, const std::string& any = "") {
     const auto service = servicos::CriarServico<Customers>();
@@ -128,12 +137,8 @@ TEST_P(LookupTest, ARenamedCustomerIsFoundByTheNewNameAlone) {
 }
 
 TEST_P(LookupTest, ASearchThatFindsTooManyIsCutAndSaysSo) {
-  std::vector<Params> rows;
-  for (std::int32_t code = 1000; code < 1201; ++code) {
-    const std::string name = "Maria " + std::to_string(code);
-    rows.push_back({code, name, name, SearchForm(name, name)});
-  }
-  InsertRows(session(), "clientes", "codigo, apelido, nome, nome_busca", rows);
+  TooMany("clientes", "codigo, apelido, nome, nome_busca",
+          "n, 'Maria', 'Maria ' || n, 'maria\nmaria ' || n");
   const auto search = [](std::string name, std::int32_t expected) {
     const auto service = servicos::CriarServico<Customers>();
     double code = 0;
@@ -142,24 +147,24 @@ TEST_P(LookupTest, ASearchThatFindsTooManyIsCutAndSaysSo) {
     return service->DescricaoDaFalha();
   };
   EXPECT_EQ(
-      "Há mais de 200 clientes com esse nome e só 200 são mostrados. Digite mais letras para "
+      "Há mais de 5000 clientes com esse nome e só 5000 são mostrados. Digite mais letras para "
       "reduzir a lista.",
-      search("maria", 200));
-  EXPECT_EQ("", search("maria 10", 100));
-  Write("DELETE FROM clientes WHERE codigo = 1200");
-  EXPECT_EQ("", search("maria", 200)) << "just 200 are all of them";
+      search("maria", 5000));
+  EXPECT_EQ("", search("maria 100", 100));
+  Write("DELETE FROM clientes WHERE codigo = 15000");
+  EXPECT_EQ("", search("maria", 5000)) << "just 5000 are all of them";
 }
 
 TEST_P(LookupTest, WhoHasTheCodeIsNotCutOff) {
-  for (std::int32_t code = 1000; code < 1201; ++code) {
-    Customer(code, "Casa 777", "Casa 777 " + std::to_string(code));
-    Product(code, "", "Caixa 777 " + std::to_string(code));
-  }
+  TooMany("clientes", "codigo, apelido, nome, nome_busca",
+          "n, 'Casa 777', 'Casa ' || n, 'casa 777\ncasa ' || n");
+  TooMany("produtos", "codigo_interno, nome, nome_busca",
+          "n, 'Caixa 777 ' || n, 'caixa 777 ' || n");
   Customer(777, "Zulmira", "Zulmira");
   Product(777, "", "Zinco");
   Product(778, "777", "Zinco em pó");
-  EXPECT_TRUE(CustomersByAny("777").starts_with("777; 1000; "));
-  EXPECT_TRUE(ProductsByAny("777").starts_with("777; 778; 1000; "));
+  EXPECT_TRUE(CustomersByAny("777").starts_with("777; 10000; "));
+  EXPECT_TRUE(ProductsByAny("777").starts_with("777; 778; 10000; "));
 }
 
 TEST_P(LookupTest, ProductsAreFoundByCodeThenBarcodeThenName) {
