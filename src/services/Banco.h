@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/Clock.h"
 
@@ -38,7 +40,8 @@ class FalhaDeAbertura : public std::runtime_error {
 };
 
 /// The clinic's database as one process uses it: one connection with its prepared statements, the
-/// clock, and the name of this computer. The services share it. For one thread.
+/// clock, the name of this computer, and what keeps the screens alive. The services share it. For
+/// one thread.
 class Banco {
  public:
   /// `relogio` outlives the database. `computador` is the name under which the module knows this
@@ -51,11 +54,16 @@ class Banco {
   Session& Sessao() { return *sessao_; }
   base::DateTime Agora() const { return relogio_.Now(); }
   const std::string& Computador() const { return computador_; }
+  /// Lets the events of the screens run that have arrived; it may throw what unwinds them. Empty
+  /// where there is no screen to keep alive.
+  const std::function<void()>& CorrerEventos() const { return correrEventos_; }
+  void CorrerEventos(std::function<void()> eventos) { correrEventos_ = std::move(eventos); }
 
  private:
   std::unique_ptr<Session> sessao_;
   const base::Clock& relogio_;
   std::string computador_;
+  std::function<void()> correrEventos_;
 };
 
 /// Opens a database that CriarBanco has created, by its address: "sqlite:FILE", or "postgresql:"

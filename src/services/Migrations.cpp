@@ -353,6 +353,18 @@ CREATE TABLE itens_de_orcamento (
 ){keyed};
 )sql";
 
+/// How often in a row a name and password were refused at a computer, and when last. The names are
+/// those that were typed, of users or not.
+constexpr std::string_view kSignInAttempts = R"sql(
+CREATE TABLE tentativas_de_login (
+  computador_busca {text} NOT NULL,
+  usuario_busca {text} NOT NULL,
+  falhas {int} NOT NULL CHECK (falhas > 0),
+  ultima {moment} NOT NULL,
+  PRIMARY KEY (computador_busca, usuario_busca)
+){keyed};
+)sql";
+
 /// The index of a table's names keeps no copy of them: it follows its table through triggers.
 constexpr std::string_view kSearchOnSqlite = R"sql(
 CREATE VIRTUAL TABLE {t}_busca USING fts5(nome_busca, content='{t}', content_rowid='{k}',
@@ -383,6 +395,7 @@ constexpr NamedTable kFirstNames[] = {
 constexpr Migration kMigrations[] = {
     {1, kFirstTables, kFirstNames},
     {2, kDocumentsAndEstimates, {}},
+    {3, kSignInAttempts, {}},
 };
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "services/RegistrarServicos.h"
 
+#include <utility>
+
 #include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsDebitosVencCliente.h"
@@ -52,7 +54,8 @@ constexpr Entry kEntries[] = {
 
 }  // namespace
 
-void RegistrarServicos(const std::shared_ptr<Banco>& banco) {
+void RegistrarServicos(const std::shared_ptr<Banco>& banco, std::function<void()> correrEventos) {
+  banco->CorrerEventos(std::move(correrEventos));
   for (const Entry& entry : kEntries) {
     servicos::Registrar(entry.identifier, [banco, make = entry.make] { return make(banco); });
   }

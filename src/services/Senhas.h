@@ -9,12 +9,26 @@ namespace services {
 /// use, about a tenth of a second and 64 MB.
 std::string HashDaSenha(std::string_view senha);
 
+/// A hash that no password fits, and that costs what every other one costs to try.
+std::string HashDeNinguem();
+
 /// Whether the password is the one that the hash was made from. An empty hash fits none, and takes
 /// as long to say so.
 bool SenhaConfere(std::string_view senha, const std::string& hash);
 
-/// Wipes a password from memory.
-void Esquecer(std::string& senha);
+/// A password while it is needed: in one place of memory, which is wiped in the end.
+class Segredo {
+ public:
+  explicit Segredo(std::string_view senha) : senha_(senha) {}
+  ~Segredo();
+  Segredo(const Segredo&) = delete;
+  Segredo& operator=(const Segredo&) = delete;
+
+  std::string_view Senha() const { return senha_; }
+
+ private:
+  std::string senha_;
+};
 
 /// A number that no other operation of any computer has.
 long long NumeroUnico();

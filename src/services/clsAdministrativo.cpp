@@ -1,4 +1,3 @@
-#include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
 #include "services/DatabaseError.h"
 #include "services/Fabricas.h"
@@ -47,8 +46,7 @@ class clsAdministrativo : public SobreBanco<Contrato> {
   const std::string& Computador() {
     return computador_.empty() ? banco().Computador() : computador_;
   }
-  /// Computers are told apart without regard to case.
-  std::string Chave() { return base::Upper(base::Trim(Computador())); }
+  std::string Chave() { return ComputerForm(Computador()); }
 
   void Bloquear(std::int32_t codigo) {
     static const Statement take(
@@ -64,12 +62,14 @@ class clsAdministrativo : public SobreBanco<Contrato> {
     const Params params{codigo, Computador(), Chave(), usuario, banco().Agora()};
     try {
       InTransaction(sessao(), [&](Transaction&) {
-        if (sessao().Run(take, params) == 0) Recusar(codigo);
+        // The row stays locked though it was not written: the holder is there to be named.
+        if (sessao().Run(take, params) == 0) throw EmAtendimento(Detentor(codigo));
       });
     } catch (const DatabaseError& error) {
       // Only a customer who exists can be held.
       if (error.What() != Trouble::kConstraint) throw;
-      Recusar(codigo);
+      throw Refusal{.sentence = "Não há cliente cadastrado com o código " + std::to_string(codigo) +
+                                ". Selecione o cliente de novo."};
     }
   }
 
@@ -78,7 +78,9 @@ class clsAdministrativo : public SobreBanco<Contrato> {
         "DELETE FROM travas_de_clientes"
         " WHERE codigo_do_cliente = $1 AND computador_busca = $2");
     InTransaction(sessao(), [&](Transaction&) {
-      if (sessao().Run(free, {codigo, Chave()}) == 0 && !Detentor(codigo).empty()) Recusar(codigo);
+      if (sessao().Run(free, {codigo, Chave()}) > 0) return;
+      const std::string detentor = Detentor(codigo);
+      if (!detentor.empty()) throw EmAtendimento(detentor);
     });
   }
 
@@ -93,14 +95,9 @@ class clsAdministrativo : public SobreBanco<Contrato> {
     return text;
   }
 
-  [[noreturn]] void Recusar(std::int32_t codigo) {
-    const std::string detentor = Detentor(codigo);
-    if (detentor.empty()) {
-      throw Refusal{.sentence = "Não há cliente cadastrado com o código " + std::to_string(codigo) +
-                                ". Selecione o cliente de novo."};
-    }
-    throw Refusal{.sentence = "Este cliente está em atendimento com " + detentor +
-                              ". Aguarde o fim do atendimento."};
+  static Refusal EmAtendimento(const std::string& detentor) {
+    return {.sentence = "Este cliente está em atendimento com " + detentor +
+                        ". Aguarde o fim do atendimento."};
   }
 
   std::string computador_;

@@ -1,10 +1,13 @@
-#include "base/Text.h"
+#include <chrono>
+#include <future>
+
 #include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "services/Fabricas.h"
 #include "services/Fields.h"
 #include "services/Search.h"
 #include "services/Senhas.h"
 #include "services/SobreBanco.h"
+#include "services/TentativasDeLogin.h"
 
 namespace services {
 namespace {
@@ -26,24 +29,39 @@ constexpr Field kFields[] = {
      " ORDER BY codigo LIMIT 1), '')"},
 };
 
+/// Verifies a password while the screens live. The thread that does so owns all that it reads:
+/// what lets the events run may throw, and then nobody waits for more than its end.
+bool Confere(const std::shared_ptr<const Segredo>& senha, std::string hash,
+             const std::function<void()>& correrEventos) {
+  const auto verify = [senha, hash = std::move(hash)] {
+    return SenhaConfere(senha->Senha(), hash);
+  };
+  if (!correrEventos) return verify();
+  constexpr auto kNap = std::chrono::milliseconds(2);
+  auto verdict = std::async(std::launch::async, verify);
+  while (verdict.wait_for(kNap) != std::future_status::ready) correrEventos();
+  return verdict.get();
+}
+
 class clsLogin : public SobreBanco<Contrato> {
  public:
   using SobreBanco::SobreBanco;
-  ~clsLogin() override { Esquecer(senha_); }
 
   void NomeDeUsuario(std::string_view nome) override { nome_ = nome; }
   void SenhaDoUsuario(std::string_view senha) override {
-    Esquecer(senha_);
-    senha_ = senha;
+    senha_ = std::make_shared<Segredo>(senha);
   }
 
   std::int16_t Autenticar() override {
-    return Numerado("Autenticar", [this] {
+    // However this ends, the password is forgotten.
+    const auto senha = senha_ ? std::move(senha_) : std::make_shared<Segredo>("");
+    return Numerado("Autenticar", [&] {
       static const Statement secret(
           "SELECT codigo, senha, ativo FROM usuarios"
           " WHERE nome_busca = $1");
       static const Statement rights("SELECT " + ColumnsOf(kFields) +
                                     " FROM usuarios WHERE codigo = $1");
+      ContarTentativa(banco(), nome_);
       std::int32_t codigo = 0;
       std::string hash;
       bool isActive = false;
@@ -52,21 +70,21 @@ class clsLogin : public SobreBanco<Contrato> {
         hash = row.Text(1);
         isActive = row.Flag(2);
       });
-      const bool isRight = SenhaConfere(senha_, hash);
-      Esquecer(senha_);
       // The same words for a wrong name and a wrong password: nobody learns which names exist.
-      if (!isRight)
+      if (!Confere(senha, hash, banco().CorrerEventos())) {
         throw Refusal{.sentence = "Usuário ou senha inválidos. Confira e tente de novo."};
+      }
       if (!isActive) {
         throw Refusal{.sentence = "Este usuário está desativado. Fale com o administrador."};
       }
+      EsquecerTentativas(banco(), nome_);
       outcome_.rows = SelectRows(sessao(), kFields, rights, {codigo}).rows;
     });
   }
 
  private:
   std::string nome_;
-  std::string senha_;
+  std::shared_ptr<Segredo> senha_;
 };
 
 }  // namespace

@@ -127,6 +127,21 @@ TEST_F(AutorizarTest, EveryOtherWayOutIsARefusal) {
             }),
             99);
   EXPECT_TRUE(module.TakeCalls().empty());
+
+  // The screen lives while the password is verified: who leaves then has given no consent.
+  const auto leaveMeanwhile = [&](auto leave) {
+    return answer([&](frmCaixaAutorizar& form) {
+      module.meanwhile["Autenticar"] = [&] {
+        EXPECT_EQ(input::Click(form.zvcmdOk), input::Outcome::kDropped);
+        leave(form);
+      };
+      FillAndConfirm(form);
+      EXPECT_FALSE(form.IsVisible());
+    });
+  };
+  EXPECT_EQ(leaveMeanwhile([](frmCaixaAutorizar& form) { input::Close(form); }), 99);
+  EXPECT_EQ(leaveMeanwhile([](frmCaixaAutorizar& form) { input::Click(form.zvcmdFechar); }), 99);
+  EXPECT_EQ(leaveMeanwhile([](frmCaixaAutorizar&) {}), 0);
 }
 
 TEST_F(AutorizarTest, AFaultIsReportedWithTheDialogsTagAndRefuses) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -87,6 +88,8 @@ class Module {
   Fields session;
   /// What operations answer, by member; 0 for one not named.
   std::map<std::string, std::int16_t, std::less<>> results;
+  /// What the operator does while operations run, by member.
+  std::map<std::string, std::function<void()>, std::less<>> meanwhile;
   std::string refusal = "Recusado pelo serviço.";
   /// The user that authentication finds.
   std::map<std::string, base::Value> supervisor;
@@ -127,6 +130,7 @@ class Module {
   template <class... Arguments>
   std::int16_t Operate(std::string_view member, const Arguments&... arguments) {
     Note(member, arguments...);
+    if (const auto act = meanwhile.find(member); act != meanwhile.end()) act->second();
     const auto found = results.find(member);
     return found == results.end() ? std::int16_t{0} : found->second;
   }

@@ -36,6 +36,7 @@ TEST_P(MigrationTest, WhatAnOlderVersionWroteIsKept) {
   EXPECT_EQ(CurrentSchema(), SchemaIn(session()));
   EXPECT_EQ("Bicho Contente", Read("SELECT nome_fantasia FROM empresa WHERE razao_social = ''"));
   EXPECT_EQ(0, Count("orcamentos"));
+  EXPECT_EQ(0, Count("tentativas_de_login"));
   CriarBanco(address_);
   EXPECT_EQ(1, Count("empresa")) << "migrated once";
 }

@@ -2,33 +2,15 @@
 #include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
 #include "frame/servicos/ZOVA_N_Empresa.clsEmpresa.h"
 #include "frame/servicos/ZOVA_N_Funcionarios.clsFuncionarios.h"
-#include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
 #include "frame/servicos/ZOVA_N_TipoDeServ.clsTiposDeServ.h"
 #include "services/Database.h"
-#include "services/Senhas.h"
 
 namespace services {
 namespace {
 
-using Login = servicos::ZOVA_N_Login::clsLogin;
-
-/// Company, registers, users and the other records that are only read.
-class RecordsTest : public OverDatabase {
- protected:
-  void User(const std::string& name, const std::string& password, bool isActive, bool isAdmin) {
-    InsertRows(session(), "usuarios", "nome, nome_busca, senha, ativo, administrador",
-               {{name, base::Fold(name), HashDaSenha(password), isActive, isAdmin}});
-  }
-  std::unique_ptr<Login> Try(const std::string& name, const std::string& password,
-                             std::int16_t expected) {
-    auto service = servicos::CriarServico<Login>();
-    service->NomeDeUsuario(name);
-    service->SenhaDoUsuario(password);
-    EXPECT_EQ(expected, service->Autenticar()) << name;
-    return service;
-  }
-};
+/// Company, registers and the other records that are only read.
+class RecordsTest : public OverDatabase {};
 OVER_BOTH_ENGINES(RecordsTest);
 
 TEST_P(RecordsTest, TheCompanyHasDatesFlagsAndALimitThatMayBeMissing) {
@@ -85,35 +67,6 @@ TEST_P(RecordsTest, TypesOfServiceByNumber) {
   ASSERT_EQ(0, service->SelecionarParaComboBox(none));
   EXPECT_EQ("99|Outros;100|Clínicos;",
             service->ResultadoDaSelecaoEmRecordSet()->GetString("|", ";"));
-}
-
-TEST_P(RecordsTest, AUserComesWithTheRightsOfTheSessionRecord) {
-  User("José", "Segredo 1", true, true);
-  const auto rows = Try("jose", "Segredo 1", 0)->ResultadoDaSelecaoEmRecordSet();
-  EXPECT_EQ(base::Value("José"), rows->Field("NomeDeUsuario"));
-  EXPECT_EQ(base::Value(true), rows->Field("Administrador"));
-  for (const char* right :
-       {"PermissaoDoModuloCaixaAlterarDescontosDeVendas", "PermissaoDoModuloCaixaRelatorios",
-        "PermissaoDoModuloCaixaEfetuarVendasACreditoFiado",
-        "PermissaoDoModuloCaixaEfetuarSaidasDeCaixas", "PermissaoDoModuloCaixaCancelarVendas"}) {
-    EXPECT_EQ(base::Value(false), rows->Field(right)) << right;
-  }
-  EXPECT_EQ(base::Value(""), rows->Field("CodigoDoDocumentoComEmissaoPermitida"));
-  EXPECT_EQ(std::string::npos, Read("SELECT senha FROM usuarios").find("Segredo"));
-  EXPECT_EQ(0U, Read("SELECT senha FROM usuarios").find("$argon2id$"));
-}
-
-TEST_P(RecordsTest, ARefusedSignInDoesNotSayWhichHalfWasWrong) {
-  User("ana", "certa", true, false);
-  User("eva", "certa", false, false);
-  const std::string words = "Usuário ou senha inválidos. Confira e tente de novo.";
-  EXPECT_EQ(words, Try("ana", "CERTA", servicos::kRecusa)->DescricaoDaFalha());
-  EXPECT_EQ(words, Try("ana", "", servicos::kRecusa)->DescricaoDaFalha());
-  EXPECT_EQ(words, Try("ninguém", "", servicos::kRecusa)->DescricaoDaFalha());
-  EXPECT_EQ(words, Try("eva", "errada", servicos::kRecusa)->DescricaoDaFalha());
-  EXPECT_EQ(words, Try("' OR ''='", "x", servicos::kRecusa)->DescricaoDaFalha());
-  EXPECT_EQ("Este usuário está desativado. Fale com o administrador.",
-            Try("eva", "certa", servicos::kRecusa)->DescricaoDaFalha());
 }
 
 TEST_P(RecordsTest, AFaultHasNumberWordsAndPlaceInBothFamilies) {

@@ -1,10 +1,114 @@
+#include <sys/mman.h>
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <new>
+#include <thread>
+
+#include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
+#include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "services/Database.h"
 #include "services/DatabaseError.h"
 #include "services/SqliteSession.h"
 
 namespace services {
 namespace {
+
+constexpr int kCustomers = 3;
+
+/// What processes tell each other past the database.
+struct Counter {
+  std::atomic<int> ready{0};
+  std::array<std::atomic<int>, kCustomers> holders{};
+  std::atomic<int> taken{0};
+  std::atomic<int> refused{0};
+  std::atomic<int> wrong{0};
+};
+
+/// A value that the processes started from here on share.
+template <class Value>
+class Shared {
+ public:
+  Shared()
+      : value_(new (mmap(nullptr, sizeof(Value), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS,
+                         -1, 0)) Value) {}
+  ~Shared() { munmap(value_, sizeof(Value)); }
+  Shared(const Shared&) = delete;
+  Shared& operator=(const Shared&) = delete;
+
+  Value* operator->() { return value_; }
+  Value& operator*() { return *value_; }
+
+ private:
+  Value* value_;
+};
+
+/// A cash desk that takes customers and lets them go, and notes what should not have happened.
+class LockingDesk {
+ public:
+  LockingDesk(std::string computer, Counter& counter)
+      : computer_(std::move(computer)), counter_(counter) {}
+
+  void Serve(int customer) {
+    std::atomic<int>& holders = counter_.holders.at(static_cast<std::size_t>(customer - 1));
+    const std::int16_t status = Lock(computer_, customer);
+    if (status == servicos::kRecusa) {
+      ++counter_.refused;
+      Expect(said_.starts_with("Este cliente está em atendimento com renata no computador "));
+      // Somebody else's, or nobody's any more.
+      Expect(Free(computer_, customer) != servicos::kErro);
+      return;
+    }
+    Expect(status == servicos::kSucesso);
+    ++counter_.taken;
+    Expect(++holders == 1);
+    Expect(Holder(customer) == computer_);
+    Expect(Lock(base::Upper(computer_), customer) == servicos::kSucesso);
+    Expect(Free("OUTRO", customer) == servicos::kRecusa);
+    Expect(Holder(customer) == base::Upper(computer_));
+    --holders;
+    Expect(Free(computer_, customer) == servicos::kSucesso);
+  }
+
+ private:
+  using Service = servicos::ZOVA_N_Administrativo::clsAdministrativo;
+
+  void Expect(bool right) { counter_.wrong += right ? 0 : 1; }
+  std::int16_t Lock(const std::string& computer, double customer) {
+    return Do(computer, [&](Service& service) { return service.BloquearCliente(1, customer, 2); });
+  }
+  std::int16_t Free(const std::string& computer, double customer) {
+    return Do(computer,
+              [&](Service& service) { return service.DesbloquearCliente(1, customer, 2); });
+  }
+  std::string Holder(double customer) {
+    std::string holder = "nobody";
+    Do(computer_, [&](Service& service) {
+      const auto status = service.SelecionarClientesComTransacoesBloqueadas(2, 0, customer, 1);
+      const auto rows = service.ResultadoDaSelecaoEmRecordSet();
+      if (rows && rows->RecordCount() == 1) holder = base::ToText(rows->Fields("NomeDoComputador"));
+      return status;
+    });
+    return holder;
+  }
+  std::int16_t Do(const std::string& computer,
+                  const std::function<std::int16_t(Service&)>& operation) {
+    const auto service = servicos::CriarServico<Service>();
+    service->NomeDoComputador(computer);
+    service->DadosDoUsuario(&user_);
+    const std::int16_t status = operation(*service);
+    said_ = service->DescricaoDaFalha();
+    if (status == servicos::kErro) fprintf(stderr, "%s\n", service->DescricaoDoErro().c_str());
+    return status;
+  }
+
+  SessionRecord user_{"renata"};
+  std::string computer_;
+  Counter& counter_;
+  std::string said_;
+};
 
 /// Several computers at the same work.
 class TogetherTest : public OverDatabase {
@@ -98,16 +202,54 @@ TEST_P(TogetherTest, OneRegisterIsOpenedOnce) {
   EXPECT_EQ(1, Count("lancamentos_de_caixa"));
 }
 
-TEST_P(TogetherTest, OneCustomerIsTakenByOneComputer) {
-  EXPECT_EQ(servicos::kRecusa, TwoAtOnce([](int) {
-              const SessionRecord user("renata");
-              const auto service =
-                  servicos::CriarServico<servicos::ZOVA_N_Administrativo::clsAdministrativo>();
-              service->DadosDoUsuario(&user);
-              double code = 5;
-              return int{service->BloquearCliente(1, code, 2)};
-            }));
-  EXPECT_EQ(1, Count("travas_de_clientes"));
+TEST_P(TogetherTest, ACustomerHasOneHolderAtAnyMoment) {
+  constexpr int kDesks = 4;
+  constexpr int kRounds = 50;
+  Write(
+      "INSERT INTO clientes (codigo, apelido, nome, nome_busca) VALUES"
+      " (1, 'Ana', 'Ana', ''), (2, 'Bia', 'Bia', ''), (3, 'Caio', 'Caio', '')");
+  Shared<Counter> counter;
+  std::vector<pid_t> desks;
+  for (const char* computer : {"loja", "balcao", "caixa-3", "caixa-4"}) {
+    desks.push_back(Start(computer, [&counter, computer] {
+      LockingDesk desk(computer, *counter);
+      ++counter->ready;
+      for (int naps = 0; counter->ready < kDesks && naps < 5'000; ++naps) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+      }
+      for (int i = 0; i < kRounds; ++i) desk.Serve(1 + i % kCustomers);
+      return 0;
+    }));
+  }
+  for (const pid_t desk : desks) EXPECT_EQ(0, EndOf(desk));
+  EXPECT_EQ(0, counter->wrong);
+  EXPECT_EQ(kDesks * kRounds, counter->taken + counter->refused);
+  EXPECT_GT(counter->taken, 0);
+  EXPECT_GT(counter->refused, 0) << "they were not in each other's way";
+  EXPECT_EQ(0, Count("travas_de_clientes"));
+}
+
+TEST_P(TogetherTest, GuessesAtOneComputerCountTogether) {
+  constexpr int kGuesses = 3;
+  const std::vector<std::string> names{"ana", "bia", "eva"};
+  const auto guess = [&names] {
+    int lookedAt = 0;
+    for (int i = 0; i < kGuesses; ++i) {
+      for (const std::string& name : names) {
+        const auto login = servicos::CriarServico<servicos::ZOVA_N_Login::clsLogin>();
+        login->NomeDeUsuario(name);
+        login->SenhaDoUsuario("errada");
+        if (login->Autenticar() != servicos::kRecusa) return 100;
+        lookedAt += login->DescricaoDaFalha().starts_with("Usuário ou senha") ? 1 : 0;
+      }
+    }
+    return lookedAt;
+  };
+  const pid_t first = Start("LOJA", guess);
+  const pid_t second = Start("loja", guess);
+  EXPECT_EQ(kGuesses * static_cast<int>(names.size()), EndOf(first) + EndOf(second))
+      << "three for each name, whoever takes them";
+  EXPECT_EQ(3, Count("tentativas_de_login WHERE falhas = 3"));
 }
 
 TEST_P(TogetherTest, WhatAnotherHoldsTooLongIsAFaultThatLeavesNothing) {
