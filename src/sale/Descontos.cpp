@@ -3,11 +3,11 @@
 #include "base/Text.h"
 #include "consent/Autorizar.h"
 #include "frame/CamposNumericos.h"
+#include "frame/Empresa.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/Valores.h"
 #include "platform/Desktop.h"
-#include "frame/Empresa.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {

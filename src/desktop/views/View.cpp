@@ -79,8 +79,7 @@ void View::Place() {
 }
 
 void View::Name() {
-  std::string words =
-      control_->label != nullptr ? control_->label->Caption() : control_->Words();
+  std::string words = control_->label != nullptr ? control_->label->Caption() : control_->Words();
   // A button with nothing but a picture is named by what the pointer says of it.
   if (words.empty()) words = control_->ToolTipText();
   QString name = ToQt(words);
