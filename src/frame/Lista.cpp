@@ -56,15 +56,16 @@ void Lista::Esvaziar() {
 void Lista::Preencher(base::RecordSet& registros) {
   const SemRedesenho semRedesenho(grade_);
   Esvaziar();
-  quantos_ = registros.RecordCount();
-  if (quantos_ == 0) return;
-  grade_.Rows(quantos_ + 1);
+  if (registros.RecordCount() == 0) return;
   // A list may have thousands of rows: each field is looked for once.
   std::vector<std::pair<std::int32_t, std::int32_t>> campos;
   for (std::int32_t i = 0; i < grade_.Cols(); ++i) {
     const std::string_view campo = colunas_[static_cast<std::size_t>(i)].campo;
     if (!campo.empty()) campos.emplace_back(i, PosicaoDoCampo(registros, campo));
   }
+  // Records that cannot be shown leave the list empty, with no row to choose.
+  grade_.Rows(registros.RecordCount() + 1);
+  quantos_ = registros.RecordCount();
   std::int32_t linha = 1;
   base::ForEachRow(registros, [&] {
     for (const auto& [coluna, campo] : campos) {

@@ -26,6 +26,7 @@ frmPesquisa::frmPesquisa(const Pesquisa& pesquisa)
   picMensagem.Visible.Assign(false);
   Load = [this] { Form_Load(); };
   Activate = [this] { Form_Activate(); };
+  UnloadEvent = [this](bool& recusar) { Form_Unload(recusar); };
   lista_.aoEscolher = [this] { msfgGrade_Click(); };
   zvfndCampo.Click = [this] { zvfndCampo_Click(); };
   zvcmdFechar.Click = [this] { zvcmdFechar_Click(); };
@@ -86,17 +87,22 @@ void frmPesquisa::PreencherGrade(const base::RecordSetPtr& registros, std::int16
   falha = 1;
   Procedimento(", " + std::string(pesquisa_.formularioDaGrade) + ", PreencherGrade, Ponto: ",
                [&](Ponto& ponto) {
+                 lblAvisoDaLista.Caption = "";
                  if (!registros) {
                    lista_.Esvaziar();
                  } else {
                    lista_.Preencher(*registros);
                  }
                  ponto = 2;
-                 lblAvisoDaLista.Caption = aviso.empty() ? base::ToText(lista_.Quantos()) + " " +
-                                                               std::string(pesquisa_.registros)
-                                                         : std::string(aviso);
+                 lblAvisoDaLista.Caption = aviso.empty() ? Quantidade() : std::string(aviso);
                  falha = 0;
                });
+}
+
+std::string frmPesquisa::Quantidade() const {
+  const std::int32_t quantos = lista_.Quantos();
+  return base::ToText(quantos) + " " +
+         std::string(quantos == 1 ? pesquisa_.registro : pesquisa_.registros);
 }
 
 base::RecordSetPtr frmPesquisa::Escolhido(std::span<const CampoDaLinha> campos) const {
@@ -157,6 +163,13 @@ void frmPesquisa::Form_Activate() {
   }
 }
 
+void frmPesquisa::Form_Unload(bool& recusar) {
+  if (!painel_.Visivel()) return;
+  // Closed while its search waits: the search still needs the dialog to end, out of sight.
+  recusar = true;
+  Hide();
+}
+
 void frmPesquisa::msfgGrade_Click() {
   Procedimento(Etiqueta("msfgGrade_Click"), [&](Ponto&) {
     if (ValidarCampos() == 1) return;
@@ -189,6 +202,8 @@ bool frmPesquisa::Pesquisar() {
   bool encontrou = false;
   Procedimento(Etiqueta(pesquisa_.rotina), [&](Ponto& ponto) {
     frame::Espera espera(painel_);
+    // Chosen or left during the wait: the row chosen stands, and nothing is looked for any more.
+    if (!IsVisible()) return;
     suprimirProximoClick_ = true;
     // It stands while the dialog writes; the operator's next search is his own.
     const auto baixar = [](bool* suprimir) { *suprimir = false; };

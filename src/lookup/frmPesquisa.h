@@ -29,7 +29,7 @@ struct Pesquisa {
   std::string_view rotina;                  ///< The search, in the location of an error.
   std::string_view formularioDaGrade;       ///< The form that the grid's locations name.
   std::string_view formularioDoCampo;       ///< The form that the find field's location names.
-  std::string_view registros;               ///< What is listed, in the plural.
+  std::string_view registro, registros;     ///< What is listed, one and several.
   std::span<const frame::Coluna> colunas;   ///< Their numbers are known to every caller.
 };
 
@@ -109,9 +109,11 @@ class frmPesquisa : public platform::Form {
  private:
   void Form_Load();
   void Form_Activate();
+  void Form_Unload(bool& recusar);
   void msfgGrade_Click();
   void zvfndCampo_Click();
   void zvcmdFechar_Click();
+  std::string Quantidade() const;
   /// Whether the search found anything.
   bool Pesquisar();
 

@@ -55,6 +55,7 @@ constexpr Pesquisa kPesquisa{.formulario = "frmPesquisaDeClientes",
                              .rotina = "PesquisarCliente",
                              .formularioDaGrade = "frmPesquisaDeClientes",
                              .formularioDoCampo = "frmPesquisaDeClientes",
+                             .registro = "cliente",
                              .registros = "clientes",
                              .colunas = kColunas};
 

@@ -31,6 +31,7 @@ constexpr Pesquisa kPesquisa{.formulario = "frmPesquisaDeProdutos",
                              .rotina = "PesquisarProduto",
                              .formularioDaGrade = "frmLista",
                              .formularioDoCampo = "frmLista",
+                             .registro = "produto",
                              .registros = "produtos",
                              .colunas = kColunas};
 

@@ -35,6 +35,7 @@ constexpr Pesquisa kPesquisa{.formulario = "frmPesquisaDeServicos",
                              .rotina = "PesquisarServico",
                              .formularioDaGrade = "frmLista",
                              .formularioDoCampo = "frmLista",
+                             .registro = "serviço",
                              .registros = "serviços",
                              .colunas = kColunas};
 
