@@ -100,8 +100,7 @@ void frmCadastroDeCodigo::zvcmdSalvar_Click() {
     ponto = 2;
     const frame::PonteiroDeEspera espera(*this, platform::kHourglassPointer);
     auto cadastro = CriarServico<clsCadastroFiscal>();
-    const std::int16_t status =
-        (*cadastro.*cadastro_.registrar)(codigo_, zvmskCodigo.UnmaskedText());
+    const std::int16_t status = cadastro_.registrar(*cadastro, codigo_, zvmskCodigo.UnmaskedText());
     // After a fault the operator may try again: to give up here would cost the whole sale.
     if (!frame::Aceitar(status, *cadastro)) return;
     ponto = 3;

@@ -20,7 +20,8 @@ struct CadastroDeCodigo {
   std::string_view formulario, titulo, explicacao, rotulo, mascara, vazio;
   Julgamento (*julgar)(std::string_view digitos);
   std::int16_t (dados::clsCadastroFiscal::*selecionar)(double codigo);
-  std::int16_t (dados::clsCadastroFiscal::*registrar)(double codigo, std::string_view digitos);
+  std::int16_t (*registrar)(dados::clsCadastroFiscal& servico, double codigo,
+                            std::string_view digitos);
 };
 
 inline constexpr CadastroDeCodigo kCodigoIBGEDoMunicipio{
@@ -34,7 +35,9 @@ inline constexpr CadastroDeCodigo kCodigoIBGEDoMunicipio{
     .vazio = "Informe o código IBGE do município.",
     .julgar = JulgarMunicipio,
     .selecionar = &dados::clsCadastroFiscal::SelecionarMunicipio,
-    .registrar = &dados::clsCadastroFiscal::RegistrarMunicipio};
+    .registrar = [](dados::clsCadastroFiscal& servico, double codigo, std::string_view digitos) {
+      return servico.RegistrarMunicipio(codigo, digitos);
+    }};
 
 inline constexpr CadastroDeCodigo kNCMDoProduto{
     .formulario = "frmNCMDoProduto",
@@ -47,7 +50,9 @@ inline constexpr CadastroDeCodigo kNCMDoProduto{
     .vazio = "Informe a NCM do produto.",
     .julgar = JulgarNCM,
     .selecionar = &dados::clsCadastroFiscal::SelecionarNCM,
-    .registrar = &dados::clsCadastroFiscal::RegistrarNCM};
+    .registrar = [](dados::clsCadastroFiscal& servico, double codigo, std::string_view digitos) {
+      return servico.RegistrarNCM(codigo, digitos);
+    }};
 
 /// Registers a fiscal code that a sale has missed: of a customer's municipality, or of a product.
 class frmCadastroDeCodigo final : public platform::Form, private platform::Observer {
