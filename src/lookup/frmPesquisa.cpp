@@ -32,7 +32,7 @@ frmPesquisa::frmPesquisa(const Pesquisa& pesquisa)
   zvcmdFechar.Click = [this] { zvcmdFechar_Click(); };
 }
 
-platform::Layout frmPesquisa::Desenho(std::vector<platform::Place> acima,
+platform::Layout frmPesquisa::Desenho(const std::vector<platform::Place>& acima,
                                       std::int32_t inicioDoCampo) {
   constexpr std::int32_t kLargura = 13200, kAltura = 8670;
   constexpr unsigned kAoLado = platform::kHoldWidth;

@@ -82,7 +82,7 @@ class frmPesquisa : public platform::Form {
 
   /// The places of all controls, those of `acima` beside the find field that begins at
   /// `inicioDoCampo`.
-  platform::Layout Desenho(std::vector<platform::Place> acima = {},
+  platform::Layout Desenho(const std::vector<platform::Place>& acima = {},
                            std::int32_t inicioDoCampo = 240);
   std::string Etiqueta(std::string_view rotina) const;
   /// Where the keyboard begins in a list that holds nothing yet.
