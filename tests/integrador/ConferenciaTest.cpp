@@ -37,7 +37,7 @@ TEST(Conferencia, TakesWhatTheCashDeskWrites) {
   std::string items;
   for (int i = 1; i <= 1001; ++i) {
     fiscal::AcrescentarItem(items, {std::to_string(i), i % 2 == 0 ? "" : "1234567", "1,5",
-                                    "1.234,56", i % 3 == 0 ? "0,00" : "-2,00", "1.849,84"});
+                                    "1.234,56", i % 3 == 0 ? "2,00" : "-2,00", "1.849,84"});
   }
   std::string payments;
   for (std::int16_t form = 1; form <= 8; ++form) {
@@ -108,9 +108,10 @@ TEST(Conferencia, RefusesEachDefectByRecordAndField) {
        "Registro 2 (item): campo 4 (quantidade): esperado 8 dígitos, vírgula e 3 decimais."},
       {"00000010,500", "000000010,50",
        "Registro 2 (item): campo 5 (valor unitário): esperado 8 dígitos, vírgula e 3 decimais."},
-      {"-000000001,00", "000000001,00",
-       "Registro 2 (item): campo 6 (desconto): esperado 9 dígitos, vírgula e 2 decimais, com sinal "
-       "de menos se não for zero."},
+      {"-000000001,00", "-00000001,00",
+       "Registro 2 (item): campo 6 (desconto): esperado 9 dígitos, vírgula e 2 decimais, com ou "
+       "sem "
+       "sinal de menos."},
       {"000000020,00", "-000000020,00",
        "Registro 2 (item): campo 7 (valor total): esperado 9 dígitos, vírgula e 2 decimais."},
       {"20,00|\r\n", "20,00\r\n", "Registro 2: não começa e termina com a barra vertical."},

@@ -52,8 +52,10 @@ bool Quantidade(std::string_view texto) {
 bool Valor(std::string_view texto) {
   return NaMascara(texto, kDuasDecimais);
 }
+/// A discount of the line is negative, but a line that bears its share of the sale's discount tells
+/// the whole of it without a sign.
 bool Desconto(std::string_view texto) {
-  if (texto == "000000000,00") return true;
+  if (Valor(texto)) return true;
   return texto.starts_with('-') && Valor(texto.substr(1)) && texto != "-000000000,00";
 }
 bool DiaDoMes(std::string_view texto) {
@@ -119,8 +121,7 @@ constexpr std::array kItem{
           "6 dígitos ou vazio"},
     Campo{"quantidade", Quantidade, kTextoTresDecimais},
     Campo{"valor unitário", Quantidade, kTextoTresDecimais},
-    Campo{"desconto", Desconto,
-          "9 dígitos, vírgula e 2 decimais, com sinal de menos se não for zero"},
+    Campo{"desconto", Desconto, "9 dígitos, vírgula e 2 decimais, com ou sem sinal de menos"},
     Campo{"valor total", Valor, kTextoDuasDecimais},
 };
 
