@@ -42,6 +42,12 @@ constexpr Words kWords[] = {
     {Trouble::kSchema,
      "As tabelas do banco de dados não são as que este programa espera. Atualize o banco de "
      "dados."},
+    {Trouble::kReadFailed,
+     "Não foi possível ler o banco de dados: a conexão caiu ou o servidor não respondeu a tempo. "
+     "Aguarde um instante e tente de novo."},
+    {Trouble::kFileGone,
+     "O arquivo do banco de dados foi apagado, trocado ou cortado com o caixa aberto, e o que se "
+     "faz nele pode se perder. Feche o programa e chame o suporte."},
     {Trouble::kOther, "O banco de dados não concluiu a operação. Avise o suporte."},
 };
 

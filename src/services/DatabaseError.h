@@ -10,7 +10,7 @@ namespace services {
 /// What can be wrong between the services and their database, whichever engine it is; the value is
 /// the error number that the operator sees.
 enum class Trouble : std::int32_t {
-  kConnectionLost = 3001,  ///< Nothing of the operation was kept.
+  kConnectionLost = 3001,  ///< Inside a transaction: nothing of the operation was kept.
   kInDoubt = 3002,         ///< Lost while it was being kept; whether it stands is not known.
   kBusy = 3003,
   kConflict = 3004,  ///< Two transactions in each other's way; worth another try.
@@ -23,6 +23,8 @@ enum class Trouble : std::int32_t {
   kNotADatabase = 3011,
   kNoPermission = 3012,
   kSchema = 3013,
+  kReadFailed = 3014,  ///< The connection fell, or no answer came in time, while reading.
+  kFileGone = 3015,    ///< The file was deleted, replaced or cut while it was open.
   kOther = 3099,
 };
 

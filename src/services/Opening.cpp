@@ -131,6 +131,7 @@ std::string InServersWords(const DatabaseError& error) {
              "PostgreSQL. Peça-as ao administrador" +
                  InServersWords(error));
     case Trouble::kConnectionLost:
+    case Trouble::kReadFailed:
       Refuse(
           Motivo::kServidorInacessivel,
           "Não foi possível entrar no servidor PostgreSQL. Confira se ele está ligado, o endereço, "

@@ -131,6 +131,7 @@ auto PostgresSession::Translated(Work work) {
 
 void PostgresSession::Connect() {
   inTransaction_ = false;
+  if (wasConnected_) NoteReconnection();
   connection_.reset();
   Translated([this] {
     auto fresh = std::make_unique<Connection>(text_);
@@ -148,6 +149,7 @@ void PostgresSession::Connect() {
             .front()
             .c_str();
     connection_ = std::move(fresh);
+    wasConnected_ = true;
   });
 }
 
@@ -171,6 +173,16 @@ auto PostgresSession::Persistently(Work work) {
   }
   Connect();
   return Translated(work);
+}
+
+bool PostgresSession::TryToReconnect() noexcept {
+  try {
+    EnsureConnected();
+  } catch (const std::exception&) {
+    return false;
+  }
+  TellReconnection();
+  return true;
 }
 
 PostgresSession::Connection& PostgresSession::Alive() {
@@ -212,9 +224,28 @@ std::int64_t PostgresSession::DoRun(const Statement& statement, const Params& pa
 std::int64_t PostgresSession::DoSelect(const Statement& statement, const Params& params,
                                        const EachRow& each) {
   const auto work = [&] { return Alive().Ask(statement, params, *this); };
-  const pqxx::result result = inTransaction_ ? Translated(work) : Persistently(work);
+  const auto ask = [&] {
+    if (inTransaction_) return Translated(work);
+    try {
+      return Persistently(work);
+    } catch (const DatabaseError& error) {
+      if (error.What() != Trouble::kConnectionLost) throw;
+      throw DatabaseError(Trouble::kReadFailed, error.Detail());
+    }
+  };
+  const pqxx::result result = ask();
   for (const pqxx::row& row : result) each(PostgresRow(row));
   return static_cast<std::int64_t>(result.size());
+}
+
+std::vector<std::int64_t> PostgresSession::DoRunTogether(const std::vector<Request>& requests) {
+  std::vector<std::int64_t> rows;
+  rows.reserve(requests.size());
+  for (const Request& each : requests) {
+    rows.push_back(DoSelect(
+        each.statement, each.params, each.each ? each.each : [](const Row&) {}));
+  }
+  return rows;
 }
 
 void PostgresSession::DoRunScript(const std::string& script) {
@@ -234,7 +265,7 @@ void PostgresSession::DoBegin() {
 }
 
 void PostgresSession::DoCommit(const Proof& proof) {
-  const std::string label = Alive().label;
+  const Doubt doubt{.label = Alive().label, .proof = proof};
   try {
     Translated([this] {
       Count();
@@ -244,7 +275,9 @@ void PostgresSession::DoCommit(const Proof& proof) {
   } catch (const DatabaseError& error) {
     if (error.What() != Trouble::kConnectionLost) throw;
     inTransaction_ = false;
-    LookFor(proof, label);
+    const Standing standing = DoFindOut(doubt);
+    if (standing == Standing::kUnknown) throw InDoubt(doubt, error.Detail());
+    if (standing == Standing::kDoesNotStand) throw;
   }
 }
 
@@ -273,26 +306,24 @@ bool PostgresSession::IsGone(const std::string& label) {
   });
 }
 
-void PostgresSession::LookFor(const Proof& proof, const std::string& lostLabel) {
+Standing PostgresSession::DoFindOut(const Doubt& doubt) {
   using Clock = std::chrono::steady_clock;
   constexpr auto kPatience = std::chrono::seconds(10);
   constexpr auto kPause = std::chrono::milliseconds(100);
   const auto end = Clock::now() + kPatience;
-  std::string lastWords;
   for (; Clock::now() < end; std::this_thread::sleep_for(kPause)) {
     try {
       EnsureConnected();
       // The server may still be at the commit whose client it has lost.
-      if (!IsGone(lostLabel)) continue;
-      if (proof.statement == nullptr) break;
-      if (DoSelect(*proof.statement, proof.params, [](const Row&) {}) > 0) return;
-      throw DatabaseError(Trouble::kConnectionLost, "COMMIT");
-    } catch (const DatabaseError& error) {
+      if (!IsGone(doubt.label)) continue;
+      if (doubt.proof.statement == nullptr) break;
+      const auto found = DoSelect(*doubt.proof.statement, doubt.proof.params, [](const Row&) {});
+      return found > 0 ? Standing::kStands : Standing::kDoesNotStand;
+    } catch (const DatabaseError&) {
       if (connection_) throw;
-      lastWords = error.what();
     }
   }
-  throw DatabaseError(Trouble::kInDoubt, lastWords);
+  return Standing::kUnknown;
 }
 
 }  // namespace services

@@ -19,6 +19,8 @@ class PostgresSession : public Session {
   ~PostgresSession() override;
 
   Engine Kind() const override { return Engine::kPostgres; }
+  bool IsConnected() const override { return connection_ != nullptr; }
+  bool TryToReconnect() noexcept override;
 
  private:
   struct Connection;
@@ -26,10 +28,12 @@ class PostgresSession : public Session {
   std::int64_t DoRun(const Statement& statement, const Params& params) override;
   std::int64_t DoSelect(const Statement& statement, const Params& params,
                         const EachRow& each) override;
+  std::vector<std::int64_t> DoRunTogether(const std::vector<Request>& requests) override;
   void DoRunScript(const std::string& script) override;
   void DoBegin() override;
   void DoCommit(const Proof& proof) override;
   void DoRollback() noexcept override;
+  Standing DoFindOut(const Doubt& doubt) override;
 
   void Connect();
   void EnsureConnected();
@@ -43,13 +47,12 @@ class PostgresSession : public Session {
   /// be done twice.
   template <class Work>
   auto Persistently(Work work);
-  /// After a commit whose answer never came: returns when the work stands, else throws.
-  void LookFor(const Proof& proof, const std::string& lostLabel);
   bool IsGone(const std::string& label);
 
   std::string text_;
   std::string computer_;
   bool inTransaction_ = false;
+  bool wasConnected_ = false;
   std::unique_ptr<Connection> connection_;
 };
 

@@ -35,12 +35,20 @@ auto Session::Observed(std::string_view name, Step step) {
 }
 
 std::int64_t Session::Run(const Statement& statement, const Params& params) {
-  return Observed("run", [&] { return DoRun(statement, params); });
+  const auto rows = Observed("run", [&] { return DoRun(statement, params); });
+  TellReconnection();
+  return rows;
 }
 
 std::int64_t Session::Select(const Statement& statement, const Params& params,
                              const EachRow& each) {
-  return Observed("select", [&] { return DoSelect(statement, params, each); });
+  const auto rows = Observed("select", [&] { return DoSelect(statement, params, each); });
+  TellReconnection();
+  return rows;
+}
+
+std::vector<std::int64_t> Session::RunTogether(const std::vector<Request>& requests) {
+  return Observed("together", [&] { return DoRunTogether(requests); });
 }
 
 void Session::RunScript(const std::string& script) {
@@ -53,6 +61,7 @@ void Session::RunScript(const std::string& script) {
 void Session::Begin() {
   Observed("begin", [&] {
     DoBegin();
+    isInTransaction_ = true;
     return 0;
   });
 }
@@ -62,15 +71,38 @@ void Session::Commit(const Proof& proof) {
     try {
       DoCommit(proof);
     } catch (...) {
-      DoRollback();
+      Rollback();
       throw;
     }
+    isInTransaction_ = false;
     return 0;
   });
+  TellReconnection();
 }
 
 void Session::Rollback() noexcept {
   DoRollback();
+  isInTransaction_ = false;
+}
+
+Standing Session::FindOut(const Doubt& doubt) noexcept {
+  if (isInTransaction_) return Standing::kUnknown;
+  try {
+    return DoFindOut(doubt);
+  } catch (const std::exception&) {
+    return Standing::kUnknown;
+  }
+}
+
+void Session::TellReconnection() noexcept {
+  if (!hasReconnected_ || isInTransaction_) return;
+  hasReconnected_ = false;
+  if (!onReconnected_) return;
+  try {
+    onReconnected_();
+  } catch (const std::exception&) {
+    // It was news, not work: whoever works meets the same trouble.
+  }
 }
 
 void InTransaction(Session& session, const std::function<void(Transaction&)>& body) {

@@ -4,9 +4,12 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "services/DatabaseError.h"
 #include "services/Param.h"
 #include "services/Statement.h"
 
@@ -39,6 +42,35 @@ struct Proof {
   Params params;
 };
 
+/// A transaction whose commit got no answer: all that is needed to find out later whether it
+/// stands.
+struct Doubt {
+  std::string label;  ///< Of the connection that was lost; empty where there is no server.
+  Proof proof;
+};
+
+/// Lost while it was being kept, and not found out since. Thrown by Commit.
+class InDoubt : public DatabaseError {
+ public:
+  InDoubt(Doubt doubt, std::string_view detail)
+      : DatabaseError(Trouble::kInDoubt, detail), doubt_(std::move(doubt)) {}
+
+  const Doubt& Which() const { return doubt_; }
+
+ private:
+  Doubt doubt_;
+};
+
+/// What became of a transaction in doubt. One that does not stand can never land any more.
+enum class Standing { kStands, kDoesNotStand, kUnknown };
+
+/// One of several statements that are sent together, and who reads its rows, if anybody does.
+struct Request {
+  const Statement& statement;
+  Params params;
+  std::function<void(const Row&)> each = {};
+};
+
 /// One connection to a database of either engine. Everything throws DatabaseError. For one thread.
 class Session {
  public:
@@ -56,15 +88,29 @@ class Session {
   std::int64_t Run(const Statement& statement, const Params& params = {});
   /// Calls `each` for every row of the result; their count. The rows may not be kept.
   std::int64_t Select(const Statement& statement, const Params& params, const EachRow& each);
+  /// Runs statements of a transaction one after the other, over a network in a single trip: each
+  /// sees what those before it did, and what others have committed meanwhile. Those behind one that
+  /// fails do not run. Gives the counts of the rows, in their order.
+  std::vector<std::int64_t> RunTogether(const std::vector<Request>& requests);
   /// Runs the parts of a script, which binds nothing: definitions of tables.
   void RunScript(const std::string& script);
 
   void Begin();
-  /// Keeps the work of the transaction for good, or throws. A connection that breaks just here is
-  /// made again to look for the proof, if there is one: the answer is never a guess.
+  /// Keeps the work of the transaction for good, or throws. Where no answer comes, it is looked for
+  /// by its proof: the answer is never a guess, and InDoubt is thrown when it cannot be known.
   void Commit(const Proof& proof = {});
   /// Never throws: what cannot be rolled back is gone with its connection.
   void Rollback() noexcept;
+
+  /// Looks for a transaction in doubt, outside any other one. Takes 10 s at most.
+  Standing FindOut(const Doubt& doubt) noexcept;
+  /// Whether the database was there when it was last asked.
+  virtual bool IsConnected() const { return true; }
+  /// Makes a lost connection again, within 2 s or not at all; for a host's timer, at rest.
+  virtual bool TryToReconnect() noexcept { return true; }
+  /// `listener` is told whenever a connection was made again after a loss, once no call and no
+  /// transaction is under way: it may use the session. What it throws is dropped.
+  void OnReconnected(std::function<void()> listener) { onReconnected_ = std::move(listener); }
 
   void Observe(Observer observer) { observer_ = std::move(observer); }
   /// How often the engine was asked so far: over a network, the round trips.
@@ -76,19 +122,28 @@ class Session {
   virtual std::int64_t DoRun(const Statement& statement, const Params& params) = 0;
   virtual std::int64_t DoSelect(const Statement& statement, const Params& params,
                                 const EachRow& each) = 0;
+  virtual std::vector<std::int64_t> DoRunTogether(const std::vector<Request>& requests) = 0;
   virtual void DoRunScript(const std::string& script) = 0;
   virtual void DoBegin() = 0;
   virtual void DoCommit(const Proof& proof) = 0;
   virtual void DoRollback() noexcept = 0;
+  virtual Standing DoFindOut(const Doubt& doubt) = 0;
 
   void Count() { ++calls_; }
+  bool IsInTransaction() const { return isInTransaction_; }
+  /// To be told when the session rests.
+  void NoteReconnection() { hasReconnected_ = true; }
+  void TellReconnection() noexcept;
 
  private:
   template <class Step>
   auto Observed(std::string_view name, Step step);
 
   Observer observer_;
+  std::function<void()> onReconnected_;
   std::int64_t calls_ = 0;
+  bool isInTransaction_ = false;
+  bool hasReconnected_ = false;
 };
 
 /// A transaction: rolled back when it is left without Commit.

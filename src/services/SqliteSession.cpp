@@ -151,6 +151,16 @@ std::int64_t SqliteSession::DoSelect(const Statement& statement, const Params& p
   });
 }
 
+std::vector<std::int64_t> SqliteSession::DoRunTogether(const std::vector<Request>& requests) {
+  std::vector<std::int64_t> rows;
+  rows.reserve(requests.size());
+  for (const Request& each : requests) {
+    rows.push_back(DoSelect(
+        each.statement, each.params, each.each ? each.each : [](const Row&) {}));
+  }
+  return rows;
+}
+
 void SqliteSession::DoRunScript(const std::string& script) {
   Translated([&] {
     Count();
@@ -172,6 +182,12 @@ void SqliteSession::DoRollback() noexcept {
   // Some errors end the transaction by themselves; then there is nothing left to do here.
   if (sqlite3_get_autocommit(database_->getHandle()) != 0) return;
   sqlite3_exec(database_->getHandle(), "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+Standing SqliteSession::DoFindOut(const Doubt& doubt) {
+  if (doubt.proof.statement == nullptr) return Standing::kUnknown;
+  const auto found = DoSelect(*doubt.proof.statement, doubt.proof.params, [](const Row&) {});
+  return found > 0 ? Standing::kStands : Standing::kDoesNotStand;
 }
 
 }  // namespace services

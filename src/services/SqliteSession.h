@@ -37,10 +37,12 @@ class SqliteSession : public Session {
   std::int64_t DoRun(const Statement& statement, const Params& params) override;
   std::int64_t DoSelect(const Statement& statement, const Params& params,
                         const EachRow& each) override;
+  std::vector<std::int64_t> DoRunTogether(const std::vector<Request>& requests) override;
   void DoRunScript(const std::string& script) override;
   void DoBegin() override;
   void DoCommit(const Proof& proof) override;
   void DoRollback() noexcept override;
+  Standing DoFindOut(const Doubt& doubt) override;
 
   SQLite::Statement& Prepared(const Statement& statement);
   /// Carries out `work`, turning the library's exceptions into ours.

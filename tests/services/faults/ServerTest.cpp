@@ -65,7 +65,7 @@ TEST_P(ServerTest, FaultsWhileItIsAwayAndWorksOnceItIsBack) {
   ASSERT_EQ(0, Sell());
   server_->TakeDown();
   EXPECT_EQ(servicos::kErro, List());
-  EXPECT_EQ(static_cast<std::int32_t>(Trouble::kConnectionLost), lastError_);
+  EXPECT_EQ(static_cast<std::int32_t>(Trouble::kReadFailed), lastError_);
   EXPECT_EQ(servicos::kErro, Sell());
   EXPECT_EQ(static_cast<std::int32_t>(Trouble::kConnectionLost), lastError_);
   server_->BringBack();
