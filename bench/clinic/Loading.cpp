@@ -77,6 +77,11 @@ void CopyInto(const std::string& connection, const Load& load) {
   link.EndCopy();
 }
 
+/// The connection text of an address.
+std::string TargetOf(const std::string& address) {
+  return address.substr(address.find(':') + 1);
+}
+
 /// The index of names on SQLite is a table of its own, which the triggers were to follow.
 void RebuildNames(Session& session, const std::string& table) {
   const Statement hasNames("SELECT 1 FROM sqlite_schema WHERE name = $1");
@@ -100,14 +105,15 @@ void LoadRows(const std::string& address, const Load& load) {
   if (isSqlite) {
     InsertInto(session, load);
   } else {
-    CopyInto(address.substr(address.find(':') + 1), load);
+    CopyInto(TargetOf(address), load);
   }
   for (const Helper& helper : helpers) session.RunScript(helper.definition);
   if (isSqlite) {
     RebuildNames(session, load.table);
     session.Commit();
   } else {
-    session.RunScript("VACUUM ANALYZE " + load.table);
+    // It stands in no transaction, and a session writes in none but those.
+    RawPostgres(TargetOf(address)).Execute(("VACUUM ANALYZE " + load.table).c_str());
   }
 }
 

@@ -55,8 +55,10 @@ std::vector<Checkout> SalesAt(int workstation) {
 Database Clinic(const std::string& name) {
   Database clinic = NewClinic(services::Engine::kPostgres, name);
   Opened opened(clinic);
-  services::InsertRows(opened.Session(), "caixas", "numero, local_de_atendimento",
-                       {{kRegisters, "Internação"}});
+  services::InTransaction(opened.Session(), [&](services::Transaction&) {
+    services::InsertRows(opened.Session(), "caixas", "numero, local_de_atendimento",
+                         {{kRegisters, "Internação"}});
+  });
   for (std::int32_t number = 1; number <= kRegisters; ++number) OpenRegister(number);
   return clinic;
 }

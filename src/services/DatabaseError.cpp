@@ -48,6 +48,9 @@ constexpr Words kWords[] = {
     {Trouble::kFileGone,
      "O arquivo do banco de dados foi apagado, trocado ou cortado com o caixa aberto, e o que se "
      "faz nele pode se perder. Feche o programa e chame o suporte."},
+    {Trouble::kUnderWay,
+     "O caixa ainda espera a resposta do banco de dados à operação anterior. Aguarde um instante e "
+     "tente de novo."},
     {Trouble::kOther, "O banco de dados não concluiu a operação. Avise o suporte."},
 };
 
@@ -64,16 +67,28 @@ struct StateClass {
 
 /// The first prefix that fits decides, so that single states stand before their class.
 constexpr StateClass kStates[] = {
-    {"08", Trouble::kConnectionLost},  {"57P", Trouble::kConnectionLost},
-    {"57014", Trouble::kBusy},         {"55P03", Trouble::kBusy},
-    {"53300", Trouble::kBusy},         {"40", Trouble::kConflict},
-    {"23", Trouble::kConstraint},      {"22003", Trouble::kOutOfRange},
-    {"2200H", Trouble::kOutOfRange},   {"53", Trouble::kFull},
-    {"25006", Trouble::kReadOnly},     {"58", Trouble::kStorage},
-    {"XX001", Trouble::kCorrupt},      {"XX002", Trouble::kCorrupt},
-    {"42501", Trouble::kNoPermission}, {"28", Trouble::kNoPermission},
-    {"3D000", Trouble::kSchema},       {"3F000", Trouble::kSchema},
-    {"42P01", Trouble::kSchema},       {"42703", Trouble::kSchema},
+    {"08", Trouble::kConnectionLost},
+    {"57P", Trouble::kConnectionLost},
+    {"57014", Trouble::kBusy},
+    {"55P03", Trouble::kBusy},
+    {"53300", Trouble::kBusy},
+    {"25P03", Trouble::kConnectionLost},
+    {"40", Trouble::kConflict},
+    {"23", Trouble::kConstraint},
+    {"22003", Trouble::kOutOfRange},
+    {"2200H", Trouble::kOutOfRange},
+    {"53", Trouble::kFull},
+    {"25006", Trouble::kReadOnly},
+    {"0A000", Trouble::kReadOnly},
+    {"58", Trouble::kStorage},
+    {"XX001", Trouble::kCorrupt},
+    {"XX002", Trouble::kCorrupt},
+    {"42501", Trouble::kNoPermission},
+    {"28", Trouble::kNoPermission},
+    {"3D000", Trouble::kSchema},
+    {"3F000", Trouble::kSchema},
+    {"42P01", Trouble::kSchema},
+    {"42703", Trouble::kSchema},
 };
 
 }  // namespace

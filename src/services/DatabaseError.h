@@ -25,6 +25,7 @@ enum class Trouble : std::int32_t {
   kSchema = 3013,
   kReadFailed = 3014,  ///< The connection fell, or no answer came in time, while reading.
   kFileGone = 3015,    ///< The file was deleted, replaced or cut while it was open.
+  kUnderWay = 3016,    ///< Asked while an earlier call still waits for its answer.
   kOther = 3099,
 };
 

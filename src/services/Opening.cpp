@@ -195,10 +195,8 @@ void CheckSchema(Session& session, const Address& address) {
 
 /// Whether sales can be written, found out without writing.
 void CheckRights(Session& session, const Address& address) {
-  if (address.engine == Engine::kSqlite) {
-    const Transaction nothing(session);
-    return;
-  }
+  const Transaction nothing(session);
+  if (address.engine == Engine::kSqlite) return;
   static const Statement rights(
       "SELECT 1",
       "SELECT current_setting('transaction_read_only') = 'off'"

@@ -1,70 +1,84 @@
 #include "services/PostgresSession.h"
 
-#include <poll.h>
+#include <libpq-fe.h>
 #include <sodium.h>
 
+#include <algorithm>
+#include <array>
 #include <charconv>
-#include <chrono>
-#include <pqxx/pqxx>
-#include <thread>
+#include <string_view>
 
 #include "services/DatabaseError.h"
 
 namespace services {
 namespace {
 
+constexpr std::chrono::seconds kConnecting{5};
+constexpr std::chrono::seconds kReconnecting{2};
+constexpr std::chrono::seconds kRollingBack{2};
+constexpr std::chrono::milliseconds kBetweenLooks{100};
+
 /// Durable commits whatever the server was set to, readable dates, no endless waits for a row that
-/// another computer holds, and no compiling or sharing out of plans that run for microseconds.
+/// another computer holds, nor by others for one that this computer left in mid-transaction; no
+/// compiling or sharing out of plans that run for microseconds. What is not asked for as a
+/// transaction may not write: its answer could be lost without a trace.
 constexpr const char* kSettings =
     "SET datestyle = 'ISO'; SET standard_conforming_strings = on; SET client_encoding = 'UTF8';"
-    "SET lock_timeout = '10s'; SET jit = off;"
+    "SET lock_timeout = '5s'; SET idle_in_transaction_session_timeout = '30s'; SET jit = off;"
     "SET max_parallel_workers_per_gather = 0; SET client_min_messages = 'warning';"
     "SELECT set_config('synchronous_commit', 'on', false)"
-    " WHERE current_setting('synchronous_commit') IN ('off', 'local')";
+    " WHERE current_setting('synchronous_commit') IN ('off', 'local');"
+    "SELECT current_setting('default_transaction_read_only');"
+    "SET default_transaction_read_only = on";
+
+/// What not every server can be told: by these it notices that this computer has gone.
+constexpr std::array<std::pair<const char*, const char*>, 5> kWishes{
+    {{"client_connection_check_interval", "2s"},
+     {"tcp_keepalives_idle", "15"},
+     {"tcp_keepalives_interval", "5"},
+     {"tcp_keepalives_count", "3"},
+     {"tcp_user_timeout", "20s"}}};
 
 class PostgresRow final : public Row {
  public:
-  explicit PostgresRow(const pqxx::row& row) : row_(row) {}
+  PostgresRow(const PGresult* result, int row) : result_(result), row_(row) {}
 
-  bool IsNull(int column) const override { return row_[column].is_null(); }
+  bool IsNull(int column) const override { return PQgetisnull(result_, row_, column) != 0; }
   std::int64_t Integer(int column) const override {
-    const pqxx::field field = row_[column];
+    const std::string_view text = View(column);
     std::int64_t value = 0;
-    std::from_chars(field.c_str(), field.c_str() + field.size(), value);
+    std::from_chars(text.data(), text.data() + text.size(), value);
     return value;
   }
-  std::string Text(int column) const override {
-    const pqxx::field field = row_[column];
-    return {field.c_str(), field.size()};
-  }
+  std::string Text(int column) const override { return std::string(View(column)); }
 
  private:
-  const pqxx::row& row_;
-};
-
-/// The values of a statement in the text form that the server reads.
-class Texts {
- public:
-  explicit Texts(const Params& params) {
-    numbers_.reserve(params.size());
-    texts_.reserve(params.size());
-    for (const Param& param : params) texts_.push_back(TextOf(param));
+  std::string_view View(int column) const {
+    return {PQgetvalue(result_, row_, column),
+            static_cast<std::size_t>(PQgetlength(result_, row_, column))};
   }
 
-  auto AsParameters() const { return pqxx::prepare::make_dynamic_params(texts_); }
-
- private:
-  const char* TextOf(const Param& param) {
-    if (const auto* text = param.Text()) return text->c_str();
-    if (const auto* number = param.Integer()) {
-      return numbers_.emplace_back(std::to_string(*number)).c_str();
-    }
-    return nullptr;
-  }
-
-  std::vector<std::string> numbers_;  ///< Never grows past its first size: `texts_` points into it.
-  std::vector<const char*> texts_;
+  const PGresult* result_;
+  int row_;
 };
+
+void TellRows(const PGresult* result, const Session::EachRow& each) {
+  for (int row = 0; each && row < PQntuples(result); ++row) each(PostgresRow(result, row));
+}
+
+/// How many rows a statement gave, or wrote where it gives none.
+std::int64_t RowsOf(PGresult* result) {
+  if (PQresultStatus(result) == PGRES_TUPLES_OK) return PQntuples(result);
+  const std::string_view text = PQcmdTuples(result);
+  std::int64_t rows = 0;
+  std::from_chars(text.data(), text.data() + text.size(), rows);
+  return rows;
+}
+
+const Params& NoParams() {
+  static const Params none;
+  return none;
+}
 
 /// Tells this connection from every other one. The server keeps no more than 63 characters of it,
 /// so the number stands in front of the computer's name.
@@ -72,112 +86,96 @@ std::string RandomLabel(const std::string& computer) {
   return "caixa " + std::to_string(randombytes_random()) + ' ' + computer;
 }
 
-}  // namespace
-
-/// What goes away with a lost connection: the statements that it had prepared too.
-struct PostgresSession::Connection {
-  explicit Connection(const std::string& text) : link(text), silence(link), work(link) {}
-
-  pqxx::connection link;
-  pqxx::quiet_errorhandler silence;  ///< What the server says comes as an exception anyway.
-  pqxx::nontransaction work;
-  std::vector<std::string> prepared;  ///< Names, by the statement's number; empty ones are not yet.
-  std::string label;
-
-  pqxx::result Ask(const Statement& statement, const Params& params, PostgresSession& session);
-  /// The name under which this connection knows the statement; prepares it at its first use.
-  const std::string& NameOf(const Statement& statement, PostgresSession& session);
-
-  /// Whether the server has sent something unasked, which it does when it says goodbye.
-  bool HasNews() const {
-    pollfd socket{link.sock(), POLLIN, 0};
-    return poll(&socket, 1, 0) != 0;
+/// Settles a new connection; whether the administrator has set the database to be read only.
+bool Greet(PostgresLink& link, const Waiting& waiting) {
+  static const Statement wish(
+      "SELECT set_config($1, $2, false) WHERE current_setting($1, true) IS NOT NULL");
+  const bool isReadOnly = link.RunScript(kSettings, waiting) == "on";
+  for (const auto& [name, value] : kWishes) {
+    try {
+      const Params params{name, value};
+      link.Fly(std::array{PostgresLink::Query{wish, params}}, waiting);
+    } catch (const DatabaseError&) {
+      if (link.IsLost()) throw;
+    }
   }
-};
+  return isReadOnly;
+}
+
+}  // namespace
 
 PostgresSession::PostgresSession(std::string connection, std::string computer)
     : text_(std::move(connection)), computer_(std::move(computer)) {
   if (sodium_init() < 0) throw DatabaseError(Trouble::kOther, "libsodium");
-  Connect();
+  Connect(Start() + kConnecting);
 }
 
 PostgresSession::~PostgresSession() = default;
 
 template <class Work>
-auto PostgresSession::Translated(Work work) {
-  const auto failed = [this](Trouble trouble, const std::string& detail) {
-    const bool isLost = !connection_ || !connection_->link.is_open();
-    if (isLost || trouble == Trouble::kConnectionLost) {
-      connection_.reset();
-      trouble = Trouble::kConnectionLost;
-    }
-    throw DatabaseError(trouble, "PostgreSQL: " + detail);
-  };
+auto PostgresSession::Watched(Work work) {
   try {
-    return work();
-  } catch (const pqxx::transaction_rollback& error) {
-    failed(Trouble::kConflict, error.what());
-  } catch (const pqxx::sql_error& error) {
-    failed(TroubleOfSqlState(error.sqlstate()), error.sqlstate() + " " + error.what());
-  } catch (const pqxx::broken_connection& error) {
-    failed(Trouble::kConnectionLost, error.what());
-  } catch (const pqxx::failure& error) {
-    failed(Trouble::kOther, error.what());
-  } catch (const std::logic_error& error) {
-    failed(Trouble::kOther, error.what());
-  }
-  throw DatabaseError(Trouble::kOther, "");
-}
-
-void PostgresSession::Connect() {
-  inTransaction_ = false;
-  if (wasConnected_) NoteReconnection();
-  connection_.reset();
-  Translated([this] {
-    auto fresh = std::make_unique<Connection>(text_);
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-    // A connection that came back by itself in mid-transaction would keep half of it.
-    fresh->link.inhibit_reactivation(true);
-#pragma GCC diagnostic pop
-    fresh->work.exec(kSettings);
-    // The server answers with the label as it will list it: cut short, and without accents.
-    fresh->label =
-        fresh->work
-            .exec_params("SELECT set_config('application_name', $1, false)", RandomLabel(computer_))
-            .front()
-            .front()
-            .c_str();
-    connection_ = std::move(fresh);
-    wasConnected_ = true;
-  });
-}
-
-void PostgresSession::EnsureConnected() {
-  if (!connection_) return Connect();
-  if (!connection_->HasNews()) return;
-  try {
-    Translated([this] { connection_->work.exec("SELECT 1"); });
+    return work(Alive());
   } catch (const DatabaseError&) {
-    Connect();
+    if (link_ && link_->IsLost()) {
+      wasLate_ = link_->IsLate();
+      link_.reset();
+    }
+    throw;
   }
 }
 
 template <class Work>
-auto PostgresSession::Persistently(Work work) {
-  EnsureConnected();
+auto PostgresSession::Persistently(Clock::time_point end, Work work) {
+  EnsureConnected(end);
   try {
-    return Translated(work);
-  } catch (const DatabaseError& error) {
-    if (error.What() != Trouble::kConnectionLost) throw;
+    return Watched(work);
+  } catch (const DatabaseError&) {
+    if (link_ || wasLate_) throw;
   }
-  Connect();
-  return Translated(work);
+  Connect(end);
+  return Watched(work);
+}
+
+PostgresLink& PostgresSession::Alive() {
+  if (!link_) throw DatabaseError(Trouble::kConnectionLost, "");
+  return *link_;
+}
+
+void PostgresSession::Connect(Clock::time_point end) {
+  link_.reset();
+  const Waiting whole = Until(std::min(end, Clock::now() + kConnecting));
+  auto hosts = HostsOf(text_, whole);
+  std::ranges::stable_partition(hosts, [this](const auto& each) { return each.name == lastHost_; });
+  std::string words = "PostgreSQL: o nome do servidor não foi encontrado";
+  auto left = static_cast<int>(hosts.size());
+  for (const PostgresHost& host : hosts) {
+    // A host that keeps silent leaves their share of the time to the others.
+    const auto now = Clock::now();
+    const Waiting waiting(whole, now + (whole.End() - now) / left--);
+    try {
+      auto fresh = std::make_unique<PostgresLink>(host, RandomLabel(computer_), waiting);
+      isSetReadOnly_ = Greet(*fresh, waiting);
+      link_ = std::move(fresh);
+      lastHost_ = host.name;
+      if (wasConnected_) NoteReconnection();
+      wasConnected_ = true;
+      return;
+    } catch (const DatabaseError& error) {
+      words = error.Detail();
+    }
+  }
+  throw DatabaseError(Trouble::kConnectionLost, words);
+}
+
+void PostgresSession::EnsureConnected(Clock::time_point end) {
+  if (!link_ || !link_->TakesNews()) Connect(end);
 }
 
 bool PostgresSession::TryToReconnect() noexcept {
+  if (IsInTransaction()) return IsConnected();
   try {
-    EnsureConnected();
+    EnsureConnected(Clock::now() + kReconnecting);
   } catch (const std::exception&) {
     return false;
   }
@@ -185,145 +183,172 @@ bool PostgresSession::TryToReconnect() noexcept {
   return true;
 }
 
-PostgresSession::Connection& PostgresSession::Alive() {
-  if (!connection_) throw DatabaseError(Trouble::kConnectionLost, "");
-  return *connection_;
+PostgresSession::Results PostgresSession::Fly(Queries queries, Clock::time_point end) {
+  return Watched([&](PostgresLink& link) {
+    Count();
+    return link.Fly(queries, Until(end));
+  });
 }
 
-const std::string& PostgresSession::Connection::NameOf(const Statement& statement,
-                                                       PostgresSession& session) {
-  if (statement.Id() >= prepared.size()) prepared.resize(statement.Id() + 1);
-  std::string& name = prepared[statement.Id()];
-  if (name.empty()) {
-    session.Count();
-    std::string fresh = "caixa";
-    fresh.append(std::to_string(statement.Id()));
-    link.prepare(fresh, statement.Text(Engine::kPostgres));
-    name = std::move(fresh);
-  }
-  return name;
+PostgresSession::Results PostgresSession::Ask(Queries queries) {
+  return IsInTransaction() ? AskInTransaction(queries) : Read(queries);
 }
 
-pqxx::result PostgresSession::Connection::Ask(const Statement& statement, const Params& params,
-                                              PostgresSession& session) {
-  const Texts texts(params);
-  session.Count();
-  if (statement.Planned() == Statement::Planning::kByValues) {
-    return work.exec_params(statement.Text(Engine::kPostgres), texts.AsParameters());
+PostgresSession::Results PostgresSession::Read(Queries queries) {
+  const auto now = Clock::now();
+  const auto end = std::min(now + LimitsNow().reading, Start() + LimitsNow().writing);
+  try {
+    return Persistently(end, [&](PostgresLink& link) {
+      Count();
+      return link.Fly(queries, Until(end));
+    });
+  } catch (const DatabaseError& error) {
+    if (error.What() != Trouble::kConnectionLost) throw;
+    throw DatabaseError(Trouble::kReadFailed, error.Detail());
   }
-  return work.exec_prepared(NameOf(statement, session), texts.AsParameters());
+}
+
+const Statement& PostgresSession::BeginningNow() const {
+  static const Statement writing("BEGIN READ WRITE");
+  static const Statement asSet("BEGIN");
+  return isSetReadOnly_ ? asSet : writing;
+}
+
+PostgresSession::Results PostgresSession::AskInTransaction(Queries queries) {
+  const auto end = transactionStart_ + LimitsNow().writing / 2;
+  if (hasBegun_) return Fly(queries, end);
+  // Nothing was asked yet: BEGIN goes along, and all of it may go over a new connection.
+  hasBegun_ = true;
+  auto results = Persistently(end, [&](PostgresLink& link) {
+    Count();
+    std::vector<PostgresLink::Query> all{{BeginningNow(), NoParams()}};
+    for (const PostgresLink::Query& each : queries) all.push_back(each);
+    return link.Fly(all, Until(end));
+  });
+  results.erase(results.begin());
+  return results;
 }
 
 std::int64_t PostgresSession::DoRun(const Statement& statement, const Params& params) {
-  // What writes is not done twice, so a connection that breaks now is not made again.
-  if (!inTransaction_) EnsureConnected();
-  return static_cast<std::int64_t>(
-      Translated([&] { return Alive().Ask(statement, params, *this); }).affected_rows());
+  const auto results = Ask(std::array{PostgresLink::Query{statement, params}});
+  const std::string_view text = PQcmdTuples(results.front().get());
+  std::int64_t rows = 0;
+  std::from_chars(text.data(), text.data() + text.size(), rows);
+  return rows;
 }
 
 std::int64_t PostgresSession::DoSelect(const Statement& statement, const Params& params,
                                        const EachRow& each) {
-  const auto work = [&] { return Alive().Ask(statement, params, *this); };
-  const auto ask = [&] {
-    if (inTransaction_) return Translated(work);
-    try {
-      return Persistently(work);
-    } catch (const DatabaseError& error) {
-      if (error.What() != Trouble::kConnectionLost) throw;
-      throw DatabaseError(Trouble::kReadFailed, error.Detail());
-    }
-  };
-  const pqxx::result result = ask();
-  for (const pqxx::row& row : result) each(PostgresRow(row));
-  return static_cast<std::int64_t>(result.size());
+  const auto results = Ask(std::array{PostgresLink::Query{statement, params}});
+  TellRows(results.front().get(), each);
+  return PQntuples(results.front().get());
 }
 
 std::vector<std::int64_t> PostgresSession::DoRunTogether(const std::vector<Request>& requests) {
+  std::vector<PostgresLink::Query> queries;
+  for (const Request& each : requests) queries.push_back({each.statement, each.params});
+  const auto results = Ask(queries);
   std::vector<std::int64_t> rows;
-  rows.reserve(requests.size());
-  for (const Request& each : requests) {
-    rows.push_back(DoSelect(
-        each.statement, each.params, each.each ? each.each : [](const Row&) {}));
+  for (std::size_t i = 0; i < results.size(); ++i) {
+    TellRows(results[i].get(), requests[i].each);
+    rows.push_back(RowsOf(results[i].get()));
   }
   return rows;
 }
 
 void PostgresSession::DoRunScript(const std::string& script) {
-  if (!inTransaction_) EnsureConnected();
-  Translated([&] {
-    Count();
-    Alive().work.exec(script);
-  });
+  const bool isAlone = !IsInTransaction();
+  if (isAlone) DoBegin();
+  const auto end = transactionStart_ + LimitsNow().writing / 2;
+  if (!hasBegun_) EnsureConnected(end);
+  const std::string beginning =
+      hasBegun_ ? "" : BeginningNow().Text(Engine::kPostgres) + std::string("; ");
+  hasBegun_ = true;
+  try {
+    Watched([&](PostgresLink& link) {
+      Count();
+      link.RunScript(beginning + script, Until(end));
+    });
+    if (isAlone) DoCommit({});
+  } catch (const DatabaseError&) {
+    if (isAlone) DoRollback();
+    throw;
+  }
 }
 
 void PostgresSession::DoBegin() {
-  Persistently([this] {
-    Count();
-    connection_->work.exec("BEGIN");
-  });
-  inTransaction_ = true;
+  hasBegun_ = false;
+  transactionStart_ = Start();
 }
 
 void PostgresSession::DoCommit(const Proof& proof) {
-  const Doubt doubt{.label = Alive().label, .proof = proof};
+  static const Statement commit("COMMIT");
+  if (!hasBegun_) return;
+  const Doubt doubt{.label = Alive().Label(), .proof = proof};
+  hasBegun_ = false;
+  // A connection that is known to be gone gets no COMMIT, so that nothing is in doubt.
+  if (!link_->TakesNews()) {
+    link_.reset();
+    throw DatabaseError(Trouble::kConnectionLost, "COMMIT");
+  }
   try {
-    Translated([this] {
-      Count();
-      connection_->work.exec("COMMIT");
-    });
-    inTransaction_ = false;
+    const auto results = Fly(std::array{PostgresLink::Query{commit, NoParams()}},
+                             transactionStart_ + LimitsNow().writing * 3 / 4);
+    if (std::string_view(PQcmdStatus(results.front().get())) == "COMMIT") return;
+    throw DatabaseError(Trouble::kOther, "PostgreSQL: COMMIT, ROLLBACK");
   } catch (const DatabaseError& error) {
     if (error.What() != Trouble::kConnectionLost) throw;
-    inTransaction_ = false;
-    const Standing standing = DoFindOut(doubt);
+    const Standing standing = LookFor(doubt, transactionStart_ + LimitsNow().writing);
     if (standing == Standing::kUnknown) throw InDoubt(doubt, error.Detail());
     if (standing == Standing::kDoesNotStand) throw;
   }
 }
 
 void PostgresSession::DoRollback() noexcept {
-  if (!inTransaction_) return;
-  inTransaction_ = false;
-  if (!connection_) return;
+  static const Statement rollback("ROLLBACK");
+  if (!hasBegun_) return;
+  hasBegun_ = false;
+  if (!link_) return;
   try {
-    Translated([this] {
-      Count();
-      connection_->work.exec("ROLLBACK");
-    });
-  } catch (const DatabaseError&) {
-    connection_.reset();
+    Fly(std::array{PostgresLink::Query{rollback, NoParams()}}, Clock::now() + kRollingBack);
+  } catch (const std::exception&) {
+    link_.reset();
   }
-}
-
-bool PostgresSession::IsGone(const std::string& label) {
-  return Translated([&] {
-    return connection_->work
-        .exec_params(
-            "SELECT pg_terminate_backend(pid) FROM pg_stat_activity"
-            " WHERE application_name = $1 AND usename = current_user",
-            label)
-        .empty();
-  });
 }
 
 Standing PostgresSession::DoFindOut(const Doubt& doubt) {
-  using Clock = std::chrono::steady_clock;
-  constexpr auto kPatience = std::chrono::seconds(10);
-  constexpr auto kPause = std::chrono::milliseconds(100);
-  const auto end = Clock::now() + kPatience;
-  for (; Clock::now() < end; std::this_thread::sleep_for(kPause)) {
+  return LookFor(doubt, Clock::now() + LimitsNow().findingOut);
+}
+
+Standing PostgresSession::LookFor(const Doubt& doubt, Clock::time_point end) {
+  for (Waiting waiting = Until(end); !waiting.IsOver(); waiting.Sleep(kBetweenLooks)) {
     try {
-      EnsureConnected();
-      // The server may still be at the commit whose client it has lost.
-      if (!IsGone(doubt.label)) continue;
-      if (doubt.proof.statement == nullptr) break;
-      const auto found = DoSelect(*doubt.proof.statement, doubt.proof.params, [](const Row&) {});
-      return found > 0 ? Standing::kStands : Standing::kDoesNotStand;
+      if (const auto standing = Seen(doubt, end)) return *standing;
     } catch (const DatabaseError&) {
-      if (connection_) throw;
+      if (link_) return Standing::kUnknown;
     }
   }
   return Standing::kUnknown;
+}
+
+std::optional<Standing> PostgresSession::Seen(const Doubt& doubt, Clock::time_point end) {
+  // The server may still be at the commit whose client it has lost, or yet to be told of it.
+  static const Statement lingering(
+      "SELECT pg_terminate_backend(pid) FROM pg_stat_activity"
+      " WHERE application_name = $1 AND usename = current_user");
+  static const Statement follows("SELECT 1 WHERE pg_is_in_recovery()");
+  if (doubt.proof.statement == nullptr) return Standing::kUnknown;
+  EnsureConnected(end);
+  const Params label{doubt.label};
+  // Each sees what was committed before it was begun: the proof is looked for when all is over.
+  const auto results = Fly(
+      std::array{PostgresLink::Query{lingering, label}, PostgresLink::Query{follows, NoParams()},
+                 PostgresLink::Query{*doubt.proof.statement, doubt.proof.params}},
+      end);
+  if (PQntuples(results[2].get()) > 0) return Standing::kStands;
+  if (PQntuples(results[0].get()) > 0) return std::nullopt;
+  // A server that follows another one may be yet to hear of it.
+  return PQntuples(results[1].get()) > 0 ? Standing::kUnknown : Standing::kDoesNotStand;
 }
 
 }  // namespace services

@@ -27,6 +27,7 @@ Statement::Statement(std::string sqlite, std::string postgres, Planning planning
 
 template <class Step>
 auto Session::Observed(std::string_view name, Step step) {
+  if (isPainting_) throw DatabaseError(Trouble::kUnderWay, name);
   if (!observer_) return step();
   observer_("before " + std::string(name));
   auto result = step();
@@ -81,17 +82,32 @@ void Session::Commit(const Proof& proof) {
 }
 
 void Session::Rollback() noexcept {
+  if (isPainting_) return;
   DoRollback();
   isInTransaction_ = false;
 }
 
 Standing Session::FindOut(const Doubt& doubt) noexcept {
-  if (isInTransaction_) return Standing::kUnknown;
+  if (isInTransaction_ || isPainting_) return Standing::kUnknown;
   try {
     return DoFindOut(doubt);
   } catch (const std::exception&) {
     return Standing::kUnknown;
   }
+}
+
+void Session::WhileWaiting(std::function<void()> paint) {
+  meanwhile_ = nullptr;
+  if (!paint) return;
+  meanwhile_ = [this, paint = std::move(paint)] {
+    isPainting_ = true;
+    try {
+      paint();
+    } catch (...) {
+      // A call to the database ends by itself; what ends the screens is met again at rest.
+    }
+    isPainting_ = false;
+  };
 }
 
 void Session::TellReconnection() noexcept {
@@ -107,6 +123,7 @@ void Session::TellReconnection() noexcept {
 
 void InTransaction(Session& session, const std::function<void(Transaction&)>& body) {
   constexpr int kAttempts = 8;
+  const Operation whole(session);
   for (int attempt = 1;; ++attempt) {
     try {
       Transaction transaction(session);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,6 +14,7 @@
 #include "services/DatabaseError.h"
 #include "services/Param.h"
 #include "services/Statement.h"
+#include "services/Waiting.h"
 
 namespace services {
 
@@ -71,9 +74,17 @@ struct Request {
   std::function<void(const Row&)> each = {};
 };
 
+/// How long a database may take at work; what takes longer is given up and told.
+struct Limits {
+  std::chrono::milliseconds reading{10'000};
+  std::chrono::milliseconds writing{20'000};  ///< A whole transaction, its tries and its commit.
+  std::chrono::milliseconds findingOut{10'000};
+};
+
 /// One connection to a database of either engine. Everything throws DatabaseError. For one thread.
 class Session {
  public:
+  using Clock = Waiting::Clock;
   using EachRow = std::function<void(const Row&)>;
   /// Told of every step before and after it is taken; tests stop the process or the server there.
   using Observer = std::function<void(std::string_view step)>;
@@ -84,15 +95,18 @@ class Session {
 
   virtual Engine Kind() const = 0;
 
-  /// Runs a statement; the count of rows that it wrote.
+  /// Runs a statement of a transaction; the count of rows that it wrote.
   std::int64_t Run(const Statement& statement, const Params& params = {});
-  /// Calls `each` for every row of the result; their count. The rows may not be kept.
+  /// Calls `each` for every row of the result; their count. The rows may not be kept. Outside a
+  /// transaction nothing that writes is let through.
   std::int64_t Select(const Statement& statement, const Params& params, const EachRow& each);
   /// Runs statements of a transaction one after the other, over a network in a single trip: each
   /// sees what those before it did, and what others have committed meanwhile. Those behind one that
   /// fails do not run. Gives the counts of the rows, in their order.
   std::vector<std::int64_t> RunTogether(const std::vector<Request>& requests);
-  /// Runs the parts of a script, which binds nothing: definitions of tables.
+  /// Runs the parts of a script, which binds nothing: definitions of tables. Outside a transaction,
+  /// PostgreSQL gets it as one of its own; SQLite gets it as it is, for some settings stand in
+  /// none.
   void RunScript(const std::string& script);
 
   void Begin();
@@ -101,6 +115,12 @@ class Session {
   void Commit(const Proof& proof = {});
   /// Never throws: what cannot be rolled back is gone with its connection.
   void Rollback() noexcept;
+
+  /// `paint` is called now and then while a call lasts, to keep the screens alive; what it throws
+  /// is dropped. Nothing may be asked of the session from in there: it would be refused
+  /// (kUnderWay).
+  void WhileWaiting(std::function<void()> paint);
+  void KeepTo(const Limits& limits) { limits_ = limits; }
 
   /// Looks for a transaction in doubt, outside any other one. Takes 10 s at most.
   Standing FindOut(const Doubt& doubt) noexcept;
@@ -131,19 +151,66 @@ class Session {
 
   void Count() { ++calls_; }
   bool IsInTransaction() const { return isInTransaction_; }
+  Waiting Until(Clock::time_point end) const { return {meanwhile_, end}; }
+  /// When the operation under way began; now, where there is none.
+  Clock::time_point Start() const { return start_ ? *start_ : Clock::now(); }
+  const Limits& LimitsNow() const { return limits_; }
   /// To be told when the session rests.
   void NoteReconnection() { hasReconnected_ = true; }
   void TellReconnection() noexcept;
 
  private:
+  friend class Operation;
+  friend class Unhurried;
+
   template <class Step>
   auto Observed(std::string_view name, Step step);
 
   Observer observer_;
+  std::function<void()> meanwhile_;
+  Limits limits_;
+  std::optional<Clock::time_point> start_;
   std::function<void()> onReconnected_;
   std::int64_t calls_ = 0;
   bool isInTransaction_ = false;
   bool hasReconnected_ = false;
+  bool isPainting_ = false;
+};
+
+/// All that is asked of a session while this lives is one operation towards its limits of time.
+/// Inside another one it changes nothing.
+class Operation {
+ public:
+  explicit Operation(Session& session) : session_(session), isOutermost_(!session.start_) {
+    if (isOutermost_) session_.start_ = Session::Clock::now();
+  }
+  ~Operation() {
+    if (isOutermost_) session_.start_.reset();
+  }
+  Operation(const Operation&) = delete;
+  Operation& operator=(const Operation&) = delete;
+
+ private:
+  Session& session_;
+  bool isOutermost_;
+};
+
+/// Lifts the limits of time while it lives: for the care of a database, which nobody waits for at a
+/// screen.
+class Unhurried {
+ public:
+  explicit Unhurried(Session& session) : session_(session), before_(session.limits_) {
+    constexpr std::chrono::hours kLong{4};
+    session_.limits_.reading = kLong;
+    session_.limits_.writing = kLong;
+  }
+  ~Unhurried() { session_.limits_ = before_; }
+  Unhurried(const Unhurried&) = delete;
+  Unhurried& operator=(const Unhurried&) = delete;
+
+ private:
+  Session& session_;
+  Limits before_;
 };
 
 /// A transaction: rolled back when it is left without Commit.
@@ -171,7 +238,7 @@ class Transaction {
 };
 
 /// Runs `body` as one transaction, and again, a few times at most, when it came into the way of
-/// another one.
+/// another one. All of it is one operation.
 void InTransaction(Session& session, const std::function<void(Transaction&)>& body);
 
 }  // namespace services

@@ -123,6 +123,9 @@ class OverDatabase : public testing::TestWithParam<Engine> {
   std::string Read(const std::string& sql);
   std::int64_t Count(const std::string& table);
   void Write(const std::string& sql) { session().RunScript(sql); }
+  void Fill(const std::string& table, const std::string& columns, const std::vector<Params>& rows) {
+    InTransaction(session(), [&](Transaction&) { InsertRows(session(), table, columns, rows); });
+  }
   /// Another connection to the same database, as another computer has.
   std::shared_ptr<Banco> Another(const std::string& computer);
   /// Starts a process that does `work` over services of its own and ends with its answer. This

@@ -75,7 +75,7 @@ const std::vector<Library>& Libraries() {
        std::regex("Q[A-Z].*|Qt[A-Z].*/.*"),
        {"src/desktop/", "tests/desktop/", "bench/desktop/"}},
       {"SQL",
-       std::regex("sqlite3\\.h|SQLiteCpp/.*|pqxx/.*|libpq-fe\\.h"),
+       std::regex("sqlite3\\.h|SQLiteCpp/.*|libpq-fe\\.h"),
        {"src/services/", "src/tools/banco/", "bench/", "tests/"}},
   };
   return kLibraries;

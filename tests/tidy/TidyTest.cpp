@@ -68,7 +68,7 @@ TEST(Checks, FindWhatBreaksThem) {
 TEST(Checks, PassWhatIsRight) {
   const std::pair<const char*, const char*> includes[] = {
       {"src/sale/Venda.cpp", "#include \"register/Movimento.h\"\n#include <vector>\n"},
-      {"src/services/Caixa.cpp", "#include \"frame/servicos/X.h\"\n#include <pqxx/pqxx>\n"},
+      {"src/services/Caixa.cpp", "#include \"frame/servicos/X.h\"\n#include <libpq-fe.h>\n"},
       {"src/base/Text.cpp", "const char* a = R\"(\n#include \"sale/Venda.h\"\n)\";\n"},
   };
   for (const auto& [path, text] : includes) {

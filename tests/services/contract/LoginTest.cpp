@@ -20,7 +20,7 @@ const std::string kWrong = "Usuário ou senha inválidos. Confira e tente de nov
 class LoginTest : public OverDatabase {
  protected:
   void User(const std::string& name, const std::string& password, bool isActive, bool isAdmin) {
-    InsertRows(session(), "usuarios", "nome, nome_busca, senha, ativo, administrador",
+    Fill("usuarios", "nome, nome_busca, senha, ativo, administrador",
                {{name, SearchForm(name), HashDaSenha(password), isActive, isAdmin}});
   }
   static std::unique_ptr<Login> Try(const std::string& name, const std::string& password,

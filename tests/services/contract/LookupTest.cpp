@@ -27,16 +27,16 @@ std::string All(const base::RecordSetPtr& rows, std::string_view field) {
 class LookupTest : public OverDatabase {
  protected:
   void Customer(std::int32_t code, const std::string& nickname, const std::string& name) {
-    InsertRows(session(), "clientes", "codigo, apelido, nome, nome_busca",
+    Fill("clientes", "codigo, apelido, nome, nome_busca",
                {{code, nickname, name, SearchForm(nickname, name)}});
   }
   void Product(std::int32_t code, const std::string& barcode, const std::string& name) {
-    InsertRows(session(), "produtos",
+    Fill("produtos",
                "codigo_interno, codigo_de_barras, nome, nome_busca, valor_de_venda",
                {{code, barcode, name, SearchForm(name), 30_brl}});
   }
   void Service(std::int32_t code, std::int32_t type, const std::string& name) {
-    InsertRows(session(), "servicos", "codigo, tipo, nome, nome_busca",
+    Fill("servicos", "codigo, tipo, nome, nome_busca",
                {{code, type, name, SearchForm(name)}});
   }
 

@@ -9,10 +9,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <stdexcept>
-#include <string_view>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace services {
 namespace {
@@ -25,48 +28,117 @@ sockaddr_in Loopback(int port) {
   return address;
 }
 
-int Connect(int port) {
-  const int server = socket(AF_INET, SOCK_STREAM, 0);
-  const sockaddr_in address = Loopback(port);
-  if (connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) _exit(1);
-  return server;
-}
-
-/// Passes everything on between the two; true when they are to be cut at a commit.
-bool Pass(int client, int server, bool mayCut, CuttingProxy::Cut cut) {
-  std::array<char, 65'536> part{};
-  bool isCommitting = false;
-  for (;;) {
-    std::array<pollfd, 2> ends{{{client, POLLIN, 0}, {server, POLLIN, 0}}};
-    poll(ends.data(), ends.size(), -1);
-    for (std::size_t from = 0; from < ends.size(); ++from) {
-      if (ends[from].revents == 0) continue;
-      const auto length = read(ends[from].fd, part.data(), part.size());
-      if (length <= 0) return false;
-      const std::string_view words(part.data(), static_cast<std::size_t>(length));
-      if (from == 1 && isCommitting) return true;
-      isCommitting = mayCut && from == 0 && words.find("COMMIT") != std::string_view::npos;
-      if (write(ends[1 - from].fd, words.data(), words.size()) != length) return false;
-      if (isCommitting && cut == CuttingProxy::Cut::kWhileCommitting) return true;
-    }
-  }
-}
-
-[[noreturn]] void Serve(int listener, int serverPort, CuttingProxy::Cut cut, bool& hasCut) {
-  for (;;) {
-    const int client = accept(listener, nullptr, nullptr);
-    const int server = Connect(serverPort);
-    if (Pass(client, server, !hasCut, cut)) hasCut = true;
-    close(client);
-    close(server);
-  }
-}
-
 }  // namespace
 
-CuttingProxy::CuttingProxy(int serverPort, Cut cut)
-    : hasCut_(static_cast<bool*>(
-          mmap(nullptr, sizeof(bool), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))) {
+/// A client (0) and the server (1) as one connection joins them.
+struct CuttingProxy::Pair {
+  std::array<int, 2> ends{-1, -1};
+  bool isCommitting = false;
+  bool isMute = false;
+  std::string held = {};  ///< From the client, kept from the server.
+
+  void Close() {
+    for (int& end : ends) close(std::exchange(end, -1));
+  }
+};
+
+/// The other process.
+class CuttingProxy::Server {
+ public:
+  Server(int listener, int serverPort, Moment moment, Deed deed, Shared& shared)
+      : listener_(listener), port_(serverPort), moment_(moment), deed_(deed), shared_(shared) {}
+
+  [[noreturn]] void Serve() {
+    for (;;) {
+      std::vector<pollfd> all{{listener_, POLLIN, 0}};
+      for (const Pair& pair : pairs_) {
+        // What is mute is not even heard to hang up.
+        for (const int end : pair.ends) all.push_back({pair.isMute ? -1 : end, POLLIN, 0});
+      }
+      constexpr int kMilliseconds = 5;
+      poll(all.data(), all.size(), kMilliseconds);
+      for (std::size_t i = 0; i < pairs_.size(); ++i) {
+        for (std::size_t from = 0; from < 2; ++from) {
+          if (all[1 + 2 * i + from].revents != 0) Pass(pairs_[i], from);
+        }
+        if (pairs_[i].isMute && shared_.letsIn) Release(pairs_[i]);
+      }
+      if (all[0].revents != 0) Accept();
+    }
+  }
+
+ private:
+  void Accept() {
+    const int client = accept(listener_, nullptr, nullptr);
+    const bool isShut = deed_ == Deed::kGone && shared_.hasStruck && !shared_.letsIn;
+    const int server = isShut ? -1 : socket(AF_INET, SOCK_STREAM, 0);
+    const sockaddr_in address = Loopback(port_);
+    const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
+    if (isShut || connect(server, generic, sizeof address) != 0) {
+      close(client);
+      close(server);
+      return;
+    }
+    pairs_.push_back({{client, server}});
+  }
+
+  void Pass(Pair& pair, std::size_t from) {
+    std::array<char, 65'536> part{};
+    const auto length = read(pair.ends[from], part.data(), part.size());
+    if (length <= 0) return pair.Close();
+    std::string words(part.data(), static_cast<std::size_t>(length));
+    const bool struckBefore = shared_.hasStruck;
+    const std::string rest = struckBefore ? "" : TakeBack(pair, from, words);
+    if (!words.empty() && write(pair.ends[1 - from], words.data(), words.size()) < 0) {
+      return pair.Close();
+    }
+    if (struckBefore || !shared_.hasStruck) return;
+    if (deed_ != Deed::kMute) return pair.Close();
+    pair.isMute = true;
+    if (from == 0) pair.held = rest;
+  }
+
+  /// Strikes when the moment is there: cuts from the words what is not to pass any more.
+  std::string TakeBack(Pair& pair, std::size_t from, std::string& words) {
+    const bool saysCommit = from == 0 && words.find("COMMIT") != std::string::npos;
+    std::size_t passing = words.size();
+    bool strikes = false;
+    if (moment_ == Moment::kClientBytes || moment_ == Moment::kServerBytes) {
+      if (!shared_.isArmed || from != (moment_ == Moment::kClientBytes ? 0U : 1U)) return "";
+      const std::int64_t left = shared_.most - shared_.bytes;
+      strikes = static_cast<std::int64_t>(words.size()) >= left;
+      if (strikes) passing = static_cast<std::size_t>(left);
+      shared_.bytes = shared_.bytes + static_cast<std::int64_t>(passing);
+    } else if (moment_ == Moment::kCommitted) {
+      strikes = from == 1 && pair.isCommitting;
+      if (strikes) passing = 0;
+    } else {
+      strikes = saysCommit;
+      if (strikes && moment_ == Moment::kCommitArrives) passing = 0;
+    }
+    pair.isCommitting = pair.isCommitting || saysCommit;
+    if (strikes) shared_.hasStruck = true;
+    const std::string rest = words.substr(passing);
+    words.resize(passing);
+    return rest;
+  }
+
+  static void Release(Pair& pair) {
+    pair.isMute = false;
+    if (write(pair.ends[1], pair.held.data(), pair.held.size()) < 0) pair.Close();
+  }
+
+  int listener_;
+  int port_;
+  Moment moment_;
+  Deed deed_;
+  Shared& shared_;
+  std::vector<Pair> pairs_;
+};
+
+CuttingProxy::CuttingProxy(int serverPort, Moment moment, Deed deed)
+    : shared_(static_cast<Shared*>(mmap(nullptr, sizeof(Shared), PROT_READ | PROT_WRITE,
+                                        MAP_SHARED | MAP_ANONYMOUS, -1, 0))) {
   const int listener = socket(AF_INET, SOCK_STREAM, 0);
   sockaddr_in address = Loopback(0);
   socklen_t length = sizeof address;
@@ -81,7 +153,7 @@ CuttingProxy::CuttingProxy(int serverPort, Cut cut)
   if (process_ == 0) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     signal(SIGPIPE, SIG_IGN);
-    Serve(listener, serverPort, cut, *hasCut_);
+    Server(listener, serverPort, moment, deed, *shared_).Serve();
   }
   close(listener);
 }
@@ -89,7 +161,13 @@ CuttingProxy::CuttingProxy(int serverPort, Cut cut)
 CuttingProxy::~CuttingProxy() {
   kill(process_, SIGKILL);
   waitpid(process_, nullptr, 0);
-  munmap(hasCut_, sizeof(bool));
+  munmap(shared_, sizeof(Shared));
+}
+
+void CuttingProxy::Arm(std::int64_t most) {
+  shared_->bytes = 0;
+  shared_->most = most;
+  shared_->isArmed = true;
 }
 
 }  // namespace services

@@ -1,14 +1,16 @@
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <thread>
+
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
 #include "services/Database.h"
 #include "services/DatabaseError.h"
 #include "services/faults/CuttingProxy.h"
 #include "support/PrivatePostgres.h"
-
-/// libpqxx forgets the last result of a connection that breaks under it: a kilobyte each time.
-extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
-  return "leak:libpqxx";
-}
 
 namespace services {
 namespace {
@@ -53,7 +55,30 @@ class ServerTest : public OverDatabase {
     EXPECT_EQ(1, other->Sessao().Select(cut, {}, [](const Row&) {}));
   }
 
+  static std::int32_t Number(Trouble trouble) { return static_cast<std::int32_t>(trouble); }
+  /// Writes a row with this number in a transaction; the doubt, when it could not be told whether
+  /// it stands. Otherwise `told_` is what was told.
+  std::optional<Doubt> Mark(int number) {
+    static const Statement insert("INSERT INTO marcas (n) VALUES ($1)");
+    static const Statement proof("SELECT 1 FROM marcas WHERE n = $1");
+    told_ = Standing::kStands;
+    try {
+      InTransaction(session(), [&](Transaction& transaction) {
+        session().Run(insert, {number});
+        transaction.ProvedBy(proof, {number});
+      });
+    } catch (const InDoubt& error) {
+      return error.Which();
+    } catch (const DatabaseError& error) {
+      EXPECT_EQ(Trouble::kConnectionLost, error.What()) << error.what();
+      told_ = Standing::kDoesNotStand;
+    }
+    return std::nullopt;
+  }
+
+  static constexpr Limits kShort{.writing = std::chrono::milliseconds(800)};
   static support::PrivatePostgres* server_;
+  Standing told_ = Standing::kUnknown;
   std::int32_t lastError_ = 0;
   std::int32_t lastNumber_ = 0;
   std::string lastWords_;
@@ -87,24 +112,27 @@ TEST_P(ServerTest, ARestartBetweenTwoOperationsIsNotNoticed) {
 
 TEST_P(ServerTest, AConnectionThatBreaksInMidSaleLeavesNothing) {
   ASSERT_EQ(0, Sell());
-  for (const char* moment : {"after begin", "before commit"}) {
-    session().Observe([&](std::string_view step) {
-      if (step == moment) CutConnection();
-    });
-    EXPECT_EQ(servicos::kErro, Sell()) << moment;
-    session().Observe({});
-    EXPECT_EQ(static_cast<std::int32_t>(Trouble::kConnectionLost), lastError_) << lastWords_;
-    EXPECT_EQ(1, Count("vendas")) << moment;
-  }
-  EXPECT_EQ(0, Sell());
+  session().Observe([&](std::string_view step) {
+    if (step == "before commit") CutConnection();
+  });
+  EXPECT_EQ(servicos::kErro, Sell());
+  EXPECT_EQ(static_cast<std::int32_t>(Trouble::kConnectionLost), lastError_) << lastWords_;
+  EXPECT_EQ(1, Count("vendas"));
+  session().Observe([&](std::string_view step) {
+    if (step == "after begin") CutConnection();
+  });
+  EXPECT_EQ(0, Sell()) << "nothing was asked of that connection yet";
+  session().Observe({});
+  EXPECT_EQ(2, Count("vendas"));
   ExpectBooksBalance();
 }
 
 TEST_P(ServerTest, ACommitWhoseAnswerIsLostIsLookedUpAndCounts) {
-  const CuttingProxy proxy(server_->Port(), CuttingProxy::Cut::kWhenCommitted);
+  const CuttingProxy proxy(server_->Port(), CuttingProxy::Moment::kCommitted,
+                           CuttingProxy::Deed::kCut);
   OpenThrough(proxy, "LOJA");
   EXPECT_EQ(0, Sell()) << lastWords_;
-  EXPECT_TRUE(proxy.HasCut());
+  EXPECT_TRUE(proxy.HasStruck());
   EXPECT_EQ(1, Count("vendas"));
   EXPECT_EQ(Read("SELECT numero FROM vendas"), std::to_string(lastNumber_));
   ExpectBooksBalance();
@@ -116,26 +144,116 @@ TEST_P(ServerTest, ACommitThatTheServerIsStillAtIsEndedBeforeItIsSaidToHaveFaile
       " 'BEGIN PERFORM pg_sleep(3600); RETURN NULL; END';"
       "CREATE CONSTRAINT TRIGGER devagar AFTER INSERT ON vendas DEFERRABLE INITIALLY DEFERRED"
       " FOR EACH ROW EXECUTE FUNCTION demorar()");
-  const CuttingProxy proxy(server_->Port(), CuttingProxy::Cut::kWhileCommitting);
+  const CuttingProxy proxy(server_->Port(), CuttingProxy::Moment::kCommitting,
+                           CuttingProxy::Deed::kCut);
   OpenThrough(proxy, "Recepção da clínica veterinária, balcão ao lado da porta de entrada");
   EXPECT_EQ(servicos::kErro, Sell());
-  EXPECT_TRUE(proxy.HasCut());
+  EXPECT_TRUE(proxy.HasStruck());
   EXPECT_EQ(static_cast<std::int32_t>(Trouble::kConnectionLost), lastError_) << lastWords_;
   EXPECT_EQ(0, Count("pg_stat_activity WHERE wait_event = 'PgSleep'"));
   EXPECT_EQ(0, Count("vendas"));
 }
 
-TEST_P(ServerTest, AServerGoneAtTheCommitLeavesTheSaleInDoubt) {
-  ASSERT_EQ(0, Sell());
-  session().Observe([&](std::string_view step) {
-    if (step == "before commit") server_->TakeDown();
+TEST_P(ServerTest, WhatIsInDoubtIsFoundOutOnceTheServerIsBack) {
+  Write("CREATE TABLE marcas (n integer)");
+  for (const auto moment : {CuttingProxy::Moment::kCommitArrives, CuttingProxy::Moment::kCommitting,
+                            CuttingProxy::Moment::kCommitted}) {
+    CuttingProxy proxy(server_->Port(), moment, CuttingProxy::Deed::kGone);
+    OpenThrough(proxy, "LOJA");
+    session().KeepTo({.writing = kShort.writing, .findingOut = kShort.writing});
+    const auto doubt = Mark(1);
+    ASSERT_TRUE(doubt) << "nobody could know";
+    EXPECT_EQ(Standing::kUnknown, session().FindOut(*doubt));
+    EXPECT_FALSE(session().IsConnected());
+    int news = 0;
+    session().OnReconnected([&] { news += static_cast<int>(Count("marcas WHERE n >= 0") >= 0); });
+    proxy.LetIn();
+    EXPECT_TRUE(session().TryToReconnect());
+    EXPECT_EQ(1, news);
+    const bool stands = session().FindOut(*doubt) == Standing::kStands;
+    EXPECT_EQ(stands ? 1 : 0, Count("marcas"));
+    EXPECT_EQ(moment == CuttingProxy::Moment::kCommitArrives, !stands);
+    Write("DELETE FROM marcas");
+  }
+}
+
+TEST_P(ServerTest, ACommitThatArrivesLateFindsNobody) {
+  Write("CREATE TABLE marcas (n integer)");
+  CuttingProxy proxy(server_->Port(), CuttingProxy::Moment::kCommitArrives,
+                     CuttingProxy::Deed::kMute);
+  OpenThrough(proxy, "LOJA");
+  session().KeepTo(kShort);
+  const auto doubt = Mark(1);
+  EXPECT_EQ(Standing::kDoesNotStand, doubt ? session().FindOut(*doubt) : told_);
+  proxy.LetIn();
+  std::this_thread::sleep_for(std::chrono::milliseconds(200));
+  EXPECT_EQ(0, Count("marcas"));
+}
+
+TEST_P(ServerTest, WhatIsToldOfAWriteCutAnywhereIsWhatStands) {
+  using Moment = CuttingProxy::Moment;
+  constexpr int kPlaces = 6;
+  Write("CREATE TABLE marcas (n integer)");
+  int n = 0;
+  for (const auto moment : {Moment::kClientBytes, Moment::kServerBytes}) {
+    for (const auto deed : {CuttingProxy::Deed::kCut, CuttingProxy::Deed::kMute}) {
+      std::int64_t whole = 0;
+      for (int place = 0; place <= kPlaces; ++place) {
+        CuttingProxy proxy(server_->Port(), moment, deed);
+        OpenThrough(proxy, "LOJA");
+        if (place != 0) session().KeepTo(kShort);
+        proxy.Arm(place == 0 ? INT64_MAX : 1 + (whole - 2) * (place - 1) / (kPlaces - 1));
+        const auto doubt = Mark(++n);
+        if (place == 0) whole = proxy.Bytes();
+        EXPECT_EQ(place != 0, proxy.HasStruck());
+        const auto standing = doubt ? session().FindOut(*doubt) : told_;
+        const auto row = "marcas WHERE n = " + std::to_string(n);
+        EXPECT_EQ(standing == Standing::kStands ? 1 : 0, Count(row)) << place;
+        EXPECT_NE(Standing::kUnknown, standing) << place;
+      }
+    }
+  }
+}
+
+TEST_P(ServerTest, AReadingThatGetsNoAnswerIsGivenUpWhileTheScreensLive) {
+  CuttingProxy proxy(server_->Port(), CuttingProxy::Moment::kServerBytes,
+                     CuttingProxy::Deed::kMute);
+  OpenThrough(proxy, "LOJA");
+  session().KeepTo({.reading = std::chrono::milliseconds(400)});
+  int painted = 0;
+  int refused = 0;
+  session().WhileWaiting([&] {
+    ++painted;
+    refused += List() == servicos::kErro && lastError_ == Number(Trouble::kUnderWay) ? 1 : 0;
+    throw std::runtime_error("what painting throws is dropped");
   });
-  EXPECT_EQ(servicos::kErro, Sell());
-  EXPECT_EQ(static_cast<std::int32_t>(Trouble::kInDoubt), lastError_) << lastWords_;
-  session().Observe({});
-  server_->BringBack();
-  EXPECT_EQ(0, Sell());
-  EXPECT_EQ(2, Count("vendas")) << "the one in doubt had not been kept";
+  proxy.Arm(20);
+  EXPECT_EQ(servicos::kErro, List());
+  EXPECT_EQ(Number(Trouble::kReadFailed), lastError_);
+  EXPECT_GT(painted, 0);
+  EXPECT_EQ(painted, refused);
+  EXPECT_EQ(0, List()) << "over a new connection";
+}
+
+TEST_P(ServerTest, ASilentHostLeavesTimeForTheNext) {
+  const int silent = socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  socklen_t length = sizeof address;
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  auto* const generic = reinterpret_cast<sockaddr*>(&address);
+  ASSERT_EQ(0, bind(silent, generic, length));
+  ASSERT_EQ(0, listen(silent, 8));
+  ASSERT_EQ(0, getsockname(silent, generic, &length));
+  const std::string port = std::to_string(ntohs(address.sin_port));
+  const auto connect = [&](const std::string& hosts, const std::string& ports) {
+    auto text = base::Replace(address_, "host=127.0.0.1", "host=" + hosts);
+    text = base::Replace(text, std::to_string(server_->Port()), ports);
+    return AbrirBanco(text + " target_session_attrs=read-write", clock_, "LOJA");
+  };
+  EXPECT_NE(nullptr, connect("127.0.0.1,localhost", port + "," + std::to_string(server_->Port())));
+  EXPECT_THROW(connect("localhost", port), FalhaDeAbertura);
+  close(silent);
 }
 
 /// A disk that is full.
