@@ -10,6 +10,7 @@
 
 #include "services/Banco.h"
 #include "services/DatabaseError.h"
+#include "services/NewFile.h"
 #include "services/PostgresSession.h"
 #include "services/Schema.h"
 #include "services/SqliteSession.h"
@@ -33,9 +34,6 @@ struct Address {
                                      : "caixa-banco postgresql:... criar";
   }
 };
-
-/// How long a writer waits for the other one. A sale takes milliseconds; this is for slow disks.
-constexpr auto kWorkingPatience = std::chrono::seconds(10);
 
 /// A server that does not answer may not hold the screen for minutes.
 constexpr std::string_view kLimits[] = {"connect_timeout=5", "tcp_user_timeout=15000",
@@ -160,10 +158,9 @@ void CheckFile(const Address& address) {
   if (!isWritable) RefuseForPermission(address);
 }
 
-std::unique_ptr<Session> Connect(const Address& address, const std::string& computer,
-                                 SqliteSession::File file) {
+std::unique_ptr<Session> Connect(const Address& address, const std::string& computer) {
   if (address.engine == Engine::kSqlite) {
-    return std::make_unique<SqliteSession>(address.target, file);
+    return std::make_unique<SqliteSession>(address.target, SqliteSession::File::kMustExist);
   }
   return std::make_unique<PostgresSession>(address.target, computer);
 }
@@ -216,9 +213,7 @@ void CheckRights(Session& session, const Address& address) {
 /// the file, but a restored copy has lost it.
 void Settle(Session& session) {
   auto* const file = dynamic_cast<SqliteSession*>(&session);
-  if (file == nullptr) return;
-  file->RunScript("PRAGMA journal_mode = WAL");
-  file->BePatientFor(kWorkingPatience);
+  if (file != nullptr) file->UseLog();
 }
 
 /// The folder of a new file, which is what can be wrong before there is a file.
@@ -239,7 +234,8 @@ std::shared_ptr<Banco> AbrirBanco(std::string_view endereco, const base::Clock& 
   const Address address = AddressOf(endereco);
   if (address.engine == Engine::kSqlite) CheckFile(address);
   try {
-    auto session = Connect(address, computador, SqliteSession::File::kMustExist);
+    auto session = Connect(address, computador);
+    const Operation whole(*session);
     CheckSchema(*session, address);
     CheckRights(*session, address);
     Settle(*session);
@@ -251,21 +247,23 @@ std::shared_ptr<Banco> AbrirBanco(std::string_view endereco, const base::Clock& 
 
 void CriarBanco(std::string_view endereco) {
   const Address address = AddressOf(endereco);
-  const bool isFile = address.engine == Engine::kSqlite;
-  std::error_code ignored;
-  const bool isNew = isFile && !std::filesystem::exists(address.target, ignored);
-  if (isFile && isNew) CheckFolder(address);
-  if (isFile && !isNew) CheckFile(address);
   try {
-    const auto session = Connect(address, "", SqliteSession::File::kMayBeNew);
+    if (address.engine == Engine::kSqlite) {
+      std::error_code ignored;
+      if (!std::filesystem::exists(address.target, ignored)) {
+        CheckFolder(address);
+        CreateWhole(address.target);
+      }
+      CheckFile(address);
+    }
+    const auto session = Connect(address, "");
+    const Unhurried withoutLimits(*session);
     const int schema = SchemaIn(*session);
     if (schema < 0) RefuseAsForeign(address);
     if (schema > CurrentSchema()) CheckSchema(*session, address);
     Settle(*session);
     Migrate(*session);
   } catch (const DatabaseError& error) {
-    // Busy is who came second: the file is then the other one's, and being created.
-    if (isNew && error.What() != Trouble::kBusy) std::filesystem::remove(address.target, ignored);
     RefuseFor(error, address);
   }
 }

@@ -16,7 +16,10 @@ std::int64_t SingleNumber(Session& session, const Statement& statement) {
 
 /// Keeps two programs from migrating at the same time; on SQLite the transaction does.
 void TakeTurns(Session& session) {
+  // The other one may have much to do.
+  static const Statement patience("SELECT 1", "SELECT set_config('lock_timeout', '120s', true)");
   static const Statement turn("SELECT 1", "SELECT 1 FROM pg_advisory_xact_lock(7325001)");
+  SingleNumber(session, patience);
   SingleNumber(session, turn);
 }
 

@@ -1,9 +1,12 @@
 #include "services/SqliteSession.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <fcntl.h>
 #include <sqlite3.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <random>
 #include <thread>
 
@@ -12,27 +15,19 @@
 namespace services {
 namespace {
 
-/// How long opening waits for a file that another program holds for itself.
-constexpr auto kOpeningPatience = std::chrono::seconds(2);
+/// A held file is told within five seconds, whatever else an operation does.
+constexpr auto kPatience = std::chrono::seconds(4);
+
+/// In pages of the log: some 4 MB.
+constexpr std::uint32_t kCheckpointEvery = 1'000;
+/// When readers keep a log from being used anew, the next try waits for so many more.
+constexpr std::uint32_t kCheckpointAgain = 500;
 
 constexpr const char* kSettings =
     "PRAGMA foreign_keys = ON;"
     "PRAGMA synchronous = FULL;"
     "PRAGMA temp_store = MEMORY;"
     "PRAGMA cache_size = -32768;";
-
-/// Waits for a lock by short naps of uneven length: whoever sells without a pause leaves gaps that
-/// the library's own, ever longer naps would miss.
-int Nap(void* waiting, int count) {
-  auto& wait = *static_cast<SqliteSession::Wait*>(waiting);
-  const auto now = std::chrono::steady_clock::now();
-  if (count == 0) wait.end = now + wait.patience;
-  if (now >= wait.end) return 0;
-  thread_local std::minstd_rand chance{std::random_device{}()};
-  std::uniform_int_distribution<int> microseconds(200, 2'000);
-  std::this_thread::sleep_for(std::chrono::microseconds(microseconds(chance)));
-  return 1;
-}
 
 class SqliteRow final : public Row {
  public:
@@ -85,7 +80,53 @@ std::string WithNumberedPlaces(std::string text) {
   return text;
 }
 
+/// At once with the right to write, which is what others are waited for.
+const Statement& Beginning() {
+  static const Statement begin("BEGIN IMMEDIATE");
+  return begin;
+}
+
+/// A file that is made by the library could be read by every user of the computer; the log and its
+/// index get the rights of the database.
+void CreatePrivately(const std::string& path) {
+  const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+  if (file >= 0) close(file);
+}
+
+/// The library's wrapper keeps its handle to itself.
+bool OnlyReads(sqlite3* database, const std::string& text) {
+  for (auto* each = sqlite3_next_stmt(database, nullptr); each != nullptr;
+       each = sqlite3_next_stmt(database, each)) {
+    if (text == sqlite3_sql(each)) return sqlite3_stmt_readonly(each) != 0;
+  }
+  return false;
+}
+
+std::unique_ptr<SQLite::Database> Opened(const std::string& path) {
+  auto database = std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE);
+  sqlite3_extended_result_codes(database->getHandle(), 1);
+  sqlite3_wal_autocheckpoint(database->getHandle(),
+                             SqliteSession::HoldsWritersAtCheckpoints() ? 0 : kCheckpointEvery);
+  return database;
+}
+
+/// Uneven, so that who waits for who sells without a pause does not always come too late.
+std::chrono::microseconds ShortNap() {
+  thread_local std::minstd_rand chance{std::random_device{}()};
+  std::uniform_int_distribution<int> microseconds(200, 2'000);
+  return std::chrono::microseconds(microseconds(chance));
+}
+
 }  // namespace
+
+/// A statement that the connection has prepared.
+struct SqliteSession::Kept {
+  Kept(SQLite::Database& database, const std::string& text)
+      : statement(database, text), onlyReads(OnlyReads(database.getHandle(), text)) {}
+
+  SQLite::Statement statement;
+  bool onlyReads;
+};
 
 template <class Work>
 auto SqliteSession::Translated(Work work) {
@@ -98,39 +139,100 @@ auto SqliteSession::Translated(Work work) {
   }
 }
 
-SqliteSession::SqliteSession(const std::string& path, File file) {
-  Translated([&] {
-    const int creating = file == File::kMayBeNew ? SQLite::OPEN_CREATE : 0;
-    database_ = std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE | creating);
-    wait_.patience = kOpeningPatience;
-    sqlite3_busy_handler(database_->getHandle(), Nap, &wait_);
-    sqlite3_extended_result_codes(database_->getHandle(), 1);
-    database_->exec(kSettings);
-  });
+bool SqliteSession::HoldsWritersAtCheckpoints() {
+  constexpr int kMended = 3'051'003;
+  return sqlite3_libversion_number() < kMended;
 }
 
-void SqliteSession::BePatientFor(std::chrono::steady_clock::duration patience) {
-  wait_.patience = patience;
+SqliteSession::SqliteSession(const std::string& path, File file)
+    // Absolute, so that no name means anything else to the library.
+    : path_(std::filesystem::absolute(path)),
+      patience_(kPatience),
+      nextCheckpoint_(kCheckpointEvery) {
+  Translated([&] {
+    if (file == File::kMayBeNew) CreatePrivately(path_);
+    database_ = Opened(path_);
+    sqlite3_busy_handler(database_->getHandle(), Nap, this);
+    database_->exec(kSettings);
+  });
 }
 
 SqliteSession::~SqliteSession() {
   prepared_.clear();
 }
 
-SQLite::Statement& SqliteSession::Prepared(const Statement& statement) {
+int SqliteSession::Nap(void* session, int count) {
+  auto& self = *static_cast<SqliteSession*>(session);
+  if (count == 0 || !self.waiting_) {
+    self.waiting_ = self.Until(self.lockBy_.value_or(self.Start() + self.patience_));
+  }
+  if (self.waiting_->IsOver()) return 0;
+  std::this_thread::sleep_for(ShortNap());
+  self.waiting_->Breathe();
+  return 1;
+}
+
+void SqliteSession::UseLog() {
+  static const Statement tables("SELECT count(*) FROM sqlite_schema");
+  // The library does not wait for this change.
+  for (Waiting waiting = Until(Start() + patience_);;) {
+    try {
+      const auto mode = Translated(
+          [&] { return database_->execAndGet("PRAGMA journal_mode = WAL").getString(); });
+      if (mode != "wal") throw DatabaseError(Trouble::kOther, "SQLite: journal_mode " + mode);
+      break;
+    } catch (const DatabaseError& error) {
+      if (error.What() != Trouble::kBusy || waiting.IsOver()) throw;
+    }
+    std::this_thread::sleep_for(ShortNap());
+    waiting.Breathe();
+  }
+  DoSelect(tables, {}, [](const Row&) {});
+  files_.emplace(database_->getHandle(), path_);
+}
+
+void SqliteSession::RequireFiles(bool areThere) {
+  isGone_ = isGone_ || !areThere;
+  if (!isGone_) return;
+  // What lies under the names may be another program's: this connection leaves it alone.
+  sqlite3_db_config(database_->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  throw DatabaseError(Trouble::kFileGone, path_);
+}
+
+void SqliteSession::Execute(const char* sql) {
+  Translated([&] { database_->exec(sql); });
+}
+
+SqliteSession::Kept& SqliteSession::Prepared(const Statement& statement) {
   if (statement.Id() >= prepared_.size()) prepared_.resize(statement.Id() + 1);
   auto& prepared = prepared_[statement.Id()];
   if (!prepared) {
-    prepared = std::make_unique<SQLite::Statement>(
-        *database_, WithNumberedPlaces(statement.Text(Engine::kSqlite)));
+    prepared =
+        std::make_unique<Kept>(*database_, WithNumberedPlaces(statement.Text(Engine::kSqlite)));
   }
   return *prepared;
+}
+
+SqliteSession::Kept& SqliteSession::Allowed(const Statement& statement) {
+  RequireFiles(true);
+  Kept& kept = Prepared(statement);
+  if (kept.onlyReads || IsInTransaction()) return kept;
+  throw DatabaseError(Trouble::kReadOnly, "SQLite: " + statement.Text(Engine::kSqlite));
+}
+
+void SqliteSession::Step(const Statement& statement) {
+  Translated([&] {
+    Count();
+    SQLite::Statement& prepared = Prepared(statement).statement;
+    const Execution execution(prepared, {});
+    prepared.executeStep();
+  });
 }
 
 std::int64_t SqliteSession::DoRun(const Statement& statement, const Params& params) {
   return Translated([&] {
     Count();
-    SQLite::Statement& prepared = Prepared(statement);
+    SQLite::Statement& prepared = Allowed(statement).statement;
     const Execution execution(prepared, params);
     while (prepared.executeStep()) {
     }
@@ -140,42 +242,59 @@ std::int64_t SqliteSession::DoRun(const Statement& statement, const Params& para
 
 std::int64_t SqliteSession::DoSelect(const Statement& statement, const Params& params,
                                      const EachRow& each) {
-  return Translated([&] {
+  const auto rows = Translated([&] {
     Count();
-    SQLite::Statement& prepared = Prepared(statement);
+    SQLite::Statement& prepared = Allowed(statement).statement;
     const Execution execution(prepared, params);
     const SqliteRow row(prepared);
-    std::int64_t rows = 0;
-    for (; prepared.executeStep(); ++rows) each(row);
-    return rows;
+    std::int64_t count = 0;
+    for (; prepared.executeStep(); ++count) each(row);
+    return count;
   });
+  if (files_ && !IsInTransaction()) RequireFiles(files_->IsDatabaseThere());
+  return rows;
 }
 
 std::vector<std::int64_t> SqliteSession::DoRunTogether(const std::vector<Request>& requests) {
   std::vector<std::int64_t> rows;
   rows.reserve(requests.size());
   for (const Request& each : requests) {
-    rows.push_back(DoSelect(
-        each.statement, each.params, each.each ? each.each : [](const Row&) {}));
+    const bool givesRows = Allowed(each.statement).statement.getColumnCount() > 0;
+    const EachRow reader = each.each ? each.each : [](const Row&) {};
+    rows.push_back(givesRows ? DoSelect(each.statement, each.params, reader)
+                             : DoRun(each.statement, each.params));
   }
   return rows;
 }
 
 void SqliteSession::DoRunScript(const std::string& script) {
-  Translated([&] {
-    Count();
-    database_->exec(script);
-  });
+  RequireFiles(true);
+  Count();
+  Execute(script.c_str());
 }
 
 void SqliteSession::DoBegin() {
-  static const Statement begin("BEGIN IMMEDIATE");
-  DoRun(begin, {});
+  RequireFiles(true);
+  Step(Beginning());
+  if (!files_ || files_->AreThere()) return;
+  DoRollback();
+  RequireFiles(false);
 }
 
-void SqliteSession::DoCommit(const Proof&) {
+void SqliteSession::DoCommit(const Proof& proof) {
   static const Statement commit("COMMIT");
-  DoRun(commit, {});
+  try {
+    Step(commit);
+  } catch (const DatabaseError& error) {
+    // What could not be made to last may lie in the log all the same.
+    if (error.What() != Trouble::kStorage) throw;
+    DoRollback();
+    const bool isSealed = SealLog();
+    if (!isSealed) throw InDoubt({.label = "", .proof = proof}, error.Detail());
+    if (!Stands(proof)) throw;
+  }
+  if (files_) RequireFiles(files_->AreThere());
+  CheckpointIfDue();
 }
 
 void SqliteSession::DoRollback() noexcept {
@@ -185,9 +304,63 @@ void SqliteSession::DoRollback() noexcept {
 }
 
 Standing SqliteSession::DoFindOut(const Doubt& doubt) {
-  if (doubt.proof.statement == nullptr) return Standing::kUnknown;
-  const auto found = DoSelect(*doubt.proof.statement, doubt.proof.params, [](const Row&) {});
-  return found > 0 ? Standing::kStands : Standing::kDoesNotStand;
+  if (doubt.proof.statement == nullptr || !SealLog()) return Standing::kUnknown;
+  return Stands(doubt.proof) ? Standing::kStands : Standing::kDoesNotStand;
+}
+
+bool SqliteSession::SealLog() noexcept {
+  try {
+    RequireFiles(true);
+    Step(Beginning());
+    const int version = database_->execAndGet("PRAGMA user_version").getInt();
+    Execute(("PRAGMA user_version = " + std::to_string(version)).c_str());
+    Execute("COMMIT");
+    if (files_) RequireFiles(files_->AreThere());
+    return true;
+  } catch (const std::exception&) {
+    DoRollback();
+    return false;
+  }
+}
+
+bool SqliteSession::Stands(const Proof& proof) {
+  // The library shows nothing of a commit that it has called failed: without a proof it is not
+  // there.
+  if (proof.statement == nullptr) return false;
+  SQLite::Statement& prepared = Prepared(*proof.statement).statement;
+  const Execution execution(prepared, proof.params);
+  return prepared.executeStep();
+}
+
+void SqliteSession::CheckpointIfDue() noexcept {
+  if (!files_ || !HoldsWritersAtCheckpoints()) return;
+  const std::uint32_t pages = files_->PagesInLog();
+  if (pages < kCheckpointEvery) nextCheckpoint_ = kCheckpointEvery;
+  if (pages < nextCheckpoint_) return;
+  nextCheckpoint_ = pages + kCheckpointAgain;
+  // The operator waits meanwhile: not long, but where the log has grown for long.
+  constexpr auto kUsually = std::chrono::milliseconds(200);
+  lockBy_ = Clock::now() + (pages < 8 * kCheckpointEvery ? kUsually : 10 * kUsually);
+  try {
+    Checkpoint();
+  } catch (const std::exception&) {
+    // The sale stands; the log grows until the next one.
+  }
+  lockBy_.reset();
+  DoRollback();
+}
+
+void SqliteSession::Checkpoint() {
+  if (!checkpointer_) {
+    checkpointer_ = Opened(path_);
+    // It takes part in the log once it has read.
+    checkpointer_->exec(kSettings);
+    checkpointer_->execAndGet("SELECT count(*) FROM sqlite_schema");
+  }
+  // A transaction that writes nothing holds the writers up.
+  Step(Beginning());
+  sqlite3_wal_checkpoint_v2(checkpointer_->getHandle(), "main", SQLITE_CHECKPOINT_PASSIVE, nullptr,
+                            nullptr);
 }
 
 }  // namespace services

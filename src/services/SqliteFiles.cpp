@@ -1,0 +1,110 @@
+#include "services/SqliteFiles.h"
+
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <utility>
+
+namespace services {
+namespace {
+
+// The places of numbers in the files, as SQLite documents its formats.
+constexpr int kHeader = 16;         ///< Of a database, where its page size stands.
+constexpr int kPagesInHeader = 28;  ///< Its count of pages.
+constexpr off_t kLogHeader = 32;
+constexpr off_t kFrameHeader = 24;
+constexpr int kIndexPage = 32'768;  ///< A piece of the index of the log.
+
+/// The beginning of the index of the log, which all connections map.
+struct IndexHeader {
+  std::uint32_t version, unused, changes;
+  std::uint8_t isInitialised, isBigEndian;
+  std::uint16_t pageSize;  ///< 1 stands for 65,536.
+  std::uint32_t frames;    ///< Of the log, up to the last commit.
+};
+
+std::uint32_t BigEndian(const unsigned char* bytes, int count) {
+  std::uint32_t number = 0;
+  for (int i = 0; i < count; ++i) number = number << 8U | bytes[i];
+  return number;
+}
+
+off_t PageSize(std::uint32_t told) {
+  return told == 1 ? 65'536 : off_t{told};
+}
+
+/// SQLite's own handle of the database file. It may not be opened past SQLite: closing it would let
+/// go of all locks of this process on it.
+sqlite3_file* FileOf(sqlite3* database) {
+  sqlite3_file* file = nullptr;
+  sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file));
+  return file;
+}
+
+/// Null when the connection has none mapped.
+const volatile IndexHeader* IndexOf(sqlite3* database) {
+  sqlite3_file* const file = FileOf(database);
+  void volatile* mapped = nullptr;
+  if (file == nullptr || file->pMethods == nullptr || file->pMethods->iVersion < 2) return nullptr;
+  if (file->pMethods->xShmMap(file, 0, kIndexPage, 0, &mapped) != SQLITE_OK) return nullptr;
+  return static_cast<const volatile IndexHeader*>(mapped);
+}
+
+}  // namespace
+
+SqliteFiles::SqliteFiles(sqlite3* database, std::string path)
+    : database_(database), path_(std::move(path)) {
+  // SQLite goes through links to the file itself, and keeps its log beside that.
+  const std::string file = sqlite3_db_filename(database_, "main");
+  logPath_ = file + "-wal";
+  indexPath_ = file + "-shm";
+  main_ = Found(path_);
+  log_ = Found(logPath_);
+  index_ = Found(indexPath_);
+}
+
+SqliteFiles::Identity SqliteFiles::Found(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) return {};
+  return {status.st_dev, status.st_ino, status.st_size};
+}
+
+bool SqliteFiles::IsDatabaseThere() {
+  const Identity now = Found(path_);
+  if (now != main_) return false;
+  if (now.size < main_.size && IsShorterThanItSays(now.size)) return false;
+  main_.size = now.size;
+  return true;
+}
+
+bool SqliteFiles::IsShorterThanItSays(off_t size) const {
+  // A file that was made smaller as it should be says so at its beginning.
+  std::array<unsigned char, kPagesInHeader + 4 - kHeader> header{};
+  sqlite3_file* const file = FileOf(database_);
+  if (file->pMethods->xRead(file, header.data(), header.size(), kHeader) != SQLITE_OK) return true;
+  const std::uint32_t pages = BigEndian(&header[kPagesInHeader - kHeader], 4);
+  return size < pages * PageSize(BigEndian(header.data(), 2));
+}
+
+bool SqliteFiles::IsLogThere() const {
+  const volatile IndexHeader* const index = IndexOf(database_);
+  if (index == nullptr) return false;
+  while (true) {
+    const std::uint32_t frames = index->frames;
+    const Identity now = Found(logPath_);
+    if (now != log_ || Found(indexPath_) != index_) return false;
+    if (frames == 0) return true;
+    const off_t frame = kFrameHeader + PageSize(index->pageSize);
+    if (now.size >= kLogHeader + frame * static_cast<off_t>(frames)) return true;
+    // Another program may just have emptied the log into the database.
+    if (frames == index->frames) return false;
+  }
+}
+
+std::uint32_t SqliteFiles::PagesInLog() const {
+  const volatile IndexHeader* const index = IndexOf(database_);
+  return index == nullptr ? 0 : index->frames;
+}
+
+}  // namespace services
