@@ -1,7 +1,9 @@
 #include "services/SqliteFiles.h"
 
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 #include <array>
 #include <utility>
@@ -65,9 +67,12 @@ SqliteFiles::SqliteFiles(sqlite3* database, std::string path)
 }
 
 SqliteFiles::Identity SqliteFiles::Found(const std::string& path) {
-  struct stat status {};
-  if (stat(path.c_str(), &status) != 0) return {};
-  return {status.st_dev, status.st_ino, status.st_size};
+  // Not the times: of a file whose times were asked for the kernel has to note the very next write,
+  // which costs that write ten times what the question does.
+  struct statx found {};
+  if (statx(AT_FDCWD, path.c_str(), 0, STATX_INO | STATX_SIZE, &found) != 0) return {};
+  return {makedev(found.stx_dev_major, found.stx_dev_minor), found.stx_ino,
+          static_cast<off_t>(found.stx_size)};
 }
 
 bool SqliteFiles::IsDatabaseThere() {
