@@ -24,6 +24,11 @@ struct IndexHeader {
   std::uint8_t isInitialised, isBigEndian;
   std::uint16_t pageSize;  ///< 1 stands for 65,536.
   std::uint32_t frames;    ///< Of the log, up to the last commit.
+  std::uint32_t pages, lastChecksum[2];
+  std::uint32_t
+      salt[2];  ///< In all pieces of the log; another one each time that it is begun anew.
+
+  std::uint64_t Salt() const volatile { return std::uint64_t{salt[0]} << 32U | salt[1]; }
 };
 
 std::uint32_t BigEndian(const unsigned char* bytes, int count) {
@@ -92,19 +97,34 @@ bool SqliteFiles::IsShorterThanItSays(off_t size) const {
   return size < pages * PageSize(BigEndian(header.data(), 2));
 }
 
-bool SqliteFiles::IsLogThere() const {
+bool SqliteFiles::IsLogThere() {
   const volatile IndexHeader* const index = IndexOf(database_);
   if (index == nullptr) return false;
+  const off_t frame = kFrameHeader + PageSize(index->pageSize);
   while (true) {
-    const std::uint32_t frames = index->frames;
+    const End end{.frames = index->frames, .salt = index->Salt()};
     const Identity now = Found(logPath_);
     if (now != log_ || Found(indexPath_) != index_) return false;
-    if (frames == 0) return true;
-    const off_t frame = kFrameHeader + PageSize(index->pageSize);
-    if (now.size >= kLogHeader + frame * static_cast<off_t>(frames)) return true;
+    const bool isLongEnough = now.size >= kLogHeader + frame * static_cast<off_t>(end.frames);
+    const bool isKept = end.salt != end_.salt || IsInLog(end_, frame);
+    if (end.frames == 0 || (isLongEnough && isKept)) {
+      end_ = end;
+      return true;
+    }
     // Another program may just have emptied the log into the database.
-    if (frames == index->frames) return false;
+    if (end.frames == index->frames && end.salt == index->Salt()) return false;
   }
+}
+
+bool SqliteFiles::IsInLog(const End& end, off_t frameSize) const {
+  constexpr int kSaltInFrame = 8;
+  sqlite3_file* log = nullptr;
+  sqlite3_file_control(database_, "main", SQLITE_FCNTL_JOURNAL_POINTER, static_cast<void*>(&log));
+  if (end.frames == 0 || log == nullptr || log->pMethods == nullptr) return true;
+  std::array<std::uint32_t, 2> salt{};
+  const off_t at = kLogHeader + frameSize * static_cast<off_t>(end.frames - 1) + kSaltInFrame;
+  return log->pMethods->xRead(log, salt.data(), sizeof salt, at) == SQLITE_OK &&
+         (std::uint64_t{salt[0]} << 32U | salt[1]) == end.salt;
 }
 
 std::uint32_t SqliteFiles::PagesInLog() const {

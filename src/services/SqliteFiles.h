@@ -21,8 +21,9 @@ class SqliteFiles {
   /// Whether the database itself is still the file under its name, and as long as it must be.
   bool IsDatabaseThere();
   /// The same of the log, which holds all that was committed and is not in the database yet, and of
-  /// the index of the log.
-  bool IsLogThere() const;
+  /// the index of the log. What the log held when this was last asked must be there still: one that
+  /// was cut and written to again is as long as ever.
+  bool IsLogThere();
   bool AreThere() { return IsDatabaseThere() && IsLogThere(); }
 
   /// How many pages the log holds that a reader has to look for there.
@@ -38,12 +39,20 @@ class SqliteFiles {
     }
   };
 
+  /// The end of the log at some time: its last piece that counts, and which of its lives it is in.
+  struct End {
+    std::uint32_t frames = 0;
+    std::uint64_t salt = 0;
+  };
+
   static Identity Found(const std::string& path);
+  bool IsInLog(const End& end, off_t frameSize) const;
   bool IsShorterThanItSays(off_t size) const;
 
   sqlite3* database_;
   std::string path_, logPath_, indexPath_;
   Identity main_, log_, index_;
+  End end_;
 };
 
 }  // namespace services

@@ -1,9 +1,6 @@
-#include <sys/mman.h>
-
 #include <array>
 #include <atomic>
 #include <chrono>
-#include <new>
 #include <thread>
 
 #include "base/Text.h"
@@ -12,6 +9,7 @@
 #include "services/Database.h"
 #include "services/DatabaseError.h"
 #include "services/SqliteSession.h"
+#include "services/faults/Shared.h"
 
 namespace services {
 namespace {
@@ -25,24 +23,6 @@ struct Counter {
   std::atomic<int> taken{0};
   std::atomic<int> refused{0};
   std::atomic<int> wrong{0};
-};
-
-/// A value that the processes started from here on share.
-template <class Value>
-class Shared {
- public:
-  Shared()
-      : value_(new (mmap(nullptr, sizeof(Value), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS,
-                         -1, 0)) Value) {}
-  ~Shared() { munmap(value_, sizeof(Value)); }
-  Shared(const Shared&) = delete;
-  Shared& operator=(const Shared&) = delete;
-
-  Value* operator->() { return value_; }
-  Value& operator*() { return *value_; }
-
- private:
-  Value* value_;
 };
 
 /// A cash desk that takes customers and lets them go, and notes what should not have happened.
