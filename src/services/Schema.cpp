@@ -30,18 +30,19 @@ int CurrentSchema() {
 }
 
 int SchemaIn(Session& session) {
-  static const Statement hasVersion(
-      "SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name = 'esquema_do_caixa'",
-      "SELECT count(*) FROM pg_class WHERE oid = to_regclass('esquema_do_caixa')");
-  static const Statement tables("SELECT count(*) FROM sqlite_schema",
-                                "SELECT count(*) FROM pg_class WHERE relnamespace ="
-                                " (SELECT oid FROM pg_namespace WHERE nspname = current_schema())"
-                                " AND relkind IN ('r', 'p', 'v', 'm', 'f')");
+  // One look at both: another program may be creating it at this moment.
+  static const Statement tables(
+      "SELECT CASE WHEN EXISTS (SELECT 1 FROM sqlite_schema WHERE type = 'table'"
+      " AND name = 'esquema_do_caixa') THEN 1"
+      " WHEN EXISTS (SELECT 1 FROM sqlite_schema) THEN -1 ELSE 0 END",
+      "SELECT CASE WHEN EXISTS (SELECT 1 FROM pg_class WHERE oid = to_regclass('esquema_do_caixa'))"
+      " THEN 1 WHEN EXISTS (SELECT 1 FROM pg_class WHERE relnamespace ="
+      " (SELECT oid FROM pg_namespace WHERE nspname = current_schema())"
+      " AND relkind IN ('r', 'p', 'v', 'm', 'f')) THEN -1 ELSE 0 END");
   static const Statement version("SELECT versao FROM esquema_do_caixa");
-  if (SingleNumber(session, hasVersion) == 0) {
-    return SingleNumber(session, tables) == 0 ? kNothing : kSomethingElse;
-  }
-  return static_cast<int>(SingleNumber(session, version));
+  const auto found = SingleNumber(session, tables);
+  if (found == 0) return kNothing;
+  return found < 0 ? kSomethingElse : static_cast<int>(SingleNumber(session, version));
 }
 
 void Migrate(Session& session) {

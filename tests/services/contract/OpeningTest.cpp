@@ -186,6 +186,43 @@ std::string NewRole(const std::string& name) {
   return name + std::to_string(++roles);
 }
 
+mode_t RightsOf(const std::string& file) {
+  struct stat status {};
+  return stat(file.c_str(), &status) == 0 ? status.st_mode & 0777U : 0;
+}
+
+TEST_F(OpeningFilesTest, NobodyElseReadsANewDatabase) {
+  const std::string file = folder_.File("clinica.db");
+  const mode_t before = umask(0);
+  CriarBanco("sqlite:" + file);
+  const StoppedClock clock;
+  {
+    const auto banco = AbrirBanco("sqlite:" + file, clock, "RECEPCAO");
+    for (const char* suffix : {"", "-wal", "-shm"}) EXPECT_EQ(0600U, RightsOf(file + suffix));
+  }
+  EXPECT_EQ(1U, FilesIn(folder_.Path())) << "what it was built under is gone";
+  chmod(file.c_str(), 0640);
+  CriarBanco("sqlite:" + file);
+  EXPECT_EQ(0640U, RightsOf(file)) << "as the administrator has set it";
+  umask(before);
+}
+
+#ifdef CAIXA_BANCO
+TEST_F(OpeningFilesTest, TwoDemonstrationClinicsAtOnceAreOne) {
+  const std::string create = "cd '" CAIXA_SOURCE
+                             "' && . scripts/clinic.sh && CAIXA_PROGRAMS=$(dirname '" CAIXA_BANCO
+                             "') create_clinic '" +
+                             folder_.File("clinica") + "' >/dev/null";
+  const std::string both = "{ " + create + "; } & { " + create + "; } && wait $!";
+  ASSERT_EQ(0, std::system(("bash -c \"" + both + "\"").c_str()));
+  EXPECT_EQ(1U, FilesIn(folder_.File("clinica"))) << "clinica.db alone";
+  const StoppedClock clock;
+  const auto banco = AbrirBanco("sqlite:" + folder_.File("clinica/clinica.db"), clock, "RECEPCAO");
+  static const Statement users("SELECT 1 FROM usuarios");
+  EXPECT_EQ(4, banco->Sessao().Select(users, {}, [](const Row&) {}));
+}
+#endif
+
 TEST(OpeningServerTest, AServerThatIsNotThere) {
   const auto [why, words] =
       WhyNot("postgresql:host=127.0.0.1 port=1 user=caixa password=girassol dbname=caixa");
@@ -265,22 +302,26 @@ TEST_P(OpeningTest, ANewerSchemaIsLeftAlone) {
 }
 
 TEST_P(OpeningTest, TwoThatCreateAtOnceDoNotCollide) {
-  const std::string fresh = NewDatabase(GetParam());
-  const auto create = [&] { CriarBanco(fresh); };
-  const pid_t child = fork();
-  if (child == 0) {
-    try {
-      create();
-    } catch (const std::exception&) {
-      _exit(1);
+  for (int pair = 0; pair < (GetParam() == Engine::kSqlite ? 25 : 3); ++pair) {
+    const std::string fresh = NewDatabase(GetParam());
+    // What was left empty is created where it is.
+    if (GetParam() == Engine::kSqlite && pair % 2 == 0) std::ofstream(fresh.substr(7));
+    const pid_t child = fork();
+    if (child == 0) {
+      try {
+        CriarBanco(fresh);
+      } catch (const std::exception& error) {
+        fprintf(stderr, "%s\n", error.what());
+        _exit(1);
+      }
+      _exit(0);
     }
-    _exit(0);
+    EXPECT_NO_THROW(CriarBanco(fresh));
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(0, status);
+    EXPECT_NE(nullptr, AbrirBanco(fresh, clock_, "RECEPCAO"));
   }
-  EXPECT_NO_THROW(create());
-  int status = 0;
-  waitpid(child, &status, 0);
-  EXPECT_EQ(0, status);
-  EXPECT_NE(nullptr, AbrirBanco(fresh, clock_, "RECEPCAO"));
 }
 
 }  // namespace
