@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDateTime>
+#include <QScopedValueRollback>
 #include <QSysInfo>
 #include <QThread>
 #include <algorithm>
@@ -84,6 +85,11 @@ View* DesktopQt::ViewOf(const platform::Control& control) const {
 
 MessageBoxView* DesktopQt::Box() const {
   return static_cast<MessageBoxView*>(gate_.Box());
+}
+
+void DesktopQt::Paint() {
+  const QScopedValueRollback painting(isPainting_, true);
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void DesktopQt::ShutDown(std::function<void()> unwound) {

@@ -39,6 +39,11 @@ class DesktopQt final : public platform::Desktop {
 
   /// Nothing runs and nothing waits: the host may close at once.
   bool IsIdle() const { return loops_.IsIdle(); }
+  /// Lets the screens be painted while the database is waited for. No act of the operator gets
+  /// through, nor the closing of a window: they come when the wait is over.
+  void Paint();
+  /// Who would close the host from a timer or a socket puts it off.
+  bool IsPainting() const { return isPainting_; }
   /// The system waits for the operator, no handler running.
   bool IsResting() const { return loops_.IsResting() && !loops_.IsEnding(); }
   /// The host closes in mid-work: every wait, box and modal screen ends by unwinding; `unwound` is
@@ -118,6 +123,7 @@ class DesktopQt final : public platform::Desktop {
   Windows windows_;
   Loops loops_;
   InputGate gate_{loops_};
+  bool isPainting_ = false;
   std::map<platform::WindowHandle, std::unique_ptr<ForeignContainer>> foreign_;
   std::vector<std::unique_ptr<platform::Form>> adopted_;
   std::map<platform::Form*, Screen> screens_;

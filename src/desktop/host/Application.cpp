@@ -40,6 +40,7 @@
 #include "services/ExportacaoFiscal.h"
 #include "services/FichaDaVenda.h"
 #include "services/RegistrarServicos.h"
+#include "services/Session.h"
 #include "siblings/RegistrarTelas.h"
 
 namespace host {
@@ -102,12 +103,13 @@ std::string Made(const std::string& folder) {
 /// would, so that nobody stays locked.
 class EndRequests {
  public:
-  explicit EndRequests(QWidget& window) {
+  EndRequests(QWidget& window, const desktop::DesktopQt& desktop)
+      : window_(window), desktop_(desktop) {
     if (socketpair(AF_UNIX, SOCK_STREAM, 0, sockets_) != 0) return;
     notifier_ = std::make_unique<QSocketNotifier>(sockets_[1], QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, &window, [&window] {
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, &window, [this] {
       char signal = 0;
-      if (read(sockets_[1], &signal, 1) == 1) window.close();
+      if (read(sockets_[1], &signal, 1) == 1) Close();
     });
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) std::signal(signal, &Pass);
   }
@@ -118,6 +120,18 @@ class EndRequests {
     [[maybe_unused]] const auto written = write(sockets_[0], &signal, 1);
   }
 
+  /// Not in the middle of a call to the database, which is painted around.
+  void Close() {
+    constexpr int kMilliseconds = 50;
+    if (!desktop_.IsPainting()) {
+      window_.close();
+    } else {
+      QTimer::singleShot(kMilliseconds, &window_, [this] { Close(); });
+    }
+  }
+
+  QWidget& window_;
+  const desktop::DesktopQt& desktop_;
   static inline int sockets_[2] = {-1, -1};
   std::unique_ptr<QSocketNotifier> notifier_;
 };
@@ -146,7 +160,7 @@ class Application {
     MeetFiscalApplication();
     window_ = std::make_unique<MainWindow>(desktop_);
     window_->onClosed = [] { QCoreApplication::exit(0); };
-    const EndRequests requests(*window_);
+    const EndRequests requests(*window_, desktop_);
     ShowWindow();
     window_->ShowSignIn();
     std::optional<ScreenFile> told;
@@ -215,8 +229,9 @@ class Application {
     } else if (address.empty()) {
       address = "sqlite:" + (fs::path(Made(UserFolder())) / kDefaultDatabase).string();
     }
-    services::RegistrarServicos(services::AbrirBanco(address, desktop_, desktop_.ComputerName()),
-                                [this] { desktop_.ProcessEvents(); });
+    const auto bank = services::AbrirBanco(address, desktop_, desktop_.ComputerName());
+    bank->Sessao().WhileWaiting([this] { desktop_.Paint(); });
+    services::RegistrarServicos(bank, [this] { desktop_.ProcessEvents(); });
     siblings::RegistrarTelas();
   }
 
