@@ -43,9 +43,14 @@ std::vector<VendaRegistrada> UltimasVendas(Banco& banco, std::int32_t quantas);
 /// Nothing when there is no such sale. Throws DatabaseError.
 std::optional<VendaRegistrada> LerVenda(Banco& banco, std::int32_t numero);
 
-/// Goes through the books of all sales, registers and customers' credits, and gives a Portuguese
-/// sentence for everything that does not balance; empty when all does. Throws DatabaseError.
+/// Looks for damage of the database, goes through the books of all sales, registers and customers'
+/// credits, and gives a Portuguese sentence for everything that does not balance; empty when all
+/// does. Throws DatabaseError.
 std::vector<std::string> Conferir(Banco& banco);
+
+/// The rule by which the log of an SQLite database is brought into its file, in a Portuguese
+/// sentence; empty for PostgreSQL.
+std::string RegraDoLog(Banco& banco);
 
 /// The name of a tender by its code, as in "Cartão de crédito"; empty for no such code.
 std::string NomeDaMoeda(std::int32_t codigo);

@@ -53,6 +53,25 @@ std::vector<std::string> Tender(const std::string& method, const std::string& va
   return {method, value, dueDate, ""};
 }
 
+namespace {
+
+/// What the lines come to before their discounts; the net where one of them is no number.
+base::Currency GrossOf(const Sale& sale) {
+  if (sale.lines.Cols() < 9) return sale.net;
+  try {
+    double gross = 0;
+    for (std::int32_t row = 1; row < sale.lines.Rows(); ++row) {
+      gross += base::ToDouble(sale.lines.TextMatrix(row, 7)) *
+               base::ToDouble(sale.lines.TextMatrix(row, 8));
+    }
+    return base::ToCurrency(gross);
+  } catch (const base::RuntimeError&) {
+    return sale.net;
+  }
+}
+
+}  // namespace
+
 NewSale::NewSale(Sale sale)
     : sale_(std::move(sale)), service_(servicos::CriarServico<servicos::ZOVA_N_Caixa::clsCaixa>()) {
   service_->GradeDePagamentosEfetuados(&sale_.tenders);
@@ -64,7 +83,7 @@ NewSale::NewSale(Sale sale)
   service_->CodigoDoCliente(std::string_view(sale_.customer));
   service_->ApelidoOuNomeFantasiaDoCliente("Dudu");
   service_->NomeOuRazaoSocialDoCliente("Eduardo Sampaio Leal");
-  service_->ValorBruto(sale_.net);
+  service_->ValorBruto(GrossOf(sale_));
   service_->ValorTotalDeDescontos(base::Currency());
   service_->ValorLiquido(sale_.net);
   service_->GradeDeItensDaVenda(&sale_.lines);

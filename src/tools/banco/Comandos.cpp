@@ -34,7 +34,7 @@ constexpr const char* kAjuda =
     "  cliente CÓDIGO  mostra o crédito, as contas e as pré-vendas em aberto de um cliente\n"
     "  travas          mostra os clientes em atendimento e em que computador\n"
     "  liberar CÓDIGO  libera o cliente que um computador desligado deixou em atendimento\n"
-    "  conferir        confere se as contas de todas as vendas fecham\n"
+    "  conferir        confere se o banco está inteiro e se as contas de todas as vendas fecham\n"
     "\n"
     "--agora põe a clínica de demonstração em torno desse momento, em vez de agora.\n"
     "Sai com 0 quando deu certo, 1 quando não, 2 quando o comando não foi entendido.\n";
@@ -188,7 +188,10 @@ int Liberar(const Pedido& pedido, const base::Clock& relogio) {
 }
 
 int ConferirContas(const Pedido& pedido, const base::Clock& relogio) {
-  const std::vector<std::string> achados = services::Conferir(*Abrir(pedido, relogio));
+  const auto banco = Abrir(pedido, relogio);
+  const std::string regra = services::RegraDoLog(*banco);
+  if (!regra.empty()) std::cout << regra << '\n';
+  const std::vector<std::string> achados = services::Conferir(*banco);
   for (const std::string& achado : achados) std::cout << achado << '\n';
   std::cout << (achados.empty() ? "As contas de todas as vendas fecham.\n"
                                 : "As contas não fecham. Avise o suporte.\n");

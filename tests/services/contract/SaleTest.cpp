@@ -52,17 +52,21 @@ TEST_P(SaleTest, EverySideOfASaleStands) {
 TEST_P(SaleTest, BothFormsOfTheDiscountsReadTheSame) {
   auto counter = ProductLine("1.234,50");
   counter[9] = "-10,00";
-  counter[10] = "-1.234,50";
+  counter[10] = "-123,45";
+  counter[11] = "1.111,05";
   counter[6] = base::PadRight("Tati", 100) + base::PadRight("30,00", 50);
   auto copy = ProductLine("1234,5");
   copy[9] = "10";
-  copy[10] = "1234,5";
-  Register({.lines = Grid({counter, copy})});
+  copy[10] = "123,45";
+  copy[11] = "1111,05";
+  Register({.lines = Grid({counter, copy}),
+            .tenders = Grid({Tender("1-Dinheiro", "2.222,10")}),
+            .net = Brl("2222,10")});
   const std::string columns =
       "desconto_em_percentual || ' ' || desconto_em_valor || ' ' || valor_total FROM "
       "itens_de_venda WHERE item = ";
-  EXPECT_EQ("100000 12345000 12345000", Read("SELECT " + columns + "1"));
-  EXPECT_EQ("100000 12345000 12345000", Read("SELECT " + columns + "2"));
+  EXPECT_EQ("100000 1234500 11110500", Read("SELECT " + columns + "1"));
+  EXPECT_EQ("100000 1234500 11110500", Read("SELECT " + columns + "2"));
   EXPECT_EQ("Tati", Read("SELECT nome_do_funcionario FROM itens_de_venda WHERE item = 1"));
 }
 
@@ -310,6 +314,7 @@ TEST_P(SaleTest, TheBooksAreFoundOut) {
   Write("DELETE FROM contas_a_receber");
   Write("DELETE FROM itens_de_venda");
   EXPECT_EQ((std::vector<std::string>{
+                "Venda 1: os itens somam 0,00 antes dos descontos, e o valor bruto é 100,00.",
                 "Venda 1: os recebimentos lançados somam 100,01, e o total recebido é 100,00.",
                 "Venda 1: as contas a receber somam 0,00, e o pagamento a crédito (fiado) é 40,00.",
                 "Venda 1: há 0 itens gravados, e a venda tem 1.",
