@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <stdexcept>
@@ -8,6 +9,7 @@
 #include <utility>
 
 #include "base/Clock.h"
+#include "base/Record.h"
 
 namespace services {
 
@@ -40,13 +42,15 @@ class FalhaDeAbertura : public std::runtime_error {
 };
 
 /// The clinic's database as one process uses it: one connection with its prepared statements, the
-/// clock, the name of this computer, and what keeps the screens alive. The services share it. For
-/// one thread.
+/// clock, the name and mark of this computer, what keeps the screens alive, and what the operator
+/// is to hear besides the answers to what he does. The services share it. For one thread.
 class Banco {
  public:
   /// `relogio` outlives the database. `computador` is the name under which the module knows this
   /// computer, since the module frees a customer without saying it again; "N" when there is none.
-  Banco(std::unique_ptr<Session> sessao, const base::Clock& relogio, std::string computador);
+  /// `marca` is that of MarcaDaEstacao; without one, computers of the same name count as one.
+  Banco(std::unique_ptr<Session> sessao, const base::Clock& relogio, std::string computador,
+        std::string marca = "");
   ~Banco();
   Banco(const Banco&) = delete;
   Banco& operator=(const Banco&) = delete;
@@ -54,23 +58,44 @@ class Banco {
   Session& Sessao() { return *sessao_; }
   base::DateTime Agora() const { return relogio_.Now(); }
   const std::string& Computador() const { return computador_; }
+  const std::string& Marca() const { return marca_; }
   /// Lets the events of the screens run that have arrived; it may throw what unwinds them. Empty
   /// where there is no screen to keep alive.
   const std::function<void()>& CorrerEventos() const { return correrEventos_; }
   void CorrerEventos(std::function<void()> eventos) { correrEventos_ = std::move(eventos); }
 
+  /// Tells the operator one sentence or two of what came to light late. Called while an operation
+  /// runs: `ouvinte` keeps the words until the screens are at rest. Nothing happens where nobody
+  /// listens.
+  void Avisar(const std::string& frase);
+  void AoAvisar(std::function<void(const std::string& frase)> ouvinte) {
+    aoAvisar_ = std::move(ouvinte);
+  }
+
+  /// The session record that a service was given last, null before; it is the host's, and lives
+  /// as long as the host lets it.
+  const base::Record* SessaoDoUsuario() const { return sessaoDoUsuario_; }
+  void SessaoDoUsuario(const base::Record* dados) { sessaoDoUsuario_ = dados; }
+  /// The customer that this computer locked last and has not freed since; 0 for none.
+  std::int32_t ClienteEmAtendimento() const { return clienteEmAtendimento_; }
+  void ClienteEmAtendimento(std::int32_t codigo) { clienteEmAtendimento_ = codigo; }
+
  private:
   std::unique_ptr<Session> sessao_;
   const base::Clock& relogio_;
   std::string computador_;
+  std::string marca_;
   std::function<void()> correrEventos_;
+  std::function<void(const std::string&)> aoAvisar_;
+  const base::Record* sessaoDoUsuario_ = nullptr;
+  std::int32_t clienteEmAtendimento_ = 0;
 };
 
 /// Opens a database that CriarBanco has created, by its address: "sqlite:FILE", or "postgresql:"
 /// followed by a connection text of libpq, as in "postgresql:host=servidor dbname=caixa" or
 /// "postgresql://servidor/caixa". Throws FalhaDeAbertura, and then has changed nothing.
 std::shared_ptr<Banco> AbrirBanco(std::string_view endereco, const base::Clock& relogio,
-                                  std::string computador);
+                                  std::string computador, std::string marca = "");
 
 /// Creates the tables in a new SQLite file or an empty PostgreSQL database, or brings those of an
 /// older version up to date; does nothing when they are current. All or nothing. Throws

@@ -230,7 +230,7 @@ void CheckFolder(const Address& address) {
 }  // namespace
 
 std::shared_ptr<Banco> AbrirBanco(std::string_view endereco, const base::Clock& relogio,
-                                  std::string computador) {
+                                  std::string computador, std::string marca) {
   const Address address = AddressOf(endereco);
   if (address.engine == Engine::kSqlite) CheckFile(address);
   try {
@@ -239,7 +239,8 @@ std::shared_ptr<Banco> AbrirBanco(std::string_view endereco, const base::Clock& 
     CheckSchema(*session, address);
     CheckRights(*session, address);
     Settle(*session);
-    return std::make_shared<Banco>(std::move(session), relogio, std::move(computador));
+    return std::make_shared<Banco>(std::move(session), relogio, std::move(computador),
+                                   std::move(marca));
   } catch (const DatabaseError& error) {
     RefuseFor(error, address);
   }

@@ -18,7 +18,10 @@ class SobreBanco : public Contrato {
  public:
   explicit SobreBanco(std::shared_ptr<Banco> banco) : banco_(std::move(banco)) {}
 
-  void DadosDoUsuario(const base::Record* dados) override { dados_ = dados; }
+  void DadosDoUsuario(const base::Record* dados) override {
+    dados_ = dados;
+    banco_->SessaoDoUsuario(dados);
+  }
   std::int32_t NumeroDoErro() override { return outcome_.number; }
   std::string DescricaoDoErro() override { return outcome_.description; }
   std::string LocalDoErro() override { return outcome_.place; }

@@ -35,10 +35,14 @@ class clsAdministrativo : public SobreBanco<Contrato> {
   }
 
   std::int16_t BloquearCliente(std::int16_t, double& codigo, std::int16_t) override {
-    return Numerado("BloquearCliente", [&] { Bloquear(CodeIn(codigo).value_or(0)); });
+    return Numerado("BloquearCliente", [&] {
+      Bloquear(CodeIn(codigo).value_or(0));
+      banco().ClienteEmAtendimento(CodeIn(codigo).value_or(0));
+    });
   }
 
   std::int16_t DesbloquearCliente(std::int16_t, double& codigo, std::int16_t) override {
+    banco().ClienteEmAtendimento(0);
     return Numerado("DesbloquearCliente", [&] { Desbloquear(CodeIn(codigo).value_or(0)); });
   }
 

@@ -37,6 +37,7 @@
 #include "services/AjustesDaEmpresa.h"
 #include "services/Banco.h"
 #include "services/Demonstracao.h"
+#include "services/Estacao.h"
 #include "services/ExportacaoFiscal.h"
 #include "services/FichaDaVenda.h"
 #include "services/RegistrarServicos.h"
@@ -229,7 +230,9 @@ class Application {
     } else if (address.empty()) {
       address = "sqlite:" + (fs::path(Made(UserFolder())) / kDefaultDatabase).string();
     }
-    const auto bank = services::AbrirBanco(address, desktop_, desktop_.ComputerName());
+    // A script leaves nothing but its pictures.
+    const std::string mark = IsScripted() ? "" : services::MarcaDaEstacao(desktop_.ModuleFolder());
+    const auto bank = services::AbrirBanco(address, desktop_, desktop_.ComputerName(), mark);
     bank->Sessao().WhileWaiting([this] { desktop_.Paint(); });
     services::RegistrarServicos(bank, [this] { desktop_.ProcessEvents(); });
     siblings::RegistrarTelas();

@@ -11,6 +11,7 @@
 #include "tools/roteiro/StandIns.h"
 #ifdef CAIXA_SERVICES
 #include "services/Banco.h"
+#include "services/Estacao.h"
 #include "services/ExportacaoFiscal.h"
 #include "services/RegistrarServicos.h"
 #endif
@@ -63,7 +64,8 @@ void UseSuite(StandIns& standIns) {
 #if defined(CAIXA_SERVICES) && defined(CAIXA_SIBLINGS)
 void UseDatabase(const Options& options, StandIns& standIns, platform::Desktop& desktop) {
   services::RegistrarServicos(
-      services::AbrirBanco(options.database, desktop, desktop.ComputerName()));
+      services::AbrirBanco(options.database, desktop, desktop.ComputerName(),
+                           services::MarcaDaEstacao(desktop.ModuleFolder())));
   services::RegistrarExportacaoFiscal(ExchangeFolder(options, desktop), desktop,
                                       desktop.ComputerName(), frame::ExibirRelato);
   UseSuite(standIns);
