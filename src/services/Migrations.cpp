@@ -365,6 +365,24 @@ CREATE TABLE tentativas_de_login (
 ){keyed};
 )sql";
 
+/// Workstations of one name are told apart, and an operation is written once: the number that tells
+/// it from every other one is unique among sales, and among the movements that are no part of a
+/// sale. What was written twice nevertheless stays, under a number far from those that are drawn.
+constexpr std::string_view kMarksAndOperations = R"sql(
+ALTER TABLE travas_de_clientes ADD COLUMN marca {text} NOT NULL DEFAULT '';
+
+UPDATE vendas SET operacao = -4611686018427387904 - numero WHERE numero IN
+  (SELECT numero FROM (SELECT numero, row_number() OVER (PARTITION BY operacao ORDER BY numero)
+    AS vez FROM vendas) v WHERE vez > 1);
+CREATE UNIQUE INDEX vendas_por_operacao ON vendas (operacao);
+
+UPDATE lancamentos_de_caixa SET operacao = -4611686018427387904 - numero WHERE numero IN
+  (SELECT numero FROM (SELECT numero, row_number() OVER (PARTITION BY operacao ORDER BY numero)
+    AS vez FROM lancamentos_de_caixa WHERE numero_da_venda IS NULL) l WHERE vez > 1);
+CREATE UNIQUE INDEX movimentos_por_operacao ON lancamentos_de_caixa (operacao)
+  WHERE numero_da_venda IS NULL;
+)sql";
+
 /// The index of a table's names keeps no copy of them: it follows its table through triggers.
 constexpr std::string_view kSearchOnSqlite = R"sql(
 CREATE VIRTUAL TABLE {t}_busca USING fts5(nome_busca, content='{t}', content_rowid='{k}',
@@ -396,6 +414,7 @@ constexpr Migration kMigrations[] = {
     {1, kFirstTables, kFirstNames},
     {2, kDocumentsAndEstimates, {}},
     {3, kSignInAttempts, {}},
+    {4, kMarksAndOperations, {}},
 };
 
 }  // namespace

@@ -1,17 +1,30 @@
 #include "services/RegistroDeVenda.h"
 
 #include "base/Numbers.h"
+#include "services/Banco.h"
 #include "services/Caixas.h"
 #include "services/DatabaseError.h"
 #include "services/EscritaDeVenda.h"
+#include "services/LimiteDeCredito.h"
 #include "services/Outcome.h"
 
 namespace services {
 namespace {
 
+void ExplainLimit(Session& session, const Venda& venda) {
+  const base::Currency onCredit = venda.SujeitoAoLimite();
+  if (onCredit.IsZero()) return;
+  const auto limit = LerLimiteDeCredito(session, venda.codigoDoCliente);
+  if (!limit || limit->Cobre(onCredit)) return;
+  throw Refusal{.sentence = "O cliente tem agora " + base::FormatMoney(limit->Disponivel()) +
+                            " do limite de crédito, que não cobre os " +
+                            base::FormatMoney(onCredit) +
+                            " a crédito (fiado). Nada foi registrado; refaça o pagamento."};
+}
+
 /// The sale could not be written as it stands. Throws the refusal that says why; returns when
 /// whatever was in the way has gone meanwhile.
-void Explain(Session& session, const Venda& venda) {
+void Explain(Session& session, const Venda& venda, const Estacao& estacao) {
   static const Statement customer("SELECT credito FROM clientes WHERE codigo = $1");
   static const Statement preSale(
       "SELECT 1 FROM pre_vendas WHERE numero = $1 AND codigo_do_cliente = $2"
@@ -31,11 +44,18 @@ void Explain(Session& session, const Venda& venda) {
                               " não está cadastrado. Limpe os campos e selecione o cliente de "
                               "novo."};
   }
+  const std::string holder = OutroDetentor(session, venda.codigoDoCliente, estacao);
+  if (!holder.empty()) {
+    throw Refusal{.sentence = "Este cliente está em atendimento com " + holder +
+                              ". A venda não foi registrada; aguarde o fim do atendimento e refaça "
+                              "o pagamento."};
+  }
   if (credit < venda.creditoUsado) {
     throw Refusal{.sentence = "O crédito do cliente agora é de " + base::FormatMoney(credit) +
                               " e não cobre os " + base::FormatMoney(venda.creditoUsado) +
                               " informados. Nada foi registrado; refaça o pagamento."};
   }
+  ExplainLimit(session, venda);
   for (const Venda::Item& item : venda.itens) {
     if (item.numeroDeLancamento == 0) continue;
     if (session.Select(preSale, {item.numeroDeLancamento, venda.codigoDoCliente},
@@ -50,14 +70,16 @@ void Explain(Session& session, const Venda& venda) {
 }
 
 /// Nothing when the database did not let the sale in; it is then as it was before.
-std::optional<std::int32_t> TryToWrite(Session& session, const Venda& venda) {
+std::optional<std::int32_t> TryToWrite(Session& session, const Venda& venda,
+                                       const Estacao& estacao) {
   static const Statement proof("SELECT 1 FROM vendas WHERE numero = $1 AND operacao = $2");
   struct NotLetIn {};
   std::int32_t number = 0;
   try {
     InTransaction(session, [&](Transaction& transaction) {
-      const auto written = session.Kind() == Engine::kSqlite ? EscreverNoSqlite(session, venda)
-                                                             : EscreverNoPostgres(session, venda);
+      const auto written = session.Kind() == Engine::kSqlite
+                               ? EscreverNoSqlite(session, venda, estacao)
+                               : EscreverNoPostgres(session, venda, estacao);
       if (!written) throw NotLetIn{};
       number = *written;
       transaction.ProvedBy(proof, {number, venda.operacao});
@@ -70,11 +92,13 @@ std::optional<std::int32_t> TryToWrite(Session& session, const Venda& venda) {
 
 }  // namespace
 
-std::int32_t RegistrarVenda(Session& session, const Venda& venda) {
+std::int32_t RegistrarVenda(Banco& banco, const Venda& venda) {
+  Session& session = banco.Sessao();
+  const Estacao estacao{banco.Computador(), banco.Marca()};
   constexpr int kAttempts = 3;
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    if (const auto number = TryToWrite(session, venda)) return *number;
-    Explain(session, venda);
+    if (const auto number = TryToWrite(session, venda, estacao)) return *number;
+    Explain(session, venda, estacao);
   }
   throw DatabaseError(Trouble::kConflict, "vendas");
 }

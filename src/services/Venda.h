@@ -50,6 +50,7 @@ struct Venda {
   base::Currency custo, comissao, lucroEmValor, lucroEmPercentual;
   base::Currency creditoAnterior;
   std::string observacao, chaveSat;
+  bool alemDoLimite = false;  ///< Who sells may let the customer owe more than his limit.
   std::vector<Item> itens;
   std::vector<Recebimento> recebimentos;
 
@@ -66,6 +67,10 @@ struct Venda {
       if (each.moeda == moeda) total += each.valor;
     }
     return total;
+  }
+  /// What the limit of the customer's credit has to cover.
+  base::Currency SujeitoAoLimite() const {
+    return alemDoLimite ? base::Currency() : RecebidoEm(kACredito);
   }
   /// By how much the money in the drawer grows.
   base::Currency VariacaoDoDinheiro() const { return RecebidoEm(kDinheiro) - troco; }

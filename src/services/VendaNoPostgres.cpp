@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "services/DatabaseError.h"
 #include "services/EscritaDeVenda.h"
+#include "services/Search.h"
 #include "services/TabelasDaVenda.h"
 
 namespace services {
@@ -13,10 +14,25 @@ namespace {
 // are there to take. Only when all of that is done does the sale get its number, since a number
 // that was drawn is gone whatever becomes of the sale: so none is missing. {1} and {2} are places.
 
+/// Whoever takes a customer from now on waits for the end of the transaction: the lock refers to
+/// this row. It stands before the sale's own statement, which so sees every lock and debt that was
+/// there before.
+const Statement& HoldCustomer() {
+  static const Statement hold("SELECT 1 FROM clientes WHERE codigo = $1 FOR UPDATE");
+  return hold;
+}
+
 constexpr std::string_view kMoney =
     "WITH caixa AS (UPDATE caixas SET dinheiro = dinheiro + CAST($2 AS bigint)"
-    " WHERE numero = CAST($1 AS integer) AND ativo = 1 AND aberto = 1 RETURNING numero),";
-constexpr int kFirstPlaces = 3;
+    " WHERE numero = CAST($1 AS integer) AND ativo = 1 AND aberto = 1"
+    " AND NOT EXISTS (SELECT 1 FROM travas_de_clientes"
+    " WHERE codigo_do_cliente = CAST($3 AS integer) AND {held})"
+    " AND (CAST($6 AS bigint) = 0 OR NOT EXISTS (SELECT 1 FROM clientes c"
+    " WHERE c.codigo = CAST($3 AS integer) AND c.limite_de_credito > 0"
+    " AND c.limite_de_credito - (SELECT coalesce(sum(r.valor_do_documento), 0)"
+    " FROM contas_a_receber r WHERE r.codigo_do_cliente = c.codigo"
+    " AND r.data_de_recebimento IS NULL) < CAST($6 AS bigint))) RETURNING numero),";
+constexpr int kFirstPlaces = 6;
 constexpr std::string_view kCredit =
     " cliente AS (UPDATE clientes SET credito = credito - CAST({1} AS bigint) + CAST({2} AS bigint)"
     " WHERE codigo = CAST($3 AS integer) AND credito >= CAST({1} AS bigint)"
@@ -72,7 +88,7 @@ constexpr std::size_t kPreSalesBit = kMostTables + 1;
 
 std::string SaleText(Used used) {
   int next = kFirstPlaces + 1;
-  std::string text(kMoney);
+  std::string text = base::Replace(kMoney, "{held}", DeOutraEstacao(4, 5));
   text += used[kCreditBit] ? Placed(Placed(kCredit, "{1}", next), "{2}", next) : kNoCredit;
   text += used[kPreSalesBit] ? Placed(kPreSales, "{1}", next) : kNoPreSales;
   std::string sale = Placed(base::Replace(kSale, "{names}", Nomes(ColunasDaVenda())), "{1}", next);
@@ -132,8 +148,10 @@ std::string ArrayOf(const std::vector<std::int32_t>& numbers) {
 }
 
 /// In the order of the places.
-Params SaleParams(const Venda& venda, const Rows& rows, Used used) {
-  Params params{venda.numeroDoCaixa, venda.VariacaoDoDinheiro(), venda.codigoDoCliente};
+Params SaleParams(const Venda& venda, const Estacao& estacao, const Rows& rows, Used used) {
+  Params params{venda.numeroDoCaixa,   venda.VariacaoDoDinheiro(),
+                venda.codigoDoCliente, ComputerForm(estacao.nome),
+                estacao.marca,         venda.SujeitoAoLimite()};
   if (used[kCreditBit]) {
     params.emplace_back(venda.creditoUsado);
     params.emplace_back(venda.creditoMantido);
@@ -153,7 +171,8 @@ Params SaleParams(const Venda& venda, const Rows& rows, Used used) {
 
 }  // namespace
 
-std::optional<std::int32_t> EscreverNoPostgres(Session& session, const Venda& venda) {
+std::optional<std::int32_t> EscreverNoPostgres(Session& session, const Venda& venda,
+                                               const Estacao& estacao) {
   Rows rows;
   Used used;
   for (const TabelaDaVenda& table : TabelasDaVenda()) {
@@ -164,8 +183,11 @@ std::optional<std::int32_t> EscreverNoPostgres(Session& session, const Venda& ve
   used.set(kPreSalesBit, !venda.PreVendas().empty());
   std::optional<std::int32_t> number;
   try {
-    session.Select(SaleInto(used), SaleParams(venda, rows, used),
-                   [&](const Row& row) { number = row.Number(0); });
+    std::vector<Request> requests;
+    requests.push_back({HoldCustomer(), Params(1, Param(venda.codigoDoCliente))});
+    requests.push_back({SaleInto(used), SaleParams(venda, estacao, rows, used),
+                        [&](const Row& row) { number = row.Number(0); }});
+    session.RunTogether(requests);
   } catch (const DatabaseError& error) {
     if (error.What() != Trouble::kConstraint) throw;
   }

@@ -2,6 +2,7 @@
 
 #include "services/DatabaseError.h"
 #include "services/EscritaDeVenda.h"
+#include "services/LimiteDeCredito.h"
 #include "services/Preenchimento.h"
 #include "services/TabelasDaVenda.h"
 
@@ -21,6 +22,15 @@ Params Joined(const Params& first, const Params& rest) {
   all.insert(all.end(), first.begin(), first.end());
   all.insert(all.end(), rest.begin(), rest.end());
   return all;
+}
+
+/// The file is this transaction's alone: what is found stays so until it ends.
+bool MayBuy(Session& session, const Venda& venda, const Estacao& estacao) {
+  if (!OutroDetentor(session, venda.codigoDoCliente, estacao).empty()) return false;
+  const base::Currency onCredit = venda.SujeitoAoLimite();
+  if (onCredit.IsZero()) return true;
+  const auto limit = LerLimiteDeCredito(session, venda.codigoDoCliente);
+  return limit && limit->Cobre(onCredit);
 }
 
 bool TakeMoney(Session& session, const Venda& venda) {
@@ -69,8 +79,10 @@ bool SettlePreSales(Session& session, const Venda& venda, std::int32_t number) {
 
 }  // namespace
 
-std::optional<std::int32_t> EscreverNoSqlite(Session& session, const Venda& venda) {
+std::optional<std::int32_t> EscreverNoSqlite(Session& session, const Venda& venda,
+                                             const Estacao& estacao) {
   try {
+    if (!MayBuy(session, venda, estacao)) return std::nullopt;
     if (!TakeMoney(session, venda)) return std::nullopt;
     const std::int32_t number = InsertSale(session, venda);
     const Params ofThisSale(1, Param(number));

@@ -123,9 +123,10 @@ class clsCaixa : public SobreBanco<Contrato> {
       venda.itens = LerItens(itens_);
       venda.recebimentos = LerRecebimentos(pagamentos_);
       FecharContas(venda, troco_);
+      venda.alemDoLimite = !venda.RecebidoEm(kACredito).IsZero() && EAdministrador();
       venda.quando = banco().Agora();
       venda.operacao = NumeroUnico();
-      numeroDaVenda_ = RegistrarVenda(sessao(), venda);
+      numeroDaVenda_ = RegistrarVenda(banco(), venda);
     });
   }
   std::int32_t NumeroDaVenda() override { return numeroDaVenda_; }
@@ -144,6 +145,10 @@ class clsCaixa : public SobreBanco<Contrato> {
 
  private:
   enum class Sinal { kPodeSerZero, kPositivo };
+
+  bool EAdministrador() const {
+    return dados() != nullptr && base::ToBool(dados()->Field("Administrador"));
+  }
 
   base::Currency Entrando(Sinal sinal) const {
     const base::Currency valor = LerValor(valor_, kValorDoMovimento);

@@ -1,6 +1,7 @@
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
 #include "services/Fabricas.h"
+#include "services/LimiteDeCredito.h"
 #include "services/NameSearch.h"
 #include "services/Search.h"
 #include "services/SobreBanco.h"
@@ -65,21 +66,16 @@ class clsClientes : public SobreBanco<Contrato> {
                                                     base::Currency& utilizado,
                                                     base::Currency& disponivel) override {
     return Numerado("RetornarInformacoesDoLimiteDeCredito", [&] {
-      static const Statement select(
-          "SELECT limite_de_credito, (SELECT CAST(coalesce(sum(valor_do_documento), 0) AS bigint)"
-          " FROM contas_a_receber r WHERE r.codigo_do_cliente = c.codigo"
-          " AND r.data_de_recebimento IS NULL) FROM clientes c WHERE c.codigo = $1");
-      const auto found = sessao().Select(select, {CodeIn(codigo).value_or(0)}, [&](const Row& row) {
-        limite = row.Money(0);
-        utilizado = row.Money(1);
-        disponivel = limite - utilizado;
-      });
+      const auto credito = LerLimiteDeCredito(sessao(), CodeIn(codigo).value_or(0));
       // Without a limit of his own a customer may buy on credit at will, so this may not pass as
       // one.
-      if (found == 0) {
+      if (!credito) {
         throw base::RuntimeError(
             5, "Não há cliente cadastrado com o código " + base::ToText(codigo) + ".");
       }
+      limite = credito->limite;
+      utilizado = credito->utilizado;
+      disponivel = credito->Disponivel();
     });
   }
 

@@ -132,14 +132,15 @@ void OverDatabase::Open() {
   RegistrarServicos(banco_);
 }
 
-pid_t OverDatabase::Start(const std::string& computer, const std::function<int()>& work) {
+pid_t OverDatabase::Start(const std::string& computer, const std::function<int()>& work,
+                          const std::string& mark) {
   servicos::EsquecerTodos();
   banco_.reset();
   const pid_t process = fork();
   if (process == 0) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     try {
-      banco_ = Another(computer);
+      banco_ = Another(computer, mark);
       RegistrarServicos(banco_);
       _exit(work());
     } catch (const std::exception& error) {
@@ -178,8 +179,8 @@ std::int64_t OverDatabase::Count(const std::string& table) {
   return base::ToInt32(base::Val(Read("SELECT count(*) FROM " + table)));
 }
 
-std::shared_ptr<Banco> OverDatabase::Another(const std::string& computer) {
-  return AbrirBanco(address_, clock_, computer);
+std::shared_ptr<Banco> OverDatabase::Another(const std::string& computer, const std::string& mark) {
+  return AbrirBanco(address_, clock_, computer, mark);
 }
 
 void OverDatabase::ExpectBooksBalance() {

@@ -40,14 +40,17 @@ class StoppedClock : public base::Clock {
 /// The session record as a host hands it over.
 class SessionRecord : public base::Record {
  public:
-  explicit SessionRecord(std::string user) : user_(std::move(user)) {}
+  explicit SessionRecord(std::string user, bool administrator = false)
+      : user_(std::move(user)), administrator_(administrator) {}
   base::Value Field(std::string_view name) const override {
     if (name == "NomeDeUsuario") return user_;
+    if (name == "Administrador") return administrator_;
     throw base::RuntimeError(base::Fault::kIndexOutOfRange);
   }
 
  private:
   std::string user_;
+  bool administrator_;
 };
 
 /// A grid of texts under a header row, as a screen holds it.
@@ -127,10 +130,11 @@ class OverDatabase : public testing::TestWithParam<Engine> {
     InTransaction(session(), [&](Transaction&) { InsertRows(session(), table, columns, rows); });
   }
   /// Another connection to the same database, as another computer has.
-  std::shared_ptr<Banco> Another(const std::string& computer);
+  std::shared_ptr<Banco> Another(const std::string& computer, const std::string& mark = {});
   /// Starts a process that does `work` over services of its own and ends with its answer. This
   /// one's connection is closed meanwhile, for none may be carried into another process.
-  pid_t Start(const std::string& computer, const std::function<int()>& work);
+  pid_t Start(const std::string& computer, const std::function<int()>& work,
+              const std::string& mark = {});
   /// Waits for a process; its answer, or -1 when it was killed.
   static int EndOf(pid_t process);
 

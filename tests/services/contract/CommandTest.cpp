@@ -63,7 +63,9 @@ TEST_P(CommandTest, ListsASaleWithItsItemsTendersAndChange) {
 
 TEST_P(CommandTest, ListsAndFreesLocks) {
   EXPECT_EQ("0 Nenhum cliente em atendimento.\n", OnDatabase("travas"));
-  Write("INSERT INTO travas_de_clientes VALUES (5, 'LOJA', 'LOJA', 'caio', '2026-11-22 08:00:00')");
+  Write(
+      "INSERT INTO travas_de_clientes (codigo_do_cliente, nome_do_computador, computador_busca,"
+      " nome_do_usuario, data_e_hora) VALUES (5, 'LOJA', 'LOJA', 'caio', '2026-11-22 08:00:00')");
   EXPECT_EQ("0 5 - Dudu, com caio no computador LOJA desde 22/11/2026 08:00:00\n",
             OnDatabase("travas"));
   EXPECT_EQ("0 O cliente 5 foi liberado.\n", OnDatabase("liberar 5"));

@@ -75,6 +75,32 @@ TEST_P(CustomerTest, OneComputerAtATimeHoldsACustomer) {
             Lock("LOJA", "paulo", 77));
 }
 
+TEST_P(CustomerTest, TwoComputersOfOneNameAreTwo) {
+  const auto at = [&](const std::string& mark) {
+    banco_ = Another("RECEPCAO", mark);
+    RegistrarServicos(banco_);
+  };
+  Write(
+      "INSERT INTO travas_de_clientes (codigo_do_cliente, nome_do_computador, computador_busca,"
+      " nome_do_usuario, data_e_hora) VALUES (5, 'Recepcao', 'RECEPCAO', 'caio',"
+      " '2026-11-22 08:00:00')");
+  at("aaaa");
+  EXPECT_EQ("caio@Recepcao", Holder()) << "an older version's lock may be its own";
+  EXPECT_EQ("", Lock("RECEPCAO", "renata"));
+  at("bbbb");
+  EXPECT_EQ("renata@RECEPCAO (outro computador)", Holder());
+  EXPECT_EQ(
+      "Este cliente está em atendimento com renata no computador RECEPCAO (outro computador). "
+      "Aguarde o fim do atendimento.",
+      Lock("RECEPCAO", "paulo"));
+  EXPECT_EQ(servicos::kRecusa, Free(""));
+  at("");
+  EXPECT_EQ("renata@RECEPCAO", Holder()) << "without a mark the name alone counts";
+  at("aaaa");
+  EXPECT_EQ(0, Free(""));
+  EXPECT_EQ("", Holder());
+}
+
 TEST_P(CustomerTest, TheLimitIsLoweredByWhatIsOpen) {
   Write("UPDATE clientes SET limite_de_credito = 5000000 WHERE codigo = 5");
   Debt("2026-12-01", "4000000");

@@ -103,6 +103,57 @@ TEST_P(SaleTest, EveryTenderOnCreditIsAReceivable) {
   EXPECT_EQ("28/02/2027", UltimasVendas(*banco_, 1)[0].recebimentos[1].vencimento);
 }
 
+TEST_P(SaleTest, WhomAnotherWorkstationServesBuysThereAlone) {
+  const auto held = [&](const std::string& computer, const std::string& mark) {
+    Write(
+        "DELETE FROM travas_de_clientes;"
+        "INSERT INTO travas_de_clientes (codigo_do_cliente, nome_do_computador, computador_busca,"
+        " marca, nome_do_usuario, data_e_hora) VALUES (5, '" +
+        computer + "', '" + computer + "', '" + mark + "', 'caio', '2026-11-22 08:00:00')");
+  };
+  banco_ = Another("recepcao", "aaaa");
+  RegistrarServicos(banco_);
+  const NewSale sale{Sale{}};
+  const auto refused = [](const std::string& where) {
+    return "Este cliente está em atendimento com caio no computador " + where +
+           ". A venda não foi registrada; aguarde o fim do atendimento e refaça o pagamento.";
+  };
+  held("LOJA", "");
+  EXPECT_EQ(servicos::kRecusa, sale->RegistrarPagamento());
+  EXPECT_EQ(refused("LOJA"), sale->DescricaoDaFalha());
+  held("RECEPCAO", "bbbb");
+  EXPECT_EQ(servicos::kRecusa, sale->RegistrarPagamento());
+  EXPECT_EQ(refused("RECEPCAO (outro computador)"), sale->DescricaoDaFalha());
+  EXPECT_EQ(0, Count("vendas"));
+  held("RECEPCAO", "aaaa");
+  EXPECT_EQ(1, Register({}));
+  EXPECT_EQ("caio", Read("SELECT nome_do_usuario FROM travas_de_clientes WHERE marca = 'aaaa'"))
+      << "a sale leaves the locks as it found them";
+}
+
+TEST_P(SaleTest, TheLimitOfCreditCountsWhenTheSaleIsWritten) {
+  Write("UPDATE clientes SET limite_de_credito = 1000000 WHERE codigo = 5");
+  const Sale sale{.tenders = Grid({Tender("8-PIX", "39,99"),
+                                   Tender("6-A crédito (Fiado)", "60,01", "28/02/2027")})};
+  Register(sale);
+  const NewSale second(sale);
+  EXPECT_EQ(servicos::kRecusa, second->RegistrarPagamento());
+  EXPECT_EQ(
+      "O cliente tem agora 39,99 do limite de crédito, que não cobre os 60,01 a crédito (fiado). "
+      "Nada foi registrado; refaça o pagamento.",
+      second->DescricaoDaFalha());
+  Register({.tenders = Grid(
+                {Tender("8-PIX", "60,01"), Tender("6-A crédito (Fiado)", "39,99", "28/02/2027")})});
+  const SessionRecord caio("caio");
+  const SessionRecord marina("marina", true);
+  second->DadosDoUsuario(&caio);
+  EXPECT_EQ(servicos::kRecusa, second->RegistrarPagamento());
+  second->DadosDoUsuario(&marina);
+  EXPECT_EQ(0, second->RegistrarPagamento()) << second->DescricaoDaFalha();
+  Write("UPDATE clientes SET limite_de_credito = 0");
+  Register(sale);
+}
+
 TEST_P(SaleTest, ASaleOfNothingNeedsNoTender) {
   Register({.lines = Grid({ProductLine("0,00")}), .tenders = Grid({Tender("", "")}), .net = 0_brl});
   EXPECT_EQ(0, Count("lancamentos_de_caixa"));
