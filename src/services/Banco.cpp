@@ -1,6 +1,13 @@
 #include "services/Banco.h"
 
+#include <algorithm>
+#include <exception>
+
+#include "services/DatabaseError.h"
+#include "services/Outcome.h"
+#include "services/Registros.h"
 #include "services/Session.h"
+#include "services/Travas.h"
 
 namespace services {
 
@@ -8,13 +15,59 @@ Banco::Banco(std::unique_ptr<Session> sessao, const base::Clock& relogio, std::s
              std::string marca)
     : sessao_(std::move(sessao)),
       relogio_(relogio),
-      computador_(computador.empty() ? "N" : std::move(computador)),
-      marca_(std::move(marca)) {}
+      estacao_{computador.empty() ? "N" : std::move(computador), std::move(marca)},
+      registros_(std::make_unique<services::Registros>(*this)) {
+  sessao_->OnReconnected([this] { TratarPendente(); });
+}
 
 Banco::~Banco() = default;
 
 void Banco::Avisar(const std::string& frase) {
   if (aoAvisar_) aoAvisar_(frase);
+}
+
+void Banco::LiberarDepois(std::int32_t codigo, const services::Estacao& estacao) {
+  NaoLiberar(codigo);
+  liberacoes_.push_back({codigo, estacao});
+}
+
+void Banco::NaoLiberar(std::int32_t codigo) {
+  std::erase_if(liberacoes_, [codigo](const Liberacao& each) { return each.codigo == codigo; });
+}
+
+bool Banco::TemPendente() const {
+  return !liberacoes_.empty() || registros_->HaDuvida();
+}
+
+void Banco::CuidarDoPendente() noexcept {
+  if (usos_ > 0 || !TemPendente()) return;
+  const Uso uso(*this);
+  // A connection that is made again does the work by itself.
+  if (sessao_->IsConnected() || sessao_->TryToReconnect()) TratarPendente();
+}
+
+void Banco::TratarPendente() noexcept {
+  if (tratando_ || !TemPendente()) return;
+  tratando_ = true;
+  try {
+    registros_->Apurar();
+    LiberarClientes();
+  } catch (const std::exception&) {
+    // Still away: another time.
+  }
+  tratando_ = false;
+}
+
+void Banco::LiberarClientes() {
+  while (!liberacoes_.empty()) {
+    const Liberacao proxima = liberacoes_.front();
+    try {
+      DestravarCliente(*this, proxima.codigo, proxima.estacao);
+    } catch (const Refusal&) {
+      // Another workstation serves him by now.
+    }
+    NaoLiberar(proxima.codigo);
+  }
 }
 
 }  // namespace services

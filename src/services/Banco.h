@@ -7,12 +7,15 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "base/Clock.h"
 #include "base/Record.h"
+#include "services/Estacao.h"
 
 namespace services {
 
+class Registros;
 class Session;
 
 /// Why a database could not be opened or created. `what()` is one Portuguese sentence or two for
@@ -57,8 +60,11 @@ class Banco {
 
   Session& Sessao() { return *sessao_; }
   base::DateTime Agora() const { return relogio_.Now(); }
-  const std::string& Computador() const { return computador_; }
-  const std::string& Marca() const { return marca_; }
+  /// Seconds that only grow.
+  double Decorridos() const { return relogio_.Elapsed(); }
+  const std::string& Computador() const { return estacao_.nome; }
+  const std::string& Marca() const { return estacao_.marca; }
+  const services::Estacao& Estacao() const { return estacao_; }
   /// Lets the events of the screens run that have arrived; it may throw what unwinds them. Empty
   /// where there is no screen to keep alive.
   const std::function<void()>& CorrerEventos() const { return correrEventos_; }
@@ -80,15 +86,51 @@ class Banco {
   std::int32_t ClienteEmAtendimento() const { return clienteEmAtendimento_; }
   void ClienteEmAtendimento(std::int32_t codigo) { clienteEmAtendimento_ = codigo; }
 
+  /// What became of what this program registered.
+  services::Registros& Registros() { return *registros_; }
+  /// A customer could not be freed for now: it is done as soon as the database is there, unless
+  /// this computer takes him again before.
+  void LiberarDepois(std::int32_t codigo, const services::Estacao& estacao);
+  void NaoLiberar(std::int32_t codigo);
+  /// Whether something waits for the database: a customer to be freed, a registration in doubt.
+  bool TemPendente() const;
+  /// Takes up what waits, as soon as the database is there; it is also done whenever a connection
+  /// was made again. For a host's timer, every few seconds, and at rest alone: within an operation
+  /// of a service it does nothing. It may take 10 s, and keeps the screens alive meanwhile.
+  void CuidarDoPendente() noexcept;
+
+  /// One operation of a service.
+  class Uso {
+   public:
+    explicit Uso(Banco& banco) : banco_(banco) { ++banco_.usos_; }
+    ~Uso() { --banco_.usos_; }
+    Uso(const Uso&) = delete;
+    Uso& operator=(const Uso&) = delete;
+
+   private:
+    Banco& banco_;
+  };
+
  private:
+  struct Liberacao {
+    std::int32_t codigo;
+    services::Estacao estacao;
+  };
+
+  void TratarPendente() noexcept;
+  void LiberarClientes();
+
   std::unique_ptr<Session> sessao_;
   const base::Clock& relogio_;
-  std::string computador_;
-  std::string marca_;
+  services::Estacao estacao_;
   std::function<void()> correrEventos_;
   std::function<void(const std::string&)> aoAvisar_;
   const base::Record* sessaoDoUsuario_ = nullptr;
   std::int32_t clienteEmAtendimento_ = 0;
+  std::unique_ptr<services::Registros> registros_;
+  std::vector<Liberacao> liberacoes_;
+  int usos_ = 0;
+  bool tratando_ = false;
 };
 
 /// Opens a database that CriarBanco has created, by its address: "sqlite:FILE", or "postgresql:"

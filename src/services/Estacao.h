@@ -4,6 +4,12 @@
 
 namespace services {
 
+/// A workstation: its computer's name, and what tells it from others of that name.
+struct Estacao {
+  std::string nome;
+  std::string marca;  ///< Empty where the host gave none.
+};
+
 /// The random mark that tells this workstation from any other of the same name: 16 hexadecimal
 /// digits in the file `estacao.id` of its settings folder, which is made, readable by its owner
 /// alone, when it is missing or damaged. Whoever copies the folder to another computer leaves the

@@ -4,7 +4,7 @@
 #include "services/Caixas.h"
 #include "services/DatabaseError.h"
 #include "services/Outcome.h"
-#include "services/Senhas.h"
+#include "services/Registros.h"
 #include "services/Session.h"
 #include "services/Venda.h"
 
@@ -33,38 +33,68 @@ void Explain(Session& session, const Movimento& movement) {
   });
 }
 
-void Write(Banco& banco, const Movimento& movement, Transaction& transaction) {
+Params RowOf(const Movimento& movement) {
+  return {movement.operacao,  movement.numeroDoCaixa,
+          movement.quando,    static_cast<std::int32_t>(movement.tipo),
+          movement.moeda,     movement.valor,
+          movement.descricao, movement.operador,
+          movement.situacao,  movement.observacao};
+}
+
+void Write(Session& session, const Movimento& movement, Transaction& transaction) {
   static const Statement move(
       "UPDATE caixas SET aberto = $2, dinheiro = dinheiro + $3 WHERE numero = $1 AND ativo = 1"
       " AND aberto = $4 AND (CAST($3 AS bigint) >= 0 OR dinheiro + $3 >= 0)");
   static const Statement enter(
       "INSERT INTO lancamentos_de_caixa (operacao, numero_do_caixa, data_e_hora, tipo, moeda,"
       " valor, descricao, operador, situacao, observacao)"
-      " VALUES ($1, $2, $3, $4, $5, $6, $7, $8, $9, $10) RETURNING numero");
+      " VALUES ($1, $2, $3, $4, $5, $6, $7, $8, $9, $10)");
   static const Statement proof(
-      "SELECT 1 FROM lancamentos_de_caixa WHERE numero = $1 AND operacao = $2");
-  Session& session = banco.Sessao();
+      "SELECT 1 FROM lancamentos_de_caixa WHERE operacao = $1 AND numero_da_venda IS NULL");
   const base::Currency cash = movement.moeda == kDinheiro ? movement.valor : base::Currency();
   if (session.Run(move, {movement.numeroDoCaixa, LeavesRegisterOpen(movement.tipo), cash,
                          NeedsOpenRegister(movement.tipo)}) == 0) {
     Explain(session, movement);
     throw DatabaseError(Trouble::kConflict, "caixas");
   }
-  const auto operation = NumeroUnico();
-  std::int32_t number = 0;
-  session.Select(enter,
-                 {operation, movement.numeroDoCaixa, banco.Agora(),
-                  static_cast<std::int32_t>(movement.tipo), movement.moeda, movement.valor,
-                  movement.descricao, movement.operador, movement.situacao, movement.observacao},
-                 [&](const Row& row) { number = row.Number(0); });
-  transaction.ProvedBy(proof, {number, operation});
+  session.Run(enter, RowOf(movement));
+  transaction.ProvedBy(proof, {movement.operacao});
+}
+
+/// How the operator is told of a movement.
+Registro Told(const Movimento& movement) {
+  const std::string drawer = "caixa " + std::to_string(movement.numeroDoCaixa);
+  const std::string value = base::FormatMoney(base::Abs(movement.valor));
+  Registro told{.oQue = "", .quando = movement.quando, .conteudo = {}};
+  switch (movement.tipo) {
+    case TipoDeLancamento::kAbertura:
+      told.oQue = "abertura do " + drawer + " com " + value;
+      break;
+    case TipoDeLancamento::kFechamento:
+      told.oQue = "fechamento do " + drawer + " com retirada de " + value;
+      told.artigo = 'o';
+      break;
+    case TipoDeLancamento::kSaida:
+      told.oQue = "saída de " + value + " do " + drawer;
+      break;
+    default:
+      told.oQue = "entrada de " + value + " no " + drawer;
+  }
+  told.conteudo = [same = movement]() mutable {
+    same.operacao = 0;
+    same.quando = {};
+    return ConteudoDe({RowOf(same)});
+  };
+  return told;
 }
 
 }  // namespace
 
 void RegistrarMovimento(Banco& banco, const Movimento& movimento) {
-  InTransaction(banco.Sessao(),
-                [&](Transaction& transaction) { Write(banco, movimento, transaction); });
+  banco.Registros().Registrar(Told(movimento), [&](std::int32_t&) {
+    InTransaction(banco.Sessao(),
+                  [&](Transaction& transaction) { Write(banco.Sessao(), movimento, transaction); });
+  });
 }
 
 }  // namespace services

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Currency.h"
+#include "base/DateTime.h"
 #include "services/Banco.h"
 #include "services/Lancamento.h"
 
@@ -11,6 +12,8 @@ namespace services {
 
 /// A movement of a register that is no sale.
 struct Movimento {
+  std::int64_t operacao = 0;  ///< Tells this attempt from every other one.
+  base::DateTime quando;
   TipoDeLancamento tipo = TipoDeLancamento::kEntrada;
   std::int32_t numeroDoCaixa = 0;
   std::int32_t moeda = 1;
@@ -18,9 +21,10 @@ struct Movimento {
   std::string descricao, operador, situacao, observacao;
 };
 
-/// Writes the entry, moves the money in the drawer, opens or closes the register, all in one
-/// transaction. Throws Refusal: 41, 43, 51 or 52 for the register's state, 2 when more money would
-/// leave the drawer than is in it. Throws DatabaseError.
+/// Unless it stands already (see Registros), writes the entry, moves the money in the drawer, opens
+/// or closes the register, all in one transaction. Throws Refusal: 41, 43, 51 or 52 for the
+/// register's state, 2 when more money would leave the drawer than is in it. Throws DatabaseError,
+/// and what Registros does.
 void RegistrarMovimento(Banco& banco, const Movimento& movimento);
 
 }  // namespace services

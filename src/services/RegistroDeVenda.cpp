@@ -7,6 +7,8 @@
 #include "services/EscritaDeVenda.h"
 #include "services/LimiteDeCredito.h"
 #include "services/Outcome.h"
+#include "services/Registros.h"
+#include "services/TabelasDaVenda.h"
 
 namespace services {
 namespace {
@@ -69,12 +71,12 @@ void Explain(Session& session, const Venda& venda, const Estacao& estacao) {
   }
 }
 
-/// Nothing when the database did not let the sale in; it is then as it was before.
-std::optional<std::int32_t> TryToWrite(Session& session, const Venda& venda,
-                                       const Estacao& estacao) {
+/// Whether the database let the sale in; it is as it was before when it did not. The number is set
+/// before that is kept.
+bool TryToWrite(Session& session, const Venda& venda, const Estacao& estacao,
+                std::int32_t& number) {
   static const Statement proof("SELECT 1 FROM vendas WHERE numero = $1 AND operacao = $2");
   struct NotLetIn {};
-  std::int32_t number = 0;
   try {
     InTransaction(session, [&](Transaction& transaction) {
       const auto written = session.Kind() == Engine::kSqlite
@@ -84,23 +86,48 @@ std::optional<std::int32_t> TryToWrite(Session& session, const Venda& venda,
       number = *written;
       transaction.ProvedBy(proof, {number, venda.operacao});
     });
-    return number;
+    return true;
   } catch (const NotLetIn&) {
-    return std::nullopt;
+    return false;
   }
+}
+
+void Write(Session& session, const Venda& venda, const Estacao& estacao, std::int32_t& number) {
+  constexpr int kAttempts = 3;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    if (TryToWrite(session, venda, estacao, number)) return;
+    Explain(session, venda, estacao);
+  }
+  throw DatabaseError(Trouble::kConflict, "vendas");
+}
+
+/// All that the checkout hands over but what differs when the same sale is confirmed again: the
+/// moment and number of the attempt, the credit that the database leaves, the coupon's key.
+std::string ContentOf(Venda venda) {
+  venda.operacao = 0;
+  venda.quando = {};
+  venda.creditoAnterior = {};
+  venda.chaveSat.clear();
+  std::vector<Params> rows{{venda.numeroDoCaixa, venda.codigoDoCliente}, LinhaDaVenda(venda)};
+  for (const TabelaDaVenda& table : TabelasDaVenda()) {
+    for (Params& row : table.linhas(venda)) rows.push_back(std::move(row));
+  }
+  return ConteudoDe(rows);
 }
 
 }  // namespace
 
 std::int32_t RegistrarVenda(Banco& banco, const Venda& venda) {
-  Session& session = banco.Sessao();
-  const Estacao estacao{banco.Computador(), banco.Marca()};
-  constexpr int kAttempts = 3;
-  for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    if (const auto number = TryToWrite(session, venda, estacao)) return *number;
-    Explain(session, venda, estacao);
-  }
-  throw DatabaseError(Trouble::kConflict, "vendas");
+  const std::string& name =
+      venda.apelidoDoCliente.empty() ? venda.nomeDoCliente : venda.apelidoDoCliente;
+  const Registro registro{
+      .oQue = "venda de " + base::FormatMoney(venda.valorLiquido) + " para " + name,
+      .temNumero = true,
+      .quando = venda.quando,
+      .conteudo = [&] { return ContentOf(venda); }};
+  return banco.Registros().Registrar(registro, [&](std::int32_t& number) {
+    Write(banco.Sessao(), venda, banco.Estacao(), number);
+  });
 }
 
 }  // namespace services

@@ -7,6 +7,7 @@
 
 #include "services/Banco.h"
 #include "services/Outcome.h"
+#include "services/Registros.h"
 #include "services/Session.h"
 
 namespace services {
@@ -29,10 +30,17 @@ class SobreBanco : public Contrato {
   base::RecordSetPtr ResultadoDaSelecaoEmRecordSet() override { return outcome_.rows; }
 
  protected:
-  /// Runs an operation of the family with a numbered status.
+  /// Runs an operation of the family with a numbered status. A fault after a registration does not
+  /// leave the operator in doubt of it.
   template <class Operation>
   std::int16_t Numerado(std::string_view membro, Operation operation) {
-    return outcome_.Of(Contrato::kIdentificador, membro, operation);
+    const Banco::Uso uso(*banco_);
+    const std::int16_t status = outcome_.Of(Contrato::kIdentificador, membro, operation);
+    const std::string& registrado = banco_->Registros().Ultimo();
+    if (status == servicos::kErro && !registrado.empty()) {
+      outcome_.description = registrado + ' ' + outcome_.description;
+    }
+    return status;
   }
   /// Runs a selection of the family that answers true on a fault.
   template <class Operation>

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/DateTime.h"
+#include "services/Estacao.h"
 
 namespace services {
 
@@ -23,12 +24,6 @@ struct Trava {
   std::string computador;
   std::string usuario;
   base::DateTime desde;
-};
-
-/// A workstation, as locks know it.
-struct Estacao {
-  std::string nome;
-  std::string marca;  ///< May be empty.
 };
 
 /// Holds a customer for a workstation, which may hold him already. Throws Refusal when another one

@@ -1,6 +1,8 @@
 #include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
+#include "services/DatabaseError.h"
 #include "services/Fabricas.h"
 #include "services/Fields.h"
+#include "services/Registros.h"
 #include "services/Search.h"
 #include "services/SobreBanco.h"
 #include "services/Travas.h"
@@ -42,6 +44,10 @@ class clsAdministrativo : public SobreBanco<Contrato> {
     return Numerado("BloquearCliente", [&] {
       if (dados() == nullptr) throw base::RuntimeError(base::Fault::kObjectNotSet);
       const std::int32_t cliente = CodeIn(codigo).value_or(0);
+      // What was registered before is not told of any more, and whoever is being served again is
+      // not freed.
+      banco().Registros().EsquecerUltimo();
+      banco().NaoLiberar(cliente);
       TravarCliente(banco(), cliente, EstaEstacao(), base::ToText(dados()->Field("NomeDeUsuario")));
       banco().ClienteEmAtendimento(cliente);
     });
@@ -49,8 +55,16 @@ class clsAdministrativo : public SobreBanco<Contrato> {
 
   std::int16_t DesbloquearCliente(std::int16_t, double& codigo, std::int16_t) override {
     banco().ClienteEmAtendimento(0);
-    return Numerado("DesbloquearCliente",
-                    [&] { DestravarCliente(banco(), CodeIn(codigo).value_or(0), EstaEstacao()); });
+    return Numerado("DesbloquearCliente", [&] {
+      const std::int32_t cliente = CodeIn(codigo).value_or(0);
+      try {
+        DestravarCliente(banco(), cliente, EstaEstacao());
+      } catch (const DatabaseError&) {
+        // The module asks once, and does not look at the answer.
+        banco().LiberarDepois(cliente, EstaEstacao());
+        throw;
+      }
+    });
   }
 
  private:

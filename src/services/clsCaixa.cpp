@@ -164,6 +164,8 @@ class clsCaixa : public SobreBanco<Contrato> {
     Movimento movimento = movimento_;
     movimento.tipo = tipo;
     movimento.valor = valor;
+    movimento.quando = banco().Agora();
+    movimento.operacao = NumeroUnico();
     if (movimento.descricao.empty()) movimento.descricao = descricao;
     if (movimento.moeda < kDinheiro || movimento.moeda > kUltimaMoeda) {
       throw Refusal{.sentence = "A forma de pagamento " + std::to_string(movimento.moeda) +

@@ -13,10 +13,12 @@
 #include "desktop/FormView.h"
 #include "desktop/host/MainWindow.h"
 #include "desktop/host/Options.h"
+#include "desktop/host/PendingCare.h"
 #include "desktop/host/Player.h"
 #include "desktop/host/Scripts.h"
 #include "desktop/views/View.h"
 #include "frame/servicos/Servico.h"
+#include "platform/Input.h"
 #include "platform/Screens.h"
 #include "services/Banco.h"
 #include "services/Demonstracao.h"
@@ -98,6 +100,17 @@ TEST_F(HostTest, ClosingAtRestFreesTheCustomerWhoIsBeingServed) {
     window->close();
   });
   EXPECT_TRUE(services::ListarTravas(*bank).empty());
+}
+
+TEST_F(HostTest, WhoCouldNotBeFreedIsFreedAtRest) {
+  const host::PendingCare care(desktop, bank, std::chrono::milliseconds(5));
+  Play(kUpToCustomer, [&] {
+    bank->LiberarDepois(2, bank->Estacao());
+    const auto freed = [this] { return services::ListarTravas(*bank).empty(); };
+    platform::input::Run([&] { EXPECT_FALSE(QTest::qWaitFor(freed, 50)) << "within an act"; });
+    EXPECT_TRUE(QTest::qWaitFor(freed, 60'000));
+    window->close();
+  });
 }
 
 TEST_F(HostTest, ClosingInMidWorkUnwindsFirstAndThenFreesTheCustomer) {

@@ -32,8 +32,9 @@ inline base::Currency Brl(std::string_view text) {
 class StoppedClock : public base::Clock {
  public:
   base::DateTime Now() const override { return now; }
-  double Elapsed() const override { return 0; }
+  double Elapsed() const override { return elapsed; }
 
+  double elapsed = 0;
   base::DateTime now{2026, 11, 22, 14, 30, 0};
 };
 

@@ -27,6 +27,7 @@
 #include "desktop/Fonts.h"
 #include "desktop/host/MainWindow.h"
 #include "desktop/host/Options.h"
+#include "desktop/host/PendingCare.h"
 #include "desktop/host/Player.h"
 #include "desktop/host/Process.h"
 #include "desktop/host/ScreenFile.h"
@@ -235,6 +236,7 @@ class Application {
     const auto bank = services::AbrirBanco(address, desktop_, desktop_.ComputerName(), mark);
     bank->Sessao().WhileWaiting([this] { desktop_.Paint(); });
     services::RegistrarServicos(bank, [this] { desktop_.ProcessEvents(); });
+    care_.emplace(desktop_, bank);
     siblings::RegistrarTelas();
   }
 
@@ -317,6 +319,7 @@ class Application {
   const Options& options_;
   desktop::DesktopQt desktop_;
   Settings settings_;
+  std::optional<PendingCare> care_;
   std::shared_ptr<services::Banco> demonstration_;
   std::vector<services::UsuarioDeDemonstracao> users_;
   std::unique_ptr<MainWindow> window_;

@@ -32,6 +32,7 @@ std::optional<std::string> Conversation::NextLine(const std::function<bool()>& o
     do {
       timeline_.PassUntil(passUntil_, stop);
     } while (!stop() && timeline_.IsAhead(passUntil_));
+    if (!stop() && atRest_) atRest_();
     if (stop()) return std::nullopt;
     Answer();
   } while (!in_.Wait(timeline_.UntilNext()));

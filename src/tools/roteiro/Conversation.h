@@ -5,6 +5,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include "tools/roteiro/Json.h"
 #include "tools/roteiro/LineReader.h"
@@ -29,6 +30,8 @@ class Conversation {
 
   /// Who carries out the commands, and who says where the system rests.
   void Attach(Carry carry, std::function<Json()> place);
+  /// What is done whenever the system comes to rest, before it is told where: it may open a box.
+  void AtRest(std::function<void()> care) { atRest_ = std::move(care); }
   /// Reads and carries out commands until `over` or until the input ends.
   void Serve(const std::function<bool()>& over);
   /// The input has ended: whatever is up is to unwind.
@@ -56,6 +59,7 @@ class Conversation {
   Timeline& timeline_;
   Carry carry_;
   std::function<Json()> place_;
+  std::function<void()> atRest_;
   bool closing_ = false;
   double passUntil_ = 0;
   std::uint64_t taken_ = 0;

@@ -1,9 +1,11 @@
 #include "tools/roteiro/DatabaseServices.h"
 
+#include <deque>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
 
+#include "frame/Valores.h"
 #include "frame/modMensagemDeErro.h"
 #include "frame/servicos/ZOVA_A_MsgErro.clsMensagem.h"
 #include "platform/Desktop.h"
@@ -57,21 +59,38 @@ void UseSuite(StandIns& standIns) {
     return std::make_unique<ToldViewer>(standIns, viewer);
   });
 }
+
+std::function<void()> CareOf(const std::shared_ptr<services::Banco>& bank,
+                             platform::Desktop& desktop) {
+  const auto news = std::make_shared<std::deque<std::string>>();
+  bank->AoAvisar([news](const std::string& sentence) { news->push_back(sentence); });
+  return [bank, news, &desktop] {
+    bank->CuidarDoPendente();
+    while (!news->empty()) {
+      const std::string sentence = news->front();
+      news->pop_front();
+      desktop.Ask({sentence, frame::valores().NomeDaAplicacao, platform::Icon::kInformation,
+                   platform::Buttons::kOk, platform::Answer::kOk});
+    }
+  };
+}
 #endif
 
 }  // namespace
 
 #if defined(CAIXA_SERVICES) && defined(CAIXA_SIBLINGS)
-void UseDatabase(const Options& options, StandIns& standIns, platform::Desktop& desktop) {
-  services::RegistrarServicos(
-      services::AbrirBanco(options.database, desktop, desktop.ComputerName(),
-                           services::MarcaDaEstacao(desktop.ModuleFolder())));
+std::function<void()> UseDatabase(const Options& options, StandIns& standIns,
+                                  platform::Desktop& desktop) {
+  const auto bank = services::AbrirBanco(options.database, desktop, desktop.ComputerName(),
+                                         services::MarcaDaEstacao(desktop.ModuleFolder()));
+  services::RegistrarServicos(bank);
   services::RegistrarExportacaoFiscal(ExchangeFolder(options, desktop), desktop,
                                       desktop.ComputerName(), frame::ExibirRelato);
   UseSuite(standIns);
+  return CareOf(bank, desktop);
 }
 #else
-void UseDatabase(const Options&, StandIns&, platform::Desktop&) {
+std::function<void()> UseDatabase(const Options&, StandIns&, platform::Desktop&) {
   throw std::runtime_error("this build has no database services; use --services stub");
 }
 #endif

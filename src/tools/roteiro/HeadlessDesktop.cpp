@@ -22,10 +22,12 @@ constexpr double kRealPass = 0.001;
 
 }  // namespace
 
-HeadlessDesktop::HeadlessDesktop(Conversation& conversation, Timeline& timeline, std::string folder)
+HeadlessDesktop::HeadlessDesktop(Conversation& conversation, Timeline& timeline, std::string folder,
+                                 std::string computer)
     : conversation_(conversation),
       timeline_(timeline),
       folder_(std::move(folder)),
+      computer_(std::move(computer)),
       watch_([&conversation](Json event) { conversation.Tell(std::move(event)); }) {
   Install(this);
 }
@@ -131,6 +133,7 @@ void HeadlessDesktop::Undim(platform::WindowHandle) {
 }
 
 std::string HeadlessDesktop::ComputerName() {
+  if (!computer_.empty()) return computer_;
   std::array<char, 256> name{};
   return gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "";
 }

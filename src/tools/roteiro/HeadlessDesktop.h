@@ -35,7 +35,9 @@ struct Hold {
 /// script. Installs itself while it lives.
 class HeadlessDesktop final : public platform::Desktop {
  public:
-  HeadlessDesktop(Conversation& conversation, Timeline& timeline, std::string folder);
+  /// An empty `computer` is the machine's own name.
+  HeadlessDesktop(Conversation& conversation, Timeline& timeline, std::string folder,
+                  std::string computer = {});
   ~HeadlessDesktop() override;
   HeadlessDesktop(const HeadlessDesktop&) = delete;
   HeadlessDesktop& operator=(const HeadlessDesktop&) = delete;
@@ -94,6 +96,7 @@ class HeadlessDesktop final : public platform::Desktop {
   Conversation& conversation_;
   Timeline& timeline_;
   std::string folder_;
+  std::string computer_;
   platform::Paper paper_ = platform::kA4Paper;
   std::optional<platform::ReportPages> report_;
   double diskDelay_ = 0;

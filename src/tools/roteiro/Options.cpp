@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "base/Text.h"
 #include "tools/roteiro/Json.h"
 
 namespace roteiro {
@@ -46,6 +47,11 @@ void TakeExchange(Options& options, const std::string& value) {
   options.exchange = std::filesystem::absolute(value).string();
 }
 
+void TakeComputer(Options& options, const std::string& value) {
+  if (base::IsBlank(value)) throw UsageError("--computador needs a name");
+  options.computer = value;
+}
+
 void TakeLog(Options& options, const std::string& value) {
   if (value.empty()) throw UsageError("--log needs a file");
   options.log = value;
@@ -57,9 +63,9 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {"--services", TakeServices}, {"--dir", TakeFolder},  {"--now", TakeNow},
-    {"--clock", TakeClock},       {"--paper", TakePaper}, {"--exchange", TakeExchange},
-    {"--log", TakeLog},
+    {"--services", TakeServices},   {"--dir", TakeFolder},  {"--now", TakeNow},
+    {"--clock", TakeClock},         {"--paper", TakePaper}, {"--exchange", TakeExchange},
+    {"--computador", TakeComputer}, {"--log", TakeLog},
 };
 
 }  // namespace

@@ -24,6 +24,8 @@ struct Options {
   bool realClock = false;
   /// What receipts and notes are printed on.
   platform::Paper paper = platform::kA4Paper;
+  /// The workstation's name; empty for the machine's.
+  std::string computer;
   /// A file that takes both directions of the conversation; empty for none.
   std::string log;
 };
@@ -31,7 +33,8 @@ struct Options {
 inline constexpr const char* kUsage =
     "usage: caixa-roteiro [--services stub|sqlite:FILE|postgresql:CONNINFO] [--dir FOLDER]\n"
     "                     [--now 2026-11-22T14:30:00] [--clock virtual|real]\n"
-    "                     [--paper a4|roll80] [--exchange FOLDER] [--log FILE]\n";
+    "                     [--paper a4|roll80] [--exchange FOLDER] [--computador NAME]\n"
+    "                     [--log FILE]\n";
 
 /// A command line that makes no sense, and why.
 class UsageError : public std::runtime_error {

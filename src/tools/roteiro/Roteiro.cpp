@@ -78,20 +78,24 @@ void Converse(const Options& options, const Parts& parts) {
   StandIns standIns([&](Json event) { conversation.Tell(std::move(event)); });
   const ServicesScope services;
   Session session;
-  HeadlessDesktop desktop(conversation, timeline, folder.Path());
+  HeadlessDesktop desktop(conversation, timeline, folder.Path(), options.computer);
   desktop.PrintOn(options.paper);
+  std::function<void()> care;
   if (options.database.empty()) {
     RegisterBusinessStandIns(standIns);
     RegisterScreenStandIns(standIns);
     RegisterEffectStandIns(standIns);
   } else {
-    parts.useDatabase(options, standIns, desktop);
+    care = parts.useDatabase(options, standIns, desktop);
     standIns.BusinessIsReal();
   }
   const std::unique_ptr<Module> module = parts.makeModule();
   Stage stage{conversation, timeline, desktop, standIns, session, *module};
   conversation.Attach([&](const Json& command) { return CarryOut(stage, command); },
                       [&] { return PlaceOf(desktop.Held()); });
+  conversation.AtRest([&] {
+    if (care && desktop.Held() == nullptr) platform::input::Run(care);
+  });
   conversation.Serve([] { return false; });
   // The host goes: the loops have unwound, and nobody else frees the customer that is held here.
   platform::input::Run([&] {

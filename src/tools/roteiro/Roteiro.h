@@ -20,7 +20,9 @@ struct Parts {
   std::function<std::unique_ptr<Module>()> makeModule;
   /// Puts real services over options.database behind the business classes, and screens or stand-ins
   /// behind the others; std::runtime_error says why it cannot.
-  std::function<void(const Options& options, StandIns& standIns, platform::Desktop& desktop)>
+  /// Gives what is to be done whenever the operator is at a screen or at none.
+  std::function<std::function<void()>(const Options& options, StandIns& standIns,
+                                      platform::Desktop& desktop)>
       useDatabase;
 };
 

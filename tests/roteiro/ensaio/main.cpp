@@ -41,9 +41,10 @@ class Ensaio final : public roteiro::Module {
 }  // namespace
 
 int main(int count, char** arguments) {
-  return roteiro::Run(
-      std::vector<std::string>(arguments + 1, arguments + count),
-      {.makeModule = [] { return std::make_unique<Ensaio>(); },
-       .useDatabase = [](const roteiro::Options&, roteiro::StandIns&,
-                         platform::Desktop&) { throw std::runtime_error("sem banco"); }});
+  return roteiro::Run(std::vector<std::string>(arguments + 1, arguments + count),
+                      {.makeModule = [] { return std::make_unique<Ensaio>(); },
+                       .useDatabase = [](const roteiro::Options&, roteiro::StandIns&,
+                                         platform::Desktop&) -> std::function<void()> {
+                         throw std::runtime_error("sem banco");
+                       }});
 }
