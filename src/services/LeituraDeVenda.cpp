@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "services/Outcome.h"
 #include "services/Search.h"
+#include "services/VendasRegistradas.h"
 
 namespace services {
 namespace {
@@ -18,6 +19,11 @@ constexpr std::int32_t kColumnsOfALine = 20;
 
 [[noreturn]] void Refuse(std::string sentence) {
   throw Refusal{.sentence = std::move(sentence)};
+}
+
+bool IsWholeCents(Currency value) {
+  constexpr std::int64_t kCent = Currency::kScale / 100;
+  return value.TenThousandths() % kCent == 0;
 }
 
 /// One row of the counter's grid. What cannot be read is refused by line, name and column.
@@ -36,6 +42,12 @@ class LineCells {
     } catch (const base::RuntimeError&) {
       RefuseCell(text, name);
     }
+  }
+
+  Currency Cents(std::int32_t column, const char* name) const {
+    const Currency value = Money(column, name);
+    if (!IsWholeCents(value)) RefuseCell(Text(column), name);
+    return value;
   }
 
   Currency NotNegative(std::int32_t column, const char* name) const {
@@ -101,11 +113,11 @@ Venda::Item ReadItem(const LineCells& cells, std::int32_t columns) {
   item.quantidade = cells.NotNegative(7, "quantidade");
   item.valorUnitario = cells.NotNegative(8, "valor unitário");
   item.descontoEmPercentual = Abs(cells.Money(9, "percentual de desconto"));
-  item.descontoEmValor = Abs(cells.Money(10, "valor de desconto"));
-  item.valorTotal = cells.Money(11, "valor total");
+  item.descontoEmValor = Abs(cells.Cents(10, "valor de desconto"));
+  item.valorTotal = cells.Cents(11, "valor total");
   item.custo = cells.Money(12, "custo");
   item.percentualDeComissao = cells.Money(13, "percentual de comissão");
-  item.valorDaComissao = cells.Money(14, "valor da comissão");
+  item.valorDaComissao = cells.Cents(14, "valor da comissão");
   item.numeroDeLancamento = cells.Whole(15, "número do lançamento");
   item.unidade = cells.Text(16);
   item.numeroDaVendaCancelada = cells.Whole(17, "número da venda cancelada");
@@ -153,13 +165,31 @@ Venda::Recebimento ReadTender(const std::string& method, const std::string& valu
 /// Change below this arrives as 0: the checkout reads it up to its comma.
 constexpr Currency kLeastReportedChange = Currency::FromTenThousandths(Currency::kScale);
 
+/// How a cashier does it again. On the checkout's screen the credit is what the change was lowered
+/// by, and it does not follow tenders that come or go afterwards. The tender that was added last is
+/// named where the others alone pay for the sale: there was change already, to be lowered.
+std::string HowToPayAgain(const Venda& venda) {
+  std::string words = "Nada foi registrado: refaça o pagamento";
+  const Venda::Recebimento& last = venda.recebimentos.back();
+  if (venda.totalRecebido - last.valor >= venda.valorLiquido && !last.valor.IsZero()) {
+    words += " sem " + NomeDaMoeda(last.moeda) + " de " + base::FormatMoney(last.valor) +
+             ", que não é preciso,";
+  }
+  return words + " e digite o troco uma só vez, depois da última forma.";
+}
+
 void CheckChange(const Venda& venda, Currency reported) {
   const bool agrees =
       reported.IsZero() ? venda.troco < kLeastReportedChange : reported == -venda.troco;
   if (agrees) return;
-  Refuse("O troco informado (" + base::FormatMoney(Abs(reported)) +
-         ") não confere: o valor pago menos a venda e o crédito para o cliente dá " +
-         base::FormatMoney(venda.troco) + ". Nada foi registrado; refaça o pagamento.");
+  const std::string shown = base::FormatMoney(Abs(reported));
+  if (venda.creditoMantido.IsZero() || venda.recebimentos.empty()) {
+    Refuse("O troco informado (" + shown + ") não confere: o valor pago menos a venda dá " +
+           base::FormatMoney(venda.troco) + ". Nada foi registrado; refaça o pagamento.");
+  }
+  Refuse("Com " + base::FormatMoney(venda.creditoMantido) +
+         " de crédito para o cliente, o troco é de " + base::FormatMoney(venda.troco) +
+         ", e não de " + shown + ". " + HowToPayAgain(venda));
 }
 
 }  // namespace
@@ -221,18 +251,40 @@ void FecharContas(Venda& venda, Currency troco) {
   }
   if (venda.troco < Currency()) {
     Refuse("O crédito para o cliente (" + base::FormatMoney(venda.creditoMantido) +
-           ") é maior que a sobra do pagamento. Nada foi registrado; refaça o pagamento.");
+           ") é maior que a sobra do pagamento (" +
+           base::FormatMoney(venda.totalRecebido - venda.valorLiquido) + "). " +
+           (venda.recebimentos.empty() ? "Refaça o pagamento." : HowToPayAgain(venda)));
   }
   CheckChange(venda, troco);
 }
 
+void ExigirCentavos(const Venda& venda) {
+  const struct {
+    const char* name;
+    Currency value;
+  } amounts[] = {{"O valor bruto", venda.valorBruto},
+                 {"O total de descontos", venda.totalDeDescontos},
+                 {"O valor líquido", venda.valorLiquido},
+                 {"O crédito para o cliente", venda.creditoMantido},
+                 {"A comissão", venda.comissao}};
+  for (const auto& [name, value] : amounts) {
+    if (IsWholeCents(value)) continue;
+    Refuse(std::string(name) + " (" + base::ToText(value) +
+           ") tem fração de centavo. Nada foi registrado; refaça a venda.");
+  }
+}
+
 Currency LerValor(const std::string& text, const std::string& what) {
+  Currency value;
   try {
-    return base::ToCurrency(std::string_view(text));
+    value = base::ToCurrency(std::string_view(text));
   } catch (const base::RuntimeError&) {
     Refuse("'" + base::Trim(text) + "' não é um valor aceito para " + what +
            ". Informe um número com vírgula nos centavos.");
   }
+  if (IsWholeCents(value)) return value;
+  Refuse("'" + base::Trim(text) + "' não é um valor aceito para " + what +
+         ", por ter fração de centavo. Informe-o com duas casas depois da vírgula.");
 }
 
 std::int32_t LerCodigoDoCliente(const std::string& text) {

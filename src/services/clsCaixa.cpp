@@ -122,6 +122,7 @@ class clsCaixa : public SobreBanco<Contrato> {
       venda.codigoDoCliente = LerCodigoDoCliente(cliente_);
       venda.itens = LerItens(itens_);
       venda.recebimentos = LerRecebimentos(pagamentos_);
+      ExigirCentavos(venda);
       FecharContas(venda, troco_);
       venda.alemDoLimite = !venda.RecebidoEm(kACredito).IsZero() && EAdministrador();
       venda.quando = banco().Agora();

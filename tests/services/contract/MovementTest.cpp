@@ -99,6 +99,11 @@ TEST_P(MovementTest, ValuesThatCannotBeAreRefused) {
       "2 'cem' não é um valor aceito para o valor. Informe um número com vírgula nos "
       "centavos.",
       Do(&Register::RegistrarEntrada, 1, "cem"));
+  EXPECT_EQ(
+      "2 '10,005' não é um valor aceito para o valor, por ter fração de centavo. Informe-o com "
+      "duas "
+      "casas depois da vírgula.",
+      Do(&Register::RegistrarSaida, 1, "10,005"));
   const std::string positive =
       "2 O valor informado deve ser maior que 0,00 (zero). Informe o valor de novo.";
   EXPECT_EQ(positive, Do(&Register::RegistrarEntrada, 1, "0,00"));
@@ -108,6 +113,8 @@ TEST_P(MovementTest, ValuesThatCannotBeAreRefused) {
   const auto closing = New(1, "0");
   closing->ValorDoLancamento(std::nan(""));
   EXPECT_EQ(servicos::kRecusa, closing->RegistrarFechamento());
+  closing->ValorDoLancamento(-0.005);
+  EXPECT_EQ(servicos::kRecusa, closing->RegistrarFechamento());
   const auto tender = New(1, "5,00");
   tender->MOEDA(0);
   EXPECT_EQ(servicos::kRecusa, tender->RegistrarEntrada());
@@ -115,10 +122,10 @@ TEST_P(MovementTest, ValuesThatCannotBeAreRefused) {
 }
 
 TEST_P(MovementTest, AmountsAtTheLimits) {
-  EXPECT_EQ("0", Do(&Register::RegistrarEntrada, 1, "922.337.203.685.477,5807"));
+  EXPECT_EQ("0", Do(&Register::RegistrarEntrada, 1, "922.337.203.685.477,58"));
   EXPECT_EQ("2 Um valor ultrapassa o limite que o caixa registra. Confira os valores.",
-            Do(&Register::RegistrarEntrada, 1, "0,0001"));
-  EXPECT_EQ("0", Do(&Register::RegistrarSaida, 1, "922.337.203.685.477,5807"));
+            Do(&Register::RegistrarEntrada, 1, "0,01"));
+  EXPECT_EQ("0", Do(&Register::RegistrarSaida, 1, "922.337.203.685.477,58"));
   EXPECT_EQ("0", Cash(1));
 }
 

@@ -282,7 +282,7 @@ TEST_P(SaleTest, LongAndOddTextsComeBackAsTheyWere) {
 }
 
 TEST_P(SaleTest, AmountsAtTheLimits) {
-  const std::string most = "922.337.203.685.477,5807";
+  const std::string most = "922.337.203.685.477,58";
   Register({.lines = Grid({ProductLine(most)}),
             .tenders = Grid({Tender("1-Dinheiro", most)}),
             .net = Brl(most)});
@@ -320,6 +320,13 @@ TEST_P(SaleTest, RefusalsWriteNothing) {
       {"tender amount", {.tenders = Grid({Tender("8-PIX", "cem")})}, "'cem' não é um valor"},
       {"negative tender", {.tenders = Grid({Tender("8-PIX", "-100,00")})}, "negativo"},
       {"not all paid", {.tenders = Grid({Tender("8-PIX", "99,99")})}, "Restam 0,01 para pagar"},
+      {"fraction of a cent", {.tenders = Grid({Tender("8-PIX", "100,005")})}, "'100,005' não é um"},
+      {"fraction in a net", {.net = Brl("99,995")}, "(99,995) tem fração de centavo"},
+      {"fraction in a credit", {.creditKept = Brl("0,001")}, "(0,001) tem fração de centavo"},
+      {"fraction in a total", {.lines = line.With(1, 11, "9,999")}, "'9,999' em valor total"},
+      {"fraction in a discount",
+       {.lines = line.With(1, 10, "-0,005")},
+       "'-0,005' em valor de desc"},
       {"no due date", {.tenders = Grid({Tender("6-Fiado", "100,00")})}, "data de vencimento"},
       {"no such day", {.tenders = Grid({Tender("6-Fiado", "100,00", "29/02/2027")})}, "vencimento"},
       {"month first", {.tenders = Grid({Tender("6-Fiado", "100,00", "12/31/2026")})}, "vencimento"},
@@ -332,8 +339,22 @@ TEST_P(SaleTest, RefusalsWriteNothing) {
        "O troco informado (0,00) não confere"},
       {"change and credit kept of the same money",
        {.tenders = Grid({Tender("1-Dinheiro", "150,00")}), .change = -50_brl, .creditKept = 20_brl},
-       "não confere"},
-      {"more credit kept than left", {.creditKept = 1_brl}, "é maior que a sobra"},
+       "Com 20,00 de crédito para o cliente, o troco é de 30,00, e não de 50,00. Nada foi "
+       "registrado: refaça o pagamento e digite o troco uma só vez, depois da última forma."},
+      {"a tender after the change was lowered",
+       {.tenders = Grid({Tender("3-Cartão de crédito", "150,00"), Tender("8-PIX", "10,00")}),
+        .change = -60_brl,
+        .creditKept = 20_brl},
+       "o troco é de 40,00, e não de 60,00. Nada foi registrado: refaça o pagamento sem PIX de "
+       "10,00, que não é preciso, e digite o troco"},
+      {"the change lowered after a tender was taken out",
+       {.tenders = Grid({Tender("2-Cheque", "60,00"), Tender("8-PIX", "90,00")}),
+        .change = -30_brl,
+        .creditKept = 30_brl},
+       "o troco é de 20,00, e não de 30,00. Nada foi registrado: refaça o pagamento e digite"},
+      {"more credit kept than left",
+       {.creditKept = 1_brl},
+       "é maior que a sobra do pagamento (0,00). N"},
       {"credit kept below zero", {.creditKept = -1_brl}, "negativo"},
       {"customer's code", {.customer = "x"}, "código de cliente 'x' não existe"},
       {"unknown customer", {.customer = "77"}, "cliente de código 77 não está cadastrado"},
