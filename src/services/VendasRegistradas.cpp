@@ -52,8 +52,8 @@ void AddTenders(Session& session, VendaRegistrada& sale) {
 
 std::string SelectSales(const std::string& which) {
   return "SELECT numero, data_e_hora, numero_do_caixa, operador, codigo_do_cliente,"
-         " apelido_do_cliente, valor_bruto, valor_liquido, troco, credito_mantido, chave_sat"
-         " FROM vendas " +
+         " apelido_do_cliente, valor_bruto, valor_liquido, troco, credito_mantido, chave_sat, " +
+         std::string(kDescontoNosItens) + ", " + std::string(kDescontoDaVenda) + " FROM vendas " +
          which;
 }
 
@@ -68,6 +68,8 @@ std::vector<VendaRegistrada> ReadSales(Session& session, const Statement& select
                      .codigoDoCliente = row.Number(4),
                      .nomeDoCliente = row.Text(5),
                      .bruto = row.Money(6),
+                     .descontoNosItens = row.Money(11),
+                     .descontoDaVenda = row.Money(12),
                      .liquido = row.Money(7),
                      .troco = row.Money(8),
                      .creditoParaOCliente = row.Money(9),

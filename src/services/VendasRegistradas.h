@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Currency.h"
@@ -11,6 +12,14 @@
 namespace services {
 
 class Banco;
+
+// What the lines of a sale were given off, and what the sale was given off as a whole, as columns
+// of a selection of vendas. The checkout hands over the two in one figure, the lines' part with its
+// sign turned; together they are what lies between gross and net.
+inline constexpr std::string_view kDescontoDaVenda =
+    "(valor_bruto - valor_liquido + total_de_descontos) / 2";
+inline constexpr std::string_view kDescontoNosItens =
+    "valor_bruto - valor_liquido - (valor_bruto - valor_liquido + total_de_descontos) / 2";
 
 /// A sale as it stands in the database, for whoever checks it from outside the cash desk.
 struct VendaRegistrada {
@@ -32,7 +41,8 @@ struct VendaRegistrada {
   std::string operador;
   std::int32_t codigoDoCliente = 0;
   std::string nomeDoCliente;
-  base::Currency bruto, liquido, troco, creditoParaOCliente;
+  base::Currency bruto, descontoNosItens, descontoDaVenda, liquido;
+  base::Currency troco, creditoParaOCliente;
   std::string chaveSat;
   std::vector<Item> itens;
   std::vector<Recebimento> recebimentos;

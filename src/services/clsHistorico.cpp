@@ -19,6 +19,8 @@ using enum Field::Kind;
 /// More than anybody looks through; the walk-in customer buys all day.
 constexpr std::int64_t kMostSales = 2000;
 
+constexpr std::string_view kPagamentos = "Pagamentos";
+
 /// The tenders are written into their place afterwards.
 constexpr Field kSales[] = {
     {"Numero", kNumber, "numero"},
@@ -30,6 +32,9 @@ constexpr Field kSales[] = {
     {"ValorLiquido", kMoney, "valor_liquido"},
     {"Situacao", kText, "CASE WHEN situacao = 'C' THEN 'Cancelada' ELSE 'Efetuada' END"},
     {"ChaveSAT", kText, "chave_sat"},
+    {kPagamentos, kText, "''"},
+    {"DescontoNosItens", kMoney, kDescontoNosItens},
+    {"DescontoDaVenda", kMoney, kDescontoDaVenda},
 };
 
 constexpr Field kItems[] = {
@@ -108,13 +113,14 @@ class clsHistorico : public SobreBanco<Contrato> {
                                         const std::map<std::int32_t, std::string>& tenders) {
     std::vector<std::string> names;
     for (std::int32_t i = 0; i < sales.FieldCount(); ++i) names.push_back(sales.FieldName(i));
-    names.emplace_back("Pagamentos");
     const auto rows = std::make_shared<base::RecordSet>(std::move(names));
     base::ForEachRow(sales, [&] {
       std::vector<base::Value> row;
-      for (std::int32_t i = 0; i < sales.FieldCount(); ++i) row.push_back(sales.Fields(i));
       const auto found = tenders.find(base::ToInt32(sales.Fields("Numero")));
-      row.emplace_back(found == tenders.end() ? std::string() : found->second);
+      for (std::int32_t i = 0; i < sales.FieldCount(); ++i) {
+        const bool isPaid = found != tenders.end() && sales.FieldName(i) == kPagamentos;
+        row.push_back(isPaid ? base::Value(found->second) : sales.Fields(i));
+      }
       rows->Append(std::move(row));
     });
     rows->MoveFirst();

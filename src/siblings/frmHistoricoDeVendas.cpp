@@ -33,6 +33,8 @@ constexpr Coluna kColunasDeVendas[] = {
     {"Situação", 1350, kEsquerda, frame::kTexto, "Situacao"},
     {"Pagamentos", 2400, kEsquerda, frame::kTexto, "Pagamentos"},
     {"Cupom", 1050, kEsquerda, frame::kTexto, "ChaveSAT"},
+    {"Desc. nos itens", 1350, kDireita, frame::kNumero, "DescontoNosItens"},
+    {"Desc. da venda", 1350, kDireita, frame::kNumero, "DescontoDaVenda"},
     {"", 0},
 };
 constexpr Coluna kColunasDeItens[] = {
@@ -134,6 +136,8 @@ void frmHistoricoDeVendas::Somar(base::RecordSet& vendas) {
   base::Currency bruto;
   base::Currency descontos;
   base::Currency liquido;
+  base::Currency nosItens;
+  base::Currency dasVendas;
   std::int32_t canceladas = 0;
   base::ForEachRow(vendas, [&] {
     if (EstaCancelada(vendas)) {
@@ -143,10 +147,16 @@ void frmHistoricoDeVendas::Somar(base::RecordSet& vendas) {
     bruto += base::ToCurrency(vendas.Fields("ValorBruto"));
     descontos += base::ToCurrency(vendas.Fields("Descontos"));
     liquido += base::ToCurrency(vendas.Fields("ValorLiquido"));
+    nosItens += base::ToCurrency(vendas.Fields("DescontoNosItens"));
+    dasVendas += base::ToCurrency(vendas.Fields("DescontoDaVenda"));
   });
   zvtxtValorBruto.Text = base::FormatMoney(bruto);
   zvtxtDescontos.Text = base::FormatMoney(descontos);
   zvtxtValorLiquido.Text = base::FormatMoney(liquido);
+  lblDescontosDasVendas.Caption =
+      dasVendas.IsZero() ? ""
+                         : "Descontos nos itens: " + base::FormatMoney(nosItens) +
+                               "   -   Descontos da venda: " + base::FormatMoney(dasVendas);
   const std::int32_t efetuadas = vendas.RecordCount() - canceladas;
   std::string quantas = efetuadas == 0   ? "Nenhuma venda no período"
                         : efetuadas == 1 ? "1 venda no período"

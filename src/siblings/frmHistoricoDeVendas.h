@@ -35,6 +35,7 @@ class frmHistoricoDeVendas final : public platform::Form {
   platform::MSFlexGrid msfgItens{*this, "msfgItens"};
   platform::PictureBox picTotais{*this, "picTotais"};
   platform::Label lblQuantidade{picTotais, "lblQuantidade"};
+  platform::Label lblDescontosDasVendas{picTotais, "lblDescontosDasVendas"};
   platform::Label lblValorBruto{picTotais, "lblValorBruto"};
   platform::ZVTextBox zvtxtValorBruto{picTotais, "zvtxtValorBruto"};
   platform::Label lblDescontos{picTotais, "lblDescontos"};

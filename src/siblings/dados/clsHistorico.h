@@ -15,7 +15,9 @@ class clsHistorico : public servicos::ServicoDeNegocio {
 
   /// The sales of a period, both days included, the latest first: Numero, DataEHora, Caixa,
   /// Operador, ValorBruto, Descontos, ValorLiquido, Situacao ("Efetuada", "Cancelada"),
-  /// Pagamentos (text), ChaveSAT. Of very many only the latest come; DescricaoDaFalha then says so.
+  /// Pagamentos (text), ChaveSAT, DescontoNosItens and DescontoDaVenda, which together are what
+  /// lies between gross and net; Descontos is the figure that the checkout handed over. Of very
+  /// many only the latest come; DescricaoDaFalha then says so.
   virtual std::int16_t SelecionarVendas(double /*codigoDoCliente*/, base::DateTime /*de*/,
                                         base::DateTime /*ate*/) {
     Ausente();

@@ -28,13 +28,22 @@ void MostrarItens(std::ostream& saida, const services::VendaRegistrada& venda) {
   }
 }
 
+/// The two discounts apart where the sale bore one of its own: the figure above them is what the
+/// checkout hands over, and does not lead from gross to net.
+void MostrarDescontos(std::ostream& saida, const services::FichaDaVenda& ficha) {
+  saida << "Descontos: " << FormatMoney(ficha.totalDeDescontos) << '\n';
+  if (ficha.venda.descontoDaVenda.IsZero()) return;
+  saida << "Desconto nos itens: " << FormatMoney(ficha.venda.descontoNosItens) << '\n'
+        << "Desconto da venda: " << FormatMoney(ficha.venda.descontoDaVenda) << '\n';
+}
+
 void MostrarSomas(std::ostream& saida, const services::FichaDaVenda& ficha) {
+  saida << "Valor bruto: " << FormatMoney(ficha.venda.bruto) << '\n';
+  MostrarDescontos(saida, ficha);
   const struct {
     const char* nome;
     base::Currency valor;
-  } somas[] = {{"Valor bruto", ficha.venda.bruto},
-               {"Descontos", ficha.totalDeDescontos},
-               {"Valor líquido", ficha.venda.liquido},
+  } somas[] = {{"Valor líquido", ficha.venda.liquido},
                {"Recebido", ficha.totalRecebido},
                {"Troco", ficha.venda.troco},
                {"Crédito que restava", ficha.creditoAnterior},

@@ -48,6 +48,10 @@ void ShowSale(std::ostream& out, const services::VendaRegistrada& sale) {
   out << "  Itens:\n";
   for (const auto& item : sale.itens) ShowItem(out, item);
   Line(out, "Valor bruto", sale.bruto);
+  if (!sale.descontoDaVenda.IsZero()) {
+    Line(out, "Desconto nos itens", -sale.descontoNosItens);
+    Line(out, "Desconto da venda", -sale.descontoDaVenda);
+  }
   Line(out, "Valor líquido", sale.liquido);
   out << "  Pagamentos:\n";
   for (const auto& tender : sale.recebimentos) ShowTender(out, tender);

@@ -62,11 +62,13 @@ TEST_P(SiblingDataTest, TheHistoryHasTheCustomersSalesOfThePeriod) {
        {.tenders = Grid{{Tender("1-Dinheiro", "60,00"), Tender("8-PIX", "40,00")}}});
   sell({2026, 3, 3, 12, 0, 0}, {.customer = "6"});
   sell({2026, 3, 4, 0, 0, 0}, {});
+  Write("UPDATE vendas SET valor_bruto = 1398800, total_de_descontos = 19000 WHERE numero = 3");
   const auto service = servicos::CriarServico<clsHistorico>();
   ASSERT_EQ(0, service->SelecionarVendas(5, {2026, 3, 2, 8, 0, 0}, {2026, 3, 3, 8, 0, 0}));
   EXPECT_EQ(
-      "3|03/03/2026 23:59:59|1|renata|100|0|100|Efetuada||Dinheiro 60,00 / PIX 40,00\n"
-      "2|02/03/2026|1|renata|100|0|100|Efetuada||Dinheiro\n",
+      "3|03/03/2026 23:59:59|1|renata|139,88|1,9|100|Efetuada||Dinheiro 60,00 / PIX 40,00|"
+      "18,99|20,89\n"
+      "2|02/03/2026|1|renata|100|0|100|Efetuada||Dinheiro|0|0\n",
       All(*service));
   EXPECT_EQ("", service->DescricaoDaFalha());
   Write("UPDATE vendas SET situacao = 'C' WHERE numero = 3");
