@@ -62,7 +62,11 @@ class Model {
         " WHERE numero = CAST($2 AS integer) AND ativo = 1 AND aberto = 1 RETURNING numero),"
         " serie AS MATERIALIZED (SELECT CAST(nextval('vendas_numero_seq') AS integer) AS n"
         " WHERE EXISTS (SELECT 1 FROM caixa)),";
-    const auto sale = ColumnsOf(link, "vendas");
+    auto sale = ColumnsOf(link, "vendas");
+    // No two sales have the same operation, and it is drawn, as ours is.
+    for (Column& column : sale) {
+      if (column.name == "operacao") column.type += ") # CAST(random() * 9e18 AS bigint";
+    }
     sql_ += " venda AS (INSERT INTO vendas (numero, " + Listed(sale, "{n}", 0) + ") SELECT s.n, " +
             Listed(sale, "CAST({p} AS {t})", NextPlace()) + " FROM serie s RETURNING numero)";
     Keep(link, "SELECT " + Listed(sale, "CAST({n} AS text)", 0) + " FROM vendas WHERE numero = $1");

@@ -29,9 +29,11 @@ class Rows {
     for (int i = 0; i < sqlite3_column_count(select); ++i) {
       const std::string name = sqlite3_column_name(select, i);
       if (name == "numero" || name == "numero_da_venda") continue;
-      kept.push_back(i);
+      // No two sales have the same, and it is drawn, as ours is.
+      const bool isDrawn = isSale && name == "operacao";
+      if (!isDrawn) kept.push_back(i);
       columns += (columns.empty() ? "" : ", ") + name;
-      places += places.empty() ? "?" : ", ?";
+      places += std::string(places.empty() ? "" : ", ") + (isDrawn ? "random()" : "?");
     }
     while (sqlite3_step(select) == SQLITE_ROW) {
       Row& row = rows_.emplace_back();
