@@ -5,10 +5,10 @@
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
-#include "fiscal/ArquivoDeRetorno.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
 #include "frame/Valores.h"
+#include "frame/servicos/ArquivoDeRetorno.h"
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
 #include "platform/Desktop.h"
 
@@ -72,8 +72,9 @@ void SeguirAposErro(Acao acao) {
   }
 }
 
-/// Takes the file handed over back when the host closes in the middle of the exchange: its sale is
-/// never registered then, and no coupon may be issued from a file that nobody has read yet.
+/// Takes the file handed over back when a host ends in the middle of the exchange that cannot wait
+/// for its end: its sale is never registered then, and no coupon may be issued from a file that
+/// nobody has read yet.
 class EnvioEmAberto {
  public:
   explicit EnvioEmAberto(const std::string& arquivo) : arquivo_(arquivo) {}
@@ -170,9 +171,11 @@ bool TrocaDeArquivosCFeSAT::ExportarDadosCFeSATParaArquivo(std::string_view cabe
         ponto = 3;
         const std::string envio = servico->NomeCompleDoArquivoDeEnvioComDadosCFeSAT();
         const std::string retorno = servico->NomeCompleDoArquivoDeRetornoComDadosCFeSAT();
+        const bool gravado = servico->EnvioFoiGravado();
         servico.reset();
         ponto = 4;
-        if (!Desktop::Current().FileExists(envio)) return;
+        // A file that was written and is gone by now was taken.
+        if (!Desktop::Current().FileExists(envio) && !gravado) return;
         ponto = 5;
         const EnvioEmAberto emAberto(envio);
         if (!EsperarQueLeiam(envio)) return;
@@ -220,7 +223,7 @@ std::int16_t TrocaDeArquivosCFeSAT::LerArquivoDeRetornoCFeSAT(const std::string&
 }
 
 std::int16_t TrocaDeArquivosCFeSAT::Interpretar(std::string_view bytes) {
-  const Retorno retorno = LerRetorno(TextoDoArquivo(bytes));
+  const servicos::Retorno retorno = servicos::LerRetorno(servicos::TextoDoArquivo(bytes));
   if (!retorno.emitido) {
     AvisarDaRecusa(retorno.erro);
     return kRecusado;

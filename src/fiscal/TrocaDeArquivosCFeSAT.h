@@ -13,8 +13,8 @@ class TrocaDeArquivosCFeSAT {
  public:
   /// Hands the records over and waits for the answer, letting the screens live and asking the
   /// operator when that takes long. True when the sale may go on: the key of the coupon then stands
-  /// in ChaveSAT, or the fiscal side refused it and the operator was told. A host that closes
-  /// meanwhile takes the records back, unless the application has taken them.
+  /// in ChaveSAT, or the fiscal side refused it and the operator was told. A host that ends
+  /// meanwhile all the same takes the records back, unless the application has taken them.
   bool ExportarDadosCFeSATParaArquivo(std::string_view cabecalho, std::string_view itens,
                                       std::string_view pagamentos);
 

@@ -4,14 +4,17 @@
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
-#include "fiscal/ArquivoDeRetorno.h"
 #include "fiscal/TrocaDeArquivosCFeSAT.h"
+#include "frame/servicos/ArquivoDeRetorno.h"
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
 #include "support/ModuleServices.h"
 
 namespace fiscal {
 namespace {
 
+using servicos::LerRetorno;
+using servicos::Retorno;
+using servicos::TextoDoArquivo;
 using servicos::ZOVA_N_OSParaBD::clsOSExportarRegistros;
 
 TEST(TheReturnFile, IsReadLineByLine) {
@@ -53,19 +56,25 @@ TEST(TheReturnFile, ShowsItsAccentsInEitherEncoding) {
 /// Says where the files are; writes nothing.
 class Exporter final : public clsOSExportarRegistros {
  public:
+  explicit Exporter(bool wrote) : wrote_(wrote) {}
   std::int16_t ExportarDadosCFeSATParaArquivo(std::string_view, std::string_view,
                                               std::string_view) override {
     return 0;
   }
   std::string NomeCompleDoArquivoDeEnvioComDadosCFeSAT() override { return "envio"; }
   std::string NomeCompleDoArquivoDeRetornoComDadosCFeSAT() override { return "retorno"; }
+  bool EnvioFoiGravado() override { return wrote_; }
+
+ private:
+  bool wrote_;
 };
 
 class TheExchange : public testing::Test {
  protected:
   TheExchange() {
     module.session.values["CodigoDoDocumentoComEmissaoPermitida"] = "11";
-    servicos::Registrar(Exporter::kIdentificador, [] { return std::make_unique<Exporter>(); });
+    servicos::Registrar(Exporter::kIdentificador,
+                        [this] { return std::make_unique<Exporter>(wrote); });
   }
   /// The answer comes at once, while the application has not yet taken the other file away.
   bool Export(const std::string& answer) {
@@ -83,7 +92,18 @@ class TheExchange : public testing::Test {
   support::Module module;
   support::FakeDesktop& desktop = module.desktop;
   TrocaDeArquivosCFeSAT exchange;
+  bool wrote = false;
 };
+
+// An application that takes the file before anybody looks for it has taken it all the same; where
+// nothing was written there is nothing to wait for.
+TEST_F(TheExchange, CountsAFileAsWrittenThatWasTakenAtOnce) {
+  desktop.files["retorno"] = "|OK||KEY|";
+  EXPECT_FALSE(exchange.ExportarDadosCFeSATParaArquivo("", "", ""));
+  wrote = true;
+  EXPECT_TRUE(exchange.ExportarDadosCFeSATParaArquivo("", "", ""));
+  EXPECT_EQ(frame::valores().ChaveSAT, "KEY");
+}
 
 TEST_F(TheExchange, LeavesKeyAndFilesByItsOutcome) {
   struct Case {

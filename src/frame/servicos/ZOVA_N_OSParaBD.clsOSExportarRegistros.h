@@ -21,6 +21,11 @@ class clsOSExportarRegistros : public ServicoDeNegocio {
   virtual std::int16_t ExportarDadosParaCancelarCFeSAT(std::string_view /*texto*/) { Ausente(); }
   virtual std::string NomeCompleDoArquivoDeEnvioComDadosCFeSAT() { Ausente(); }
   virtual std::string NomeCompleDoArquivoDeRetornoComDadosCFeSAT() { Ausente(); }
+
+  /// No part of the called contract, so that a service may leave it out: whether the outbound file
+  /// of the last export was written for certain. The fiscal application may take it away sooner
+  /// than anybody can look for it.
+  virtual bool EnvioFoiGravado() { return false; }
 };
 
 }  // namespace servicos::ZOVA_N_OSParaBD

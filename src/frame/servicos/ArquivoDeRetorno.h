@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace fiscal {
+namespace servicos {
 
 /// What the outside fiscal application answered.
 struct Retorno {
@@ -24,4 +24,4 @@ Retorno LerRetorno(std::string_view texto);
 /// The text of a file that was written in UTF-8, with or without its mark, or else in Windows-1252.
 std::string TextoDoArquivo(std::string_view bytes);
 
-}  // namespace fiscal
+}  // namespace servicos

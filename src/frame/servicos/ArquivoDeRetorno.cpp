@@ -1,4 +1,4 @@
-#include "fiscal/ArquivoDeRetorno.h"
+#include "frame/servicos/ArquivoDeRetorno.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,7 +6,7 @@
 #include "base/Text.h"
 #include "base/Windows1252.h"
 
-namespace fiscal {
+namespace servicos {
 namespace {
 
 constexpr std::string_view kMarcaDeUtf8 = "\xEF\xBB\xBF";
@@ -62,4 +62,4 @@ std::string TextoDoArquivo(std::string_view bytes) {
   return texto;
 }
 
-}  // namespace fiscal
+}  // namespace servicos
