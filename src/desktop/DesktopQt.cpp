@@ -10,6 +10,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/RuntimeError.h"
 #include "desktop/Accessible.h"
 #include "desktop/Convert.h"
 #include "desktop/ForeignContainer.h"
@@ -113,9 +114,15 @@ DesktopQt::Screen& DesktopQt::ScreenOf(platform::Form& form) {
 
 QWidget* DesktopQt::ContainerOf(const platform::Form& form) {
   const platform::WindowHandle handle = form.Parent();
+  if (handle == 0) return nullptr;
   if (QWidget* const own = windows_.Find(handle)) return own;
   std::unique_ptr<ForeignContainer>& foreign = foreign_[handle];
   if (foreign == nullptr) foreign = ForeignContainer::In(handle);
+  if (foreign == nullptr) {
+    throw base::RuntimeError(static_cast<std::int32_t>(base::Fault::kInvalidArgument),
+                             "A janela em que a tela deveria abrir não foi encontrada. Feche o "
+                             "programa e abra-o de novo; se o erro se repetir, avise o suporte.");
+  }
   return foreign.get();
 }
 

@@ -101,7 +101,8 @@ class DesktopQt final : public platform::Desktop {
   };
 
   Screen& ScreenOf(platform::Form& form);
-  /// The widget that the form was made a child of, null for a form of its own.
+  /// The widget that the form was made a child of, null for a form of its own. A run-time error
+  /// when neither this host nor another process has a window of that number.
   QWidget* ContainerOf(const platform::Form& form);
   void EmbedIn(QWidget& container, platform::Form& form, Screen& screen);
   /// The keyboard goes to the screen that the operator can reach.

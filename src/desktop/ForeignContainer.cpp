@@ -19,8 +19,9 @@ constexpr int kAskMilliseconds = 250;
 /// The size of a window of the X server in its own pixels; empty when there is no such window.
 QSize SizeOf(WId window) {
   const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return {};
-  xcb_connection_t* const server = x11->connection();
+  xcb_connection_t* const server = x11 == nullptr ? nullptr : x11->connection();
+  // Platforms without an X server may have the interface and no connection behind it.
+  if (server == nullptr) return {};
   const std::unique_ptr<xcb_get_geometry_reply_t, decltype(&std::free)> told(
       xcb_get_geometry_reply(server, xcb_get_geometry(server, static_cast<xcb_drawable_t>(window)),
                              nullptr),

@@ -75,7 +75,13 @@ void Form::ShowNow() {
   onDesktop_ = true;
   screens::ToFront(*this);
   Desktop& desktop = Desktop::Current();
-  desktop.Placing(*this);
+  try {
+    desktop.Placing(*this);
+  } catch (...) {
+    // There is no place for it: nobody may take it for the screen in front.
+    visible_ = wasVisible;
+    throw;
+  }
   desktop.Shown(*this);
   if (!resized_) {
     resized_ = true;
