@@ -102,12 +102,23 @@ class Form : public Object, public Container {
   /// close box are out of action.
   class CommandsHeld {
    public:
-    explicit CommandsHeld(Form& form) : form_(form) { ++form_.held_; }
-    ~CommandsHeld() { --form_.held_; }
+    explicit CommandsHeld(Form& form) : form_(form) {
+      ++form_.held_;
+      ++all_;
+    }
+    ~CommandsHeld() {
+      --form_.held_;
+      --all_;
+    }
     CommandsHeld(const CommandsHeld&) = delete;
     CommandsHeld& operator=(const CommandsHeld&) = delete;
 
+    /// Whether any lives, of whatever form: something is being confirmed, and a host that can helps
+    /// it to come to its end.
+    static bool Any() { return all_ > 0; }
+
    private:
+    static inline int all_ = 0;
     Form& form_;
   };
   bool AreCommandsHeld() const { return held_ > 0; }

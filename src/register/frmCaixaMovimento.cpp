@@ -103,6 +103,7 @@ void frmCaixaMovimento::zvcmdCancelar_Click() {
 }
 
 void frmCaixaMovimento::zvcmdSalvar_Click() {
+  const CommandsHeld semComandos(*this);
   frame::Procedimento(Etiqueta("zvcmdSalvar_Click"), [&](Ponto& ponto) {
     frame::RestaurarCorDosRotulos(*this);
     frame::PreencherSeVazio(zvnumValorEmDinheiro, frame::kZeroEmDinheiro);

@@ -11,6 +11,7 @@
 
 #include "desktop/DesktopQt.h"
 #include "desktop/FormView.h"
+#include "desktop/MessageBoxView.h"
 #include "desktop/host/MainWindow.h"
 #include "desktop/host/Options.h"
 #include "desktop/host/PendingCare.h"
@@ -20,10 +21,12 @@
 #include "frame/servicos/Servico.h"
 #include "platform/Input.h"
 #include "platform/Screens.h"
+#include "services/AjustesDaEmpresa.h"
 #include "services/Banco.h"
 #include "services/Demonstracao.h"
 #include "services/RegistrarServicos.h"
 #include "services/Travas.h"
+#include "services/VendasRegistradas.h"
 #include "siblings/RegistrarTelas.h"
 
 namespace {
@@ -132,6 +135,70 @@ TEST_F(HostTest, ClosingInMidWorkUnwindsFirstAndThenFreesTheCustomer) {
   });
   EXPECT_EQ(platform::screens::Modal(), nullptr);
   EXPECT_TRUE(services::ListarTravas(*bank).empty());
+}
+
+/// From the counter to the box that is the last thing before a sale is over.
+std::vector<Step> UpToTheReceipt() {
+  std::vector<Step> script = kUpToCustomer;
+  script.push_back({Act::kClick, "optProduto"});
+  script.push_back({Act::kType, "zvfCodigoDeBarrasDoProduto", "7890000010030"});
+  script.push_back({Act::kKey, "", "Enter"});
+  script.push_back({Act::kSettle, "frmCaixaOperar"});
+  script.push_back({Act::kClick, "zvcmdAdicionar"});
+  script.push_back({Act::kClick, "zvcmdPagamento"});
+  script.push_back({Act::kScreen, "frmCaixaPagar"});
+  script.push_back({Act::kPick, "zvcmbFormaDePagamento", "1-D"});
+  script.push_back({Act::kSettle, "frmCaixaPagar"});
+  script.push_back({Act::kClick, "zvcmdAdicionar"});
+  script.push_back({Act::kClick, "zvcmdConfirmar"});
+  script.push_back({Act::kBox, "", "Deseja imprimir o comprovante de pagamento?"});
+  return script;
+}
+
+TEST_F(HostTest, StaysOpenWhileASaleIsConfirmedAndThenClosesByItself) {
+  services::AlterarEmpresa(*bank,
+                           {{"ImprimirComprovanteDePagamento", "Sim"},
+                            {"SolicitarConfirmacaoParaImprimirComprovanteDePagamento", "Sim"}});
+  Play(UpToTheReceipt(), [&] {
+    for (int presses = 0; presses < 2; ++presses) window->close();
+    QTest::qWait(120);
+    EXPECT_FALSE(closed) << "the handler still ran";
+    const auto* const notice = window->findChild<QWidget*>(QStringLiteral("aviso"));
+    ASSERT_NE(notice, nullptr);
+    EXPECT_EQ(window->children().last(), notice) << "over the box";
+    ASSERT_NE(desktop.Box(), nullptr);
+    QTest::keyClick(desktop.Box(), Qt::Key_N);
+  });
+  EXPECT_EQ(services::UltimasVendas(*bank, 2).size(), 1U);
+  EXPECT_TRUE(services::ListarTravas(*bank).empty());
+}
+
+TEST_F(HostTest, StaysOpenWhileAMovementIsConfirmed) {
+  std::vector<Step> script(kUpToCustomer.begin(), kUpToCustomer.end() - 3);
+  script.push_back({Act::kTool, "tbMenuCaixa", "Entradas"});
+  script.push_back({Act::kClick, "zvcmdSalvar"});
+  script.push_back({Act::kBox, "", "Informe o valor."});
+  Play(script, [&] {
+    window->close();
+    QTest::qWait(120);
+    EXPECT_FALSE(closed) << "the handler still ran";
+    EXPECT_FALSE(desktop.IsIdle());
+    ASSERT_NE(desktop.Box(), nullptr);
+    QTest::keyClick(desktop.Box(), Qt::Key_Return);
+  });
+}
+
+TEST_F(HostTest, TellsWhatIsNewOnceTheCounterRests) {
+  window->onSignedIn = [&] {
+    for (const char* news : {"Um cupom ficou sem venda.", "A venda 7 foi registrada."}) {
+      window->Tell(news);
+    }
+  };
+  std::vector<Step> script(kUpToCustomer.begin(), kUpToCustomer.begin() + 4);
+  script.push_back({Act::kBox, "", "Um cupom ficou sem venda."});
+  script.push_back({Act::kAnswer, "", "ok"});
+  script.push_back({Act::kBox, "", "A venda 7 foi registrada."});
+  Play(script, [&] { window->close(); });
 }
 
 TEST_F(HostTest, NoCaptionOfCounterAndPaymentIsCut) {

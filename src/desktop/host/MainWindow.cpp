@@ -1,5 +1,6 @@
 #include "desktop/host/MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QPainter>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "desktop/DesktopQt.h"
 #include "desktop/Palette.h"
 #include "desktop/host/Module.h"
+#include "desktop/host/Notice.h"
 #include "desktop/host/frmEntrada.h"
 #include "platform/Input.h"
 
@@ -18,6 +20,12 @@ namespace {
 /// The title of the window and of the module's boxes; also the name of its settings file.
 constexpr auto kTitle = "Caixa";
 
+/// How often a window that is to close, or to tell something, looks whether it may.
+constexpr int kLookMilliseconds = 50;
+constexpr auto kWhyOpen =
+    "A operação em andamento precisa terminar, e o caixa fecha sozinho em seguida. Se houver uma "
+    "pergunta na tela, responda a ela.";
+
 }  // namespace
 
 MainWindow::MainWindow(desktop::DesktopQt& desktop)
@@ -26,6 +34,10 @@ MainWindow::MainWindow(desktop::DesktopQt& desktop)
   setWindowTitle(QString::fromLatin1(kTitle));
   setMinimumSize(800, 560);
   desktop_.Register(*this);
+  confirmation_.setInterval(kLookMilliseconds);
+  QObject::connect(&confirmation_, &QTimer::timeout, this, [this] { FollowConfirmation(); });
+  rest_.setInterval(kLookMilliseconds);
+  QObject::connect(&rest_, &QTimer::timeout, this, [this] { TellAtRest(); });
 }
 
 MainWindow::~MainWindow() {
@@ -57,13 +69,54 @@ void MainWindow::OpenCashDesk(base::RecordSetPtr user) {
     module_->Open(std::move(user), kTitle, desktop_.Register(*this),
                   desktop_.Register(*container_));
   });
+  if (onSignedIn) platform::input::Run(onSignedIn);
+}
+
+void MainWindow::Tell(const std::string& sentence) {
+  news_.push_back(sentence);
+  rest_.start();
+}
+
+void MainWindow::TellAtRest() {
+  const bool busy = !desktop_.IsResting() || desktop_.Box() != nullptr || notice_ != nullptr ||
+                    QApplication::activePopupWidget() != nullptr;
+  if (busy || news_.empty()) return;
+  const std::string sentence = std::move(news_.front());
+  news_.pop_front();
+  if (news_.empty()) rest_.stop();
+  platform::input::Run([&] {
+    desktop_.Ask({sentence, kTitle, platform::Icon::kInformation, platform::Buttons::kOk,
+                  platform::Answer::kOk});
+  });
 }
 
 void MainWindow::resizeEvent(QResizeEvent*) {
   container_->setGeometry(rect());
 }
 
+void MainWindow::CloseAfterwards() {
+  if (notice_ != nullptr) return;
+  notice_ = new Notice(*this, QString::fromUtf8(kWhyOpen));
+  confirmation_.start();
+}
+
+void MainWindow::FollowConfirmation() {
+  if (platform::Form::CommandsHeld::Any()) {
+    // Boxes and screens that came meanwhile lie over it.
+    notice_->raise();
+    return;
+  }
+  confirmation_.stop();
+  delete notice_;
+  close();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (platform::Form::CommandsHeld::Any()) {
+    event->ignore();
+    CloseAfterwards();
+    return;
+  }
   if (!desktop_.IsIdle()) {
     event->ignore();
     desktop_.ShutDown([this] { close(); });
