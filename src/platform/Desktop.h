@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -103,7 +104,11 @@ class Desktop : public base::Clock {
 /// The file operations of a Desktop on the real file system; renderers call them.
 namespace files {
 bool Exists(const std::string& path);
+/// Unless the host keeps the file in another way.
 void Delete(const std::string& path);
+/// What the host does with a file of its own keeping instead of deleting it; false has it deleted.
+/// Empty where nothing is kept.
+void InsteadOfDeleting(std::function<bool(const std::string& path)> keep);
 std::string Read(const std::string& path);
 void Write(const std::string& path, const std::string& bytes);
 }  // namespace files

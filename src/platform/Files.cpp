@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <utility>
 
 #include "base/RuntimeError.h"
 #include "platform/Desktop.h"
@@ -98,6 +99,11 @@ bool IsBeingWritten(int file) {
   return HasWriter(file);
 }
 
+std::function<bool(const std::string&)>& Keeper() {
+  static std::function<bool(const std::string&)> keeper;
+  return keeper;
+}
+
 }  // namespace
 
 bool Exists(const std::string& path) {
@@ -105,8 +111,13 @@ bool Exists(const std::string& path) {
   return fs::exists(path, ignored) && !fs::is_directory(path, ignored);
 }
 
+void InsteadOfDeleting(std::function<bool(const std::string& path)> keep) {
+  Keeper() = std::move(keep);
+}
+
 void Delete(const std::string& path) {
   std::error_code failed;
+  if (Exists(path) && Keeper() && Keeper()(path)) return;
   if (!Exists(path) || !fs::remove(path, failed) || failed) Refuse(path);
 }
 

@@ -85,6 +85,9 @@ class Banco {
   /// The customer that this computer locked last and has not freed since; 0 for none.
   std::int32_t ClienteEmAtendimento() const { return clienteEmAtendimento_; }
   void ClienteEmAtendimento(std::int32_t codigo) { clienteEmAtendimento_ = codigo; }
+  /// The coupon that was asked for last, until a sale is registered; 0 for none.
+  std::int32_t CupomEmAndamento() const { return cupomEmAndamento_; }
+  void CupomEmAndamento(std::int32_t numero) { cupomEmAndamento_ = numero; }
 
   /// What became of what this program registered.
   services::Registros& Registros() { return *registros_; }
@@ -127,6 +130,7 @@ class Banco {
   std::function<void(const std::string&)> aoAvisar_;
   const base::Record* sessaoDoUsuario_ = nullptr;
   std::int32_t clienteEmAtendimento_ = 0;
+  std::int32_t cupomEmAndamento_ = 0;
   std::unique_ptr<services::Registros> registros_;
   std::vector<Liberacao> liberacoes_;
   int usos_ = 0;

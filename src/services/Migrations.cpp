@@ -383,6 +383,35 @@ CREATE UNIQUE INDEX movimentos_por_operacao ON lancamentos_de_caixa (operacao)
   WHERE numero_da_venda IS NULL;
 )sql";
 
+/// The coupons that were asked of the fiscal application: what each was for, under which names its
+/// files went, and what became of it. The customer is 0 where none was known; a coupon has a sale's
+/// number from the moment that its sale is registered, with the coupon's key or without.
+constexpr std::string_view kCoupons = R"sql(
+CREATE TABLE cupons (
+  numero {key},
+  situacao {text} NOT NULL CHECK (situacao IN
+    ('enviado', 'emitido', 'recusado', 'vendido', 'retirado', 'encerrado')),
+  criado_em {moment} NOT NULL,
+  computador {text} NOT NULL,
+  marca {text} NOT NULL,
+  numero_do_caixa {int} NOT NULL,
+  operador {text} NOT NULL,
+  codigo_do_cliente {int} NOT NULL,
+  consumidor {text} NOT NULL,
+  valor {money} NOT NULL,
+  conteudo {text} NOT NULL,
+  envio {text} NOT NULL,
+  retorno {text} NOT NULL,
+  chave {text} NOT NULL DEFAULT '',
+  nota {text} NOT NULL DEFAULT '',
+  numero_da_venda {int} REFERENCES vendas (numero)
+){table};
+CREATE INDEX cupons_em_aberto ON cupons (marca, computador)
+  WHERE situacao IN ('enviado', 'emitido', 'retirado');
+CREATE INDEX cupons_da_estacao ON cupons (marca, computador, criado_em);
+CREATE INDEX cupons_por_chave ON cupons (chave);
+)sql";
+
 /// The index of a table's names keeps no copy of them: it follows its table through triggers.
 constexpr std::string_view kSearchOnSqlite = R"sql(
 CREATE VIRTUAL TABLE {t}_busca USING fts5(nome_busca, content='{t}', content_rowid='{k}',
@@ -415,6 +444,7 @@ constexpr Migration kMigrations[] = {
     {2, kDocumentsAndEstimates, {}},
     {3, kSignInAttempts, {}},
     {4, kMarksAndOperations, {}},
+    {5, kCoupons, {}},
 };
 
 }  // namespace

@@ -1,265 +1,159 @@
 #include "services/PastaDeTroca.h"
 
-#include <fcntl.h>
-#include <signal.h>
 #include <unistd.h>
 
-#include <array>
-#include <atomic>
 #include <cerrno>
-#include <charconv>
-#include <cstdint>
-#include <cstdio>
-#include <random>
+#include <chrono>
 #include <system_error>
 #include <utility>
-#include <vector>
 
 #include "base/RuntimeError.h"
-#include "base/Text.h"
-#include "services/ExportacaoFiscal.h"
+#include "services/ArquivosDeTroca.h"
 
 namespace services {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kGravando = "GRAVANDO-";
-constexpr std::string_view kRetorno = "CFE-RETORNO-";
-constexpr std::string_view kTexto = ".txt";
-constexpr std::string_view kTemporario = ".tmp";
-constexpr const char* kAtrasadas = "respostas-atrasadas";
-
-struct Frase {
-  FalhaNaExportacao falha;
-  const char* texto;
-};
-
-Frase FraseDe(int codigo) {
-  using enum FalhaNaExportacao;
-  switch (codigo) {
-    case ENOENT:
-      return {kNoFolder,
-              "A pasta de troca com o aplicativo fiscal não foi encontrada. Confira a pasta, ou a "
-              "ligação com o computador em que ela está, e tente de novo."};
-    case ENOTDIR:
-      return {kNotAFolder,
-              "O que está no lugar da pasta de troca com o aplicativo fiscal não é uma pasta. "
-              "Confira as configurações e tente de novo."};
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return {kNoPermission,
-              "Não há permissão de gravar na pasta de troca com o aplicativo fiscal. Libere a "
-              "gravação na pasta e tente de novo."};
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return {kFull,
-              "Não há espaço para gravar na pasta de troca com o aplicativo fiscal. Libere espaço "
-              "e tente de novo."};
-    case ENAMETOOLONG:
-      return {kNameTooLong,
-              "O caminho da pasta de troca com o aplicativo fiscal é longo demais. Escolha nas "
-              "configurações uma pasta de caminho mais curto."};
-    default:
-      return {
-          kOther,
-          "Não foi possível gravar na pasta de troca com o aplicativo fiscal. Confira a pasta e "
-          "tente de novo; se o erro se repetir, avise o suporte."};
-  }
-}
-
-/// What the system itself says stands in brackets behind the sentence, for the support.
-[[noreturn]] void Falhar(int codigo, const fs::path& onde) {
-  const Frase frase = FraseDe(codigo);
-  throw base::RuntimeError(static_cast<std::int32_t>(frase.falha),
-                           std::string(frase.texto) + " (" + onde.string() + ": " +
-                               std::generic_category().message(codigo) + ")");
-}
-
-/// An open file or folder.
-class Descritor {
- public:
-  Descritor(const fs::path& caminho, int modo)
-      : numero_(open(caminho.c_str(), modo | O_CLOEXEC, 0666)) {}
-  ~Descritor() { Fechar(); }
-  Descritor(const Descritor&) = delete;
-  Descritor& operator=(const Descritor&) = delete;
-
-  bool Aberto() const { return numero_ >= 0; }
-  int Numero() const { return numero_; }
-  /// What was written may fail as late as here.
-  bool Fechar() {
-    const int numero = numero_;
-    numero_ = -1;
-    return numero < 0 || close(numero) == 0;
-  }
-
- private:
-  int numero_;
-};
-
-/// A file that goes again unless it was delivered.
+/// A file that goes again unless it was delivered: for good, or into the archive once it may be
+/// known outside.
 class Passageiro {
  public:
   explicit Passageiro(fs::path caminho) : caminho_(std::move(caminho)) {}
   ~Passageiro() {
-    if (!caminho_.empty()) unlink(caminho_.c_str());
+    if (caminho_.empty()) return;
+    const bool guardado =
+        pasta_ != nullptr && MoverNaTroca(caminho_, pasta_->Dentro(PastaDeTroca::kArquivo), nome_);
+    if (!guardado) unlink(caminho_.c_str());
   }
   Passageiro(const Passageiro&) = delete;
   Passageiro& operator=(const Passageiro&) = delete;
 
+  void GuardarSeFalhar(const PastaAberta& pasta, fs::path nome) {
+    pasta_ = &pasta;
+    nome_ = std::move(nome);
+  }
   void Renomear(const fs::path& novo) {
-    if (rename(caminho_.c_str(), novo.c_str()) != 0) Falhar(errno, novo);
+    if (rename(caminho_.c_str(), novo.c_str()) != 0) FalharNaTroca(errno, novo);
     caminho_ = novo;
   }
   void Entregar() { caminho_.clear(); }
 
  private:
-  fs::path caminho_;
+  fs::path caminho_, nome_;
+  const PastaAberta* pasta_ = nullptr;
 };
 
-void Escrever(Descritor& arquivo, std::string_view bytes, const fs::path& caminho) {
-  while (!bytes.empty()) {
-    const ssize_t escritos = write(arquivo.Numero(), bytes.data(), bytes.size());
-    if (escritos < 0 && errno == EINTR) continue;
-    if (escritos < 0) Falhar(errno, caminho);
-    bytes.remove_prefix(static_cast<std::size_t>(escritos));
+/// With nothing behind the last separator: paths of files in the folder are compared with it.
+fs::path Completa(const std::string& pasta) {
+  fs::path completa = fs::absolute(pasta).lexically_normal();
+  return completa.has_filename() ? completa : completa.parent_path();
+}
+
+bool EMaisVelhoQue(const fs::path& arquivo, std::chrono::hours idade) {
+  std::error_code falha;
+  const auto gravado = fs::last_write_time(arquivo, falha);
+  return !falha && fs::file_time_type::clock::now() - gravado > idade;
+}
+
+template <class Acao>
+void ParaCadaArquivo(const fs::path& pasta, Acao acao) {
+  std::error_code falha;
+  for (fs::directory_iterator i(pasta, falha), fim; !falha && i != fim; i.increment(falha)) {
+    acao(i->path());
   }
-  if (fsync(arquivo.Numero()) != 0) Falhar(errno, caminho);
-  if (!arquivo.Fechar()) Falhar(errno, caminho);
-}
-
-/// Makes the names in the folder durable. Some network folders have no such thing.
-bool Firmar(Descritor& pasta) {
-  return fsync(pasta.Numero()) == 0 || errno == EINVAL || errno == ENOTSUP;
-}
-
-std::string Hexadecimal(std::uint32_t numero, int digitos) {
-  std::array<char, 9> texto{};
-  std::snprintf(texto.data(), texto.size(), "%0*X", digitos, numero);
-  return texto.data();
-}
-
-/// A workstation's name as part of a file's: no two names give the same, and none gives a "-".
-std::string EmNomeDeArquivo(std::string_view computador) {
-  if (computador.empty()) return "_";
-  std::string nome;
-  for (const char c : computador) {
-    const bool minuscula = c >= 'a' && c <= 'z';
-    const bool simples = (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-    if (minuscula) {
-      nome += static_cast<char>(c - 'a' + 'A');
-    } else if (simples) {
-      nome += c;
-    } else {
-      nome += '_' + Hexadecimal(static_cast<unsigned char>(c), 2);
-    }
-  }
-  return nome;
-}
-
-/// Drawn once: it tells this process from an earlier one that had the same number.
-const std::string& Marca() {
-  static const std::string marca = Hexadecimal(std::random_device{}(), 8);
-  return marca;
-}
-
-std::string Momento(const base::DateTime& agora) {
-  std::array<char, 24> texto{};
-  std::snprintf(texto.data(), texto.size(), "%04d%02d%02d%02d%02d%02d", agora.Year(), agora.Month(),
-                agora.Day(), agora.Hour(), agora.Minute(), agora.Second());
-  return texto.data();
-}
-
-/// Whose a file of this workstation is.
-enum class Dono { kEsteProcesso, kOutroProcesso, kNinguem };
-
-/// `nome` is a stem behind the workstation's name; one that is not of our making is left to whoever
-/// made it. A process that is gone waits for nothing and writes nothing any more.
-Dono DonoDe(std::string_view nome) {
-  constexpr std::size_t kPartes = 4;
-  const std::vector<std::string> partes = base::Split(nome, '-');
-  if (partes.size() != kPartes) return Dono::kOutroProcesso;
-  const std::string& processo = partes[1];
-  pid_t numero = 0;
-  const char* const fim = processo.data() + processo.size();
-  const auto lido = std::from_chars(processo.data(), fim, numero);
-  if (lido.ec != std::errc() || lido.ptr != fim || numero <= 0) return Dono::kOutroProcesso;
-  if (numero == getpid()) return partes[2] == Marca() ? Dono::kEsteProcesso : Dono::kNinguem;
-  return kill(numero, 0) == 0 || errno == EPERM ? Dono::kOutroProcesso : Dono::kNinguem;
-}
-
-/// What stands between the two in a file's name; empty when it has another form.
-std::string_view Entre(std::string_view nome, const std::string& inicio, std::string_view fim) {
-  if (nome.size() < inicio.size() + fim.size()) return {};
-  if (!nome.starts_with(inicio) || !nome.ends_with(fim)) return {};
-  return nome.substr(inicio.size(), nome.size() - inicio.size() - fim.size());
-}
-
-bool Existe(const fs::path& caminho) {
-  std::error_code ignorado;
-  return fs::exists(fs::symlink_status(caminho, ignorado));
 }
 
 }  // namespace
 
-PastaDeTroca::PastaDeTroca(const std::string& pasta, const base::Clock& relogio,
-                           std::string_view computador)
-    : pasta_(fs::absolute(pasta)), relogio_(relogio), computador_(EmNomeDeArquivo(computador)) {}
+PastaDeTroca::PastaDeTroca(const std::string& pasta, std::string_view computador,
+                           std::string_view marca)
+    : pasta_(Completa(pasta)), nomes_(computador, marca) {}
 
-PastaDeTroca::Arquivos PastaDeTroca::Gravar(std::string_view especie,
-                                            std::string_view bytes) const {
-  static std::atomic<std::uint64_t> numeros = 0;
-  Descritor pasta(pasta_, O_RDONLY | O_DIRECTORY);
-  if (!pasta.Aberto()) Falhar(errno, pasta_);
-  Arrumar();
+PastaDeTroca::Arquivos PastaDeTroca::Gravar(std::string_view especie, std::string_view bytes,
+                                            base::DateTime agora,
+                                            const AntesDeSair& antesDeSair) const {
+  const PastaAberta pasta(pasta_);
   for (;;) {
-    const std::string nome = computador_ + '-' + Momento(relogio_.Now()) + '-' +
-                             std::to_string(getpid()) + '-' + Marca() + '-' +
-                             std::to_string(++numeros);
-    const fs::path temporario = pasta_ / (std::string(kGravando) + nome + std::string(kTemporario));
-    const fs::path envio = pasta_ / (std::string(especie) + nome + std::string(kTexto));
-    const fs::path retorno = pasta_ / (std::string(kRetorno) + nome + std::string(kTexto));
-    Descritor arquivo(temporario, O_WRONLY | O_CREAT | O_EXCL);
-    if (!arquivo.Aberto() && errno == EEXIST) continue;
-    if (!arquivo.Aberto()) Falhar(errno, temporario);
+    const std::string raiz = nomes_.Novo(agora);
+    const auto caminho = [&](std::string_view antes, std::string_view depois) {
+      return pasta_ / (std::string(antes) + raiz + std::string(depois));
+    };
+    const fs::path temporario = caminho(kArquivoSendoGravado, kExtensaoTemporaria);
+    const fs::path envio = caminho(especie, kExtensaoDeTexto);
+    const fs::path retorno = caminho(kArquivoDeRetorno, kExtensaoDeTexto);
+    if (ExisteNaTroca(temporario) || ExisteNaTroca(envio) || ExisteNaTroca(retorno)) continue;
     Passageiro passageiro(temporario);
-    if (Existe(envio) || Existe(retorno)) continue;
-    Escrever(arquivo, bytes, temporario);
+    if (!pasta.Escrever(temporario, bytes)) {
+      passageiro.Entregar();  // It is another one's.
+      continue;
+    }
+    Arquivos arquivos{envio.string(), retorno.string()};
+    if (antesDeSair) {
+      passageiro.GuardarSeFalhar(pasta, envio.filename());
+      antesDeSair(arquivos);
+    }
     passageiro.Renomear(envio);
     // Taken already is as good as kept.
-    if (!Firmar(pasta) && Existe(envio)) Falhar(EIO, pasta_);
+    if (!pasta.Firmar() && ExisteNaTroca(envio)) FalharNaTroca(EIO, pasta_);
     passageiro.Entregar();
-    return {envio.string(), retorno.string()};
+    return arquivos;
   }
 }
 
 void PastaDeTroca::Arrumar() const {
-  std::error_code falha;
-  for (fs::directory_iterator i(pasta_, falha), fim; !falha && i != fim; i.increment(falha)) {
-    const std::string nome = i->path().filename().string();
-    const std::string_view resposta =
-        Entre(nome, std::string(kRetorno) + computador_ + '-', kTexto);
-    const std::string_view meiaEscrita =
-        Entre(nome, std::string(kGravando) + computador_ + '-', kTemporario);
+  // One without a mark may be awaited by another computer of this name, but not for that long.
+  constexpr std::chrono::hours kUmDia{24};
+  const PastaAberta pasta(pasta_);
+  ParaCadaArquivo(pasta_, [&](const fs::path& arquivo) {
+    const std::string nome = arquivo.filename().string();
+    const auto largado = [&](std::string_view especie, std::string_view extensao) {
+      const auto achado = nomes_.Ler(nome, especie, extensao);
+      return achado && (!achado->semMarca || EMaisVelhoQue(arquivo, kUmDia)) ? achado->dono
+                                                                             : Dono::kOutroProcesso;
+    };
     // In this process nobody waits for anything earlier once it exports again, but another thread
     // may be writing.
-    if (!resposta.empty() && DonoDe(resposta) != Dono::kOutroProcesso) PorDeLado(i->path());
-    if (!meiaEscrita.empty() && DonoDe(meiaEscrita) == Dono::kNinguem) unlink(i->path().c_str());
-  }
+    if (largado(kArquivoDeRetorno, kExtensaoDeTexto) != Dono::kOutroProcesso) {
+      MoverNaTroca(arquivo, pasta.Dentro(kAtrasadas), nome);
+    }
+    if (largado(kArquivoSendoGravado, kExtensaoTemporaria) == Dono::kNinguem) {
+      // As an outbound file that was taken back: that is what became of it.
+      const std::string raiz = arquivo.stem().string().substr(kArquivoSendoGravado.size());
+      const std::string envio = std::string(kArquivoDeEnvio) + raiz + std::string(kExtensaoDeTexto);
+      if (!MoverNaTroca(arquivo, pasta.Dentro(kArquivo), envio)) {
+        unlink(arquivo.c_str());
+      }
+    }
+  });
 }
 
-void PastaDeTroca::PorDeLado(const fs::path& resposta) const {
-  std::error_code falha;
-  const fs::path pasta = pasta_ / kAtrasadas;
-  fs::create_directory(pasta, falha);
-  fs::path destino = pasta / resposta.filename();
-  for (int i = 2; Existe(destino); ++i) {
-    destino = pasta / (resposta.stem().string() + '-' + std::to_string(i) + std::string(kTexto));
-  }
-  fs::rename(resposta, destino, falha);
+bool PastaDeTroca::Guardar(const std::string& arquivo) const {
+  const fs::path caminho(arquivo);
+  if (caminho.parent_path() != pasta_ || !ExisteNaTroca(caminho)) return false;
+  return MoverNaTroca(caminho, PastaAberta(pasta_).Dentro(kArquivo), caminho.filename());
+}
+
+bool PastaDeTroca::GuardarEmVezDeApagar(const std::string& arquivo) const {
+  const fs::path caminho(arquivo);
+  if (caminho.parent_path() != pasta_) return false;
+  if (Guardar(arquivo)) return true;
+  if (caminho.filename().string().starts_with(kArquivoDeEnvio)) return false;
+  throw base::RuntimeError(base::Fault::kPermissionDenied);
+}
+
+void PastaDeTroca::LimparArquivo() const {
+  constexpr std::chrono::hours kTrintaDias{30 * 24};
+  ParaCadaArquivo(pasta_ / kArquivo, [&](const fs::path& arquivo) {
+    std::error_code ignorado;
+    if (EMaisVelhoQue(arquivo, kTrintaDias)) fs::remove(arquivo, ignorado);
+  });
+}
+
+bool PastaDeTroca::EDeOutroPrograma(const std::string& envio) const {
+  const auto achado =
+      nomes_.Ler(fs::path(envio).filename().string(), kArquivoDeEnvio, kExtensaoDeTexto);
+  return achado && achado->dono == Dono::kOutroProcesso;
 }
 
 }  // namespace services

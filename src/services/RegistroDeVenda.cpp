@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "services/Banco.h"
 #include "services/Caixas.h"
+#include "services/Cupons.h"
 #include "services/DatabaseError.h"
 #include "services/EscritaDeVenda.h"
 #include "services/LimiteDeCredito.h"
@@ -84,6 +85,7 @@ bool TryToWrite(Session& session, const Venda& venda, const Estacao& estacao,
                                : EscreverNoPostgres(session, venda, estacao);
       if (!written) throw NotLetIn{};
       number = *written;
+      VincularCupom(session, venda, number);
       transaction.ProvedBy(proof, {number, venda.operacao});
     });
     return true;

@@ -113,11 +113,12 @@ void Session::WhileWaiting(std::function<void()> paint) {
 void Session::TellReconnection() noexcept {
   if (!hasReconnected_ || isInTransaction_) return;
   hasReconnected_ = false;
-  if (!onReconnected_) return;
-  try {
-    onReconnected_();
-  } catch (const std::exception&) {
-    // It was news, not work: whoever works meets the same trouble.
+  for (const auto& listener : onReconnected_) {
+    try {
+      listener();
+    } catch (const std::exception&) {
+      // It was news, not work: whoever works meets the same trouble.
+    }
   }
 }
 

@@ -128,9 +128,11 @@ class Session {
   virtual bool IsConnected() const { return true; }
   /// Makes a lost connection again, within 2 s or not at all; for a host's timer, at rest.
   virtual bool TryToReconnect() noexcept { return true; }
-  /// `listener` is told whenever a connection was made again after a loss, once no call and no
-  /// transaction is under way: it may use the session. What it throws is dropped.
-  void OnReconnected(std::function<void()> listener) { onReconnected_ = std::move(listener); }
+  /// `listener`, one of any number, is told whenever a connection was made again after a loss, once
+  /// no call and no transaction is under way: it may use the session. What it throws is dropped.
+  void OnReconnected(std::function<void()> listener) {
+    onReconnected_.push_back(std::move(listener));
+  }
 
   void Observe(Observer observer) { observer_ = std::move(observer); }
   /// How often the engine was asked so far: over a network, the round trips.
@@ -170,7 +172,7 @@ class Session {
   std::function<void()> meanwhile_;
   Limits limits_;
   std::optional<Clock::time_point> start_;
-  std::function<void()> onReconnected_;
+  std::vector<std::function<void()>> onReconnected_;
   std::int64_t calls_ = 0;
   bool isInTransaction_ = false;
   bool hasReconnected_ = false;

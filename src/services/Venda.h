@@ -51,6 +51,7 @@ struct Venda {
   base::Currency creditoAnterior;
   std::string observacao, chaveSat;
   bool alemDoLimite = false;  ///< Who sells may let the customer owe more than his limit.
+  std::int32_t cupom = 0;  ///< That it was to have, by its number in `cupons`; 0 for none.
   std::vector<Item> itens;
   std::vector<Recebimento> recebimentos;
 

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
+#include "services/Cupons.h"
 #include "services/Fabricas.h"
 #include "services/Fields.h"
 #include "services/LeituraDeVenda.h"
@@ -118,16 +119,7 @@ class clsCaixa : public SobreBanco<Contrato> {
   std::int16_t RegistrarPagamento() override {
     return Numerado("RegistrarPagamento", [this] {
       numeroDaVenda_ = 0;
-      Venda venda = venda_;
-      venda.codigoDoCliente = LerCodigoDoCliente(cliente_);
-      venda.itens = LerItens(itens_);
-      venda.recebimentos = LerRecebimentos(pagamentos_);
-      ExigirCentavos(venda);
-      FecharContas(venda, troco_);
-      venda.alemDoLimite = !venda.RecebidoEm(kACredito).IsZero() && EAdministrador();
-      venda.quando = banco().Agora();
-      venda.operacao = NumeroUnico();
-      numeroDaVenda_ = RegistrarVenda(banco(), venda);
+      GuardandoCupom(banco(), venda_, [this] { Registrar(venda_); });
     });
   }
   std::int32_t NumeroDaVenda() override { return numeroDaVenda_; }
@@ -159,6 +151,19 @@ class clsCaixa : public SobreBanco<Contrato> {
                         "valor de novo."};
     }
     return valor;
+  }
+
+  void Registrar(Venda venda) {
+    venda.codigoDoCliente = LerCodigoDoCliente(cliente_);
+    venda.itens = LerItens(itens_);
+    venda.recebimentos = LerRecebimentos(pagamentos_);
+    ExigirCentavos(venda);
+    FecharContas(venda, troco_);
+    venda.alemDoLimite = !venda.RecebidoEm(kACredito).IsZero() && EAdministrador();
+    venda.quando = banco().Agora();
+    venda.operacao = NumeroUnico();
+    venda.cupom = CupomDaVenda(banco(), venda);
+    numeroDaVenda_ = RegistrarVenda(banco(), venda);
   }
 
   void Mover(TipoDeLancamento tipo, const char* descricao, base::Currency valor) {

@@ -1,43 +1,28 @@
+#include <exception>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
 
-#include "base/RuntimeError.h"
-#include "base/Text.h"
-#include "base/Windows1252.h"
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
+#include "services/Banco.h"
+#include "services/EmissaoDeCupons.h"
 #include "services/ExportacaoFiscal.h"
 #include "services/Outcome.h"
 #include "services/PastaDeTroca.h"
+#include "services/Session.h"
 
 namespace services {
 namespace {
 
-constexpr std::string_view kEnvio = "CFE-ENVIO-";
-constexpr std::string_view kAdministracao = "CFE-ADMIN-";
-
-/// In the exchange's encoding; a character that is not there is never replaced by another.
-std::string Codificar(std::string_view texto) {
-  std::string bytes;
-  bytes.reserve(texto.size());
-  while (!texto.empty()) {
-    const char32_t caractere = base::TakeCharacter(texto);
-    const auto byte = base::ToWindows1252(caractere);
-    if (!byte) {
-      throw base::RuntimeError(static_cast<std::int32_t>(FalhaNaExportacao::kCharacter),
-                               "O cupom tem um caractere que o aplicativo fiscal não lê: '" +
-                                   base::FromCharacters({&caractere, 1}) +
-                                   "'. Corrija o cadastro em que ele está e confirme de novo.");
-    }
-    bytes += *byte;
-  }
-  return bytes;
+PastaDeTroca PastaDe(const Banco& banco, const std::string& pasta) {
+  return {pasta, banco.Computador(), banco.Marca()};
 }
 
 class clsOSExportarRegistros : public servicos::ZOVA_N_OSParaBD::clsOSExportarRegistros {
  public:
-  clsOSExportarRegistros(const PastaDeTroca& pasta, RelatarFalha relatar)
-      : pasta_(pasta), relatar_(std::move(relatar)) {}
+  clsOSExportarRegistros(const EmissaoDeCupons& emissao, RelatarFalha relatar)
+      : emissao_(emissao), relatar_(std::move(relatar)) {}
 
   void DadosDoUsuario(const base::Record*) override {}
   std::int32_t NumeroDoErro() override { return outcome_.number; }
@@ -47,30 +32,30 @@ class clsOSExportarRegistros : public servicos::ZOVA_N_OSParaBD::clsOSExportarRe
 
   std::int16_t ExportarDadosCFeSATParaArquivo(std::string_view cabecalho, std::string_view itens,
                                               std::string_view pagamentos) override {
-    std::string texto(cabecalho);
-    texto.append(itens).append(pagamentos);
-    return Gravar("ExportarDadosCFeSATParaArquivo", kEnvio, texto);
+    return Exportar("ExportarDadosCFeSATParaArquivo",
+                    [&] { arquivos_ = emissao_.Exportar(cabecalho, itens, pagamentos); });
   }
   std::int16_t ExportarDadosParaCancelarCFeSAT(std::string_view texto) override {
-    const std::int16_t situacao = Gravar("ExportarDadosParaCancelarCFeSAT", kAdministracao, texto);
-    arquivos_ = {};  // An instruction has no answer to wait for.
-    return situacao;
+    // An instruction has no answer to wait for.
+    return Exportar("ExportarDadosParaCancelarCFeSAT", [&] { emissao_.Instruir(texto); });
   }
   std::string NomeCompleDoArquivoDeEnvioComDadosCFeSAT() override { return arquivos_.envio; }
   std::string NomeCompleDoArquivoDeRetornoComDadosCFeSAT() override { return arquivos_.retorno; }
+  bool EnvioFoiGravado() override { return !arquivos_.envio.empty(); }
 
  private:
-  std::int16_t Gravar(std::string_view membro, std::string_view especie, std::string_view texto) {
+  std::int16_t Exportar(std::string_view membro, const std::function<void()>& exportar) {
     arquivos_ = {};
-    const std::int16_t situacao = outcome_.Of(
-        kIdentificador, membro, [&] { arquivos_ = pasta_.Gravar(especie, Codificar(texto)); });
-    if (situacao == servicos::kErro && relatar_) {
-      relatar_(outcome_.number, outcome_.description, outcome_.place);
+    if (outcome_.Of(kIdentificador, membro, exportar) == servicos::kSucesso) {
+      return servicos::kSucesso;
     }
-    return situacao;
+    // The contract knows no refusal here.
+    if (outcome_.description.empty()) outcome_.description = outcome_.sentence;
+    if (relatar_) relatar_(outcome_.number, outcome_.description, outcome_.place);
+    return servicos::kErro;
   }
 
-  PastaDeTroca pasta_;
+  EmissaoDeCupons emissao_;
   RelatarFalha relatar_;
   Outcome outcome_;
   PastaDeTroca::Arquivos arquivos_;
@@ -78,13 +63,33 @@ class clsOSExportarRegistros : public servicos::ZOVA_N_OSParaBD::clsOSExportarRe
 
 }  // namespace
 
-void RegistrarExportacaoFiscal(const std::string& pasta, const base::Clock& relogio,
-                               const std::string& computador, RelatarFalha relatar) {
+void RegistrarExportacaoFiscal(const std::shared_ptr<Banco>& banco, const std::string& pasta,
+                               RelatarFalha relatar) {
+  // The key of a sale that failed because the database was away stands in the archive meanwhile.
+  banco->Sessao().OnReconnected(
+      [banco = banco.get()] { CompletarCupons(*banco, Alcance::kEstaEstacao); });
   servicos::Registrar(
       clsOSExportarRegistros::kIdentificador,
-      [troca = PastaDeTroca(pasta, relogio, computador), relatar = std::move(relatar)] {
-        return std::make_unique<clsOSExportarRegistros>(troca, relatar);
+      [emissao = EmissaoDeCupons(banco, PastaDe(*banco, pasta)), relatar = std::move(relatar)] {
+        return std::make_unique<clsOSExportarRegistros>(emissao, relatar);
       });
+}
+
+void RetomarCupons(const std::shared_ptr<Banco>& banco, const std::string& pasta) {
+  const PastaDeTroca troca = PastaDe(*banco, pasta);
+  try {
+    EmissaoDeCupons(banco, troca).Retomar();
+    troca.LimparArquivo();
+  } catch (const std::exception&) {
+    // The next export does it, or tells what is in the way.
+  }
+}
+
+std::function<bool(const std::string&)> ArquivoDaTroca(const Banco& banco,
+                                                       const std::string& pasta) {
+  return [troca = PastaDe(banco, pasta)](const std::string& arquivo) {
+    return troca.GuardarEmVezDeApagar(arquivo);
+  };
 }
 
 }  // namespace services

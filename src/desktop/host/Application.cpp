@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QScreen>
+#include <QSessionManager>
 #include <QSocketNotifier>
 #include <QStandardPaths>
 #include <QTimer>
@@ -37,6 +38,7 @@
 #include "frame/servicos/Servico.h"
 #include "services/AjustesDaEmpresa.h"
 #include "services/Banco.h"
+#include "services/ConsultaDeCupons.h"
 #include "services/Demonstracao.h"
 #include "services/Estacao.h"
 #include "services/ExportacaoFiscal.h"
@@ -107,6 +109,13 @@ class EndRequests {
  public:
   EndRequests(QWidget& window, const desktop::DesktopQt& desktop)
       : window_(window), desktop_(desktop) {
+    QObject::connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, &window,
+        [this](QSessionManager& session) {
+          // A session that ends while something is being confirmed has to be ended once more.
+          if (!window_.close() && platform::Form::CommandsHeld::Any()) session.cancel();
+        },
+        Qt::DirectConnection);
     if (socketpair(AF_UNIX, SOCK_STREAM, 0, sockets_) != 0) return;
     notifier_ = std::make_unique<QSocketNotifier>(sockets_[1], QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, &window, [this] {
@@ -150,6 +159,7 @@ class Application {
     player_.reset();
     window_.reset();
     servicos::EsquecerTodos();
+    platform::files::InsteadOfDeleting({});
     platform::Desktop::Install(nullptr);
   }
   Application(const Application&) = delete;
@@ -159,8 +169,8 @@ class Application {
   int Run() {
     ReadSettings();
     OpenDatabase();
-    MeetFiscalApplication();
     window_ = std::make_unique<MainWindow>(desktop_);
+    MeetFiscalApplication();
     window_->onClosed = [] { QCoreApplication::exit(0); };
     const EndRequests requests(*window_, desktop_);
     ShowWindow();
@@ -220,8 +230,16 @@ class Application {
       folder = (fs::path(desktop_.ModuleFolder()) / kExchangeFolder).string();
       Made(folder);
     }
-    services::RegistrarExportacaoFiscal(folder, desktop_, desktop_.ComputerName(),
-                                        frame::ExibirRelato);
+    services::RegistrarExportacaoFiscal(bank_, folder, frame::ExibirRelato);
+    platform::files::InsteadOfDeleting(services::ArquivoDaTroca(*bank_, folder));
+    bank_->AoAvisar([this](const std::string& sentence) {
+      if (window_ != nullptr) window_->Tell(sentence);
+    });
+    window_->onSignedIn = [this, folder] {
+      services::RetomarCupons(bank_, folder);
+      const std::string left = services::AvisoDeCupons(*bank_);
+      if (!left.empty()) window_->Tell(left);
+    };
   }
 
   void OpenDatabase() {
@@ -233,10 +251,10 @@ class Application {
     }
     // A script leaves nothing but its pictures.
     const std::string mark = IsScripted() ? "" : services::MarcaDaEstacao(desktop_.ModuleFolder());
-    const auto bank = services::AbrirBanco(address, desktop_, desktop_.ComputerName(), mark);
-    bank->Sessao().WhileWaiting([this] { desktop_.Paint(); });
-    services::RegistrarServicos(bank, [this] { desktop_.ProcessEvents(); });
-    care_.emplace(desktop_, bank);
+    bank_ = services::AbrirBanco(address, desktop_, desktop_.ComputerName(), mark);
+    bank_->Sessao().WhileWaiting([this] { desktop_.Paint(); });
+    services::RegistrarServicos(bank_, [this] { desktop_.ProcessEvents(); });
+    care_.emplace(desktop_, bank_);
     siblings::RegistrarTelas();
   }
 
@@ -319,6 +337,7 @@ class Application {
   const Options& options_;
   desktop::DesktopQt desktop_;
   Settings settings_;
+  std::shared_ptr<services::Banco> bank_;
   std::optional<PendingCare> care_;
   std::shared_ptr<services::Banco> demonstration_;
   std::vector<services::UsuarioDeDemonstracao> users_;

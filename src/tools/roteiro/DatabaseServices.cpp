@@ -48,7 +48,9 @@ class ToldViewer final : public clsMensagem {
 std::string ExchangeFolder(const Options& options, platform::Desktop& desktop) {
   if (!options.exchange.empty()) return options.exchange;
   const std::filesystem::path folder = std::filesystem::path(desktop.ModuleFolder()) / "cfe";
-  std::filesystem::create_directory(folder);
+  if (std::filesystem::create_directory(folder)) {
+    std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
+  }
   return folder.string();
 }
 
@@ -84,8 +86,10 @@ std::function<void()> UseDatabase(const Options& options, StandIns& standIns,
   const auto bank = services::AbrirBanco(options.database, desktop, desktop.ComputerName(),
                                          services::MarcaDaEstacao(desktop.ModuleFolder()));
   services::RegistrarServicos(bank);
-  services::RegistrarExportacaoFiscal(ExchangeFolder(options, desktop), desktop,
-                                      desktop.ComputerName(), frame::ExibirRelato);
+  const std::string exchange = ExchangeFolder(options, desktop);
+  services::RegistrarExportacaoFiscal(bank, exchange, frame::ExibirRelato);
+  services::RetomarCupons(bank, exchange);
+  platform::files::InsteadOfDeleting(services::ArquivoDaTroca(*bank, exchange));
   UseSuite(standIns);
   return CareOf(bank, desktop);
 }

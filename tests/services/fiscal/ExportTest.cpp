@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -22,8 +23,11 @@
 #include <vector>
 
 #include "base/Clock.h"
+#include "base/RuntimeError.h"
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
+#include "services/Banco.h"
 #include "services/ExportacaoFiscal.h"
+#include "services/PastaDeTroca.h"
 #include "support/TemporaryFolder.h"
 
 namespace {
@@ -54,17 +58,37 @@ std::set<std::string> Names(const fs::path& folder) {
   return names;
 }
 
+constexpr const char* kStation = "0123456789ABCDEF";
+
 class FiscalExport : public testing::Test {
  protected:
-  FiscalExport() { Register(folder.Path().string(), "Loja 1"); }
-  ~FiscalExport() override { servicos::EsquecerTodos(); }
+  FiscalExport() {
+    services::CriarBanco(Address());
+    Register(folder.Path().string(), "Loja 1");
+  }
+  ~FiscalExport() override { Forget(); }
 
-  void Register(const std::string& where, const std::string& computer) {
+  std::string Address() const { return "sqlite:" + elsewhere.File("clinica.db"); }
+  void Register(const std::string& where, const std::string& computer,
+                const std::string& station = kStation) {
+    bank = services::AbrirBanco(Address(), clock, computer, station);
     services::RegistrarExportacaoFiscal(
-        where, clock, computer,
+        bank, where,
         [this](std::int32_t number, const std::string& text, const std::string& place) {
           told.push_back(std::to_string(number) + " " + text + " " + place);
         });
+  }
+  /// No connection may be carried into another process.
+  void Forget() {
+    servicos::EsquecerTodos();
+    bank.reset();
+  }
+  std::vector<std::string> NamesWith(const std::string& start) const {
+    std::vector<std::string> names;
+    for (const std::string& name : Names(folder.Path())) {
+      if (name.starts_with(start)) names.push_back(name);
+    }
+    return names;
   }
   static std::unique_ptr<clsOSExportarRegistros> Service() {
     return servicos::CriarServico<clsOSExportarRegistros>();
@@ -76,20 +100,28 @@ class FiscalExport : public testing::Test {
     fs::remove(service->NomeCompleDoArquivoDeEnvioComDadosCFeSAT());
     return service->NomeCompleDoArquivoDeRetornoComDadosCFeSAT();
   }
-  /// Runs something in a process of its own, which has ended then.
-  static void InAnotherProcess(const std::function<void()>& run) {
+  /// Starts a process that runs something as the workstation "Loja".
+  pid_t Start(const std::function<void()>& run) {
+    Forget();
     const pid_t child = fork();
     if (child == 0) {
+      Register(folder.Path().string(), "Loja");
       run();
+      Forget();
       _exit(0);
     }
+    Register(folder.Path().string(), "Loja");
+    return child;
+  }
+  static void AwaitEnd(pid_t child) {
     int status = 0;
     waitpid(child, &status, 0);
     EXPECT_EQ(status, 0);
   }
 
-  support::TemporaryFolder folder;
+  support::TemporaryFolder folder, elsewhere;
   StoppedClock clock;
+  std::shared_ptr<services::Banco> bank;
   std::vector<std::string> told;
 };
 
@@ -101,7 +133,9 @@ TEST_F(FiscalExport, WritesHeaderItemsAndPaymentsAByteACharacter) {
   EXPECT_EQ(Bytes(sent), "|00|A\xE7\xE3o \x80|\r\n|05|\xFC|\r\n|10|\r\n");
   const std::string name = sent.filename();
   EXPECT_THAT(Names(folder.Path()), ElementsAre(name));
-  const std::regex form("CFE-ENVIO-LOJA_201-20261122143005-[0-9]+-[0-9A-F]{8}-[0-9]+\\.txt");
+  const std::regex form(
+      "CFE-ENVIO-LOJA_201-0123456789ABCDEF-20261122143005-[0-9]+-"
+      "[0-9A-F]{8}-[0-9]+\\.txt");
   EXPECT_TRUE(std::regex_match(name, form)) << name;
   EXPECT_EQ(service->NomeCompleDoArquivoDeRetornoComDadosCFeSAT(),
             folder.File("CFE-RETORNO-" + name.substr(10)));
@@ -136,20 +170,20 @@ TEST_F(FiscalExport, AFileIsWholeFromTheMomentItBearsItsName) {
 
 TEST_F(FiscalExport, NoTwoExportsShareANameWhoeverMakesThem) {
   constexpr int kEach = 250;
-  const auto export250 = [] {
-    for (int i = 0; i < kEach; ++i) Service()->ExportarDadosCFeSATParaArquivo("|00|", "", "");
+  const auto write250 = [this] {
+    const services::PastaDeTroca exchange(folder.Path().string(), "Loja", kStation);
+    for (int i = 0; i < kEach; ++i) exchange.Gravar("CFE-ENVIO-", "|00|", clock.Now());
   };
   // Children that begin as one process were: neither thread nor process may count as the other.
   std::vector<pid_t> children;
   for (int i = 0; i < 2; ++i) {
-    children.push_back(fork());
-    if (children.back() != 0) continue;
-    std::thread other(export250);
-    export250();
-    other.join();
-    _exit(0);
+    children.push_back(Start([&] {
+      std::thread other(write250);
+      write250();
+      other.join();
+    }));
   }
-  for (const pid_t child : children) waitpid(child, nullptr, 0);
+  for (const pid_t child : children) AwaitEnd(child);
   const std::set<std::string> names = Names(folder.Path());
   EXPECT_EQ(names.size(), 4U * kEach);
   for (const std::string& name : names) ASSERT_THAT(name, testing::StartsWith("CFE-ENVIO-"));
@@ -193,7 +227,8 @@ TEST_F(FiscalExport, WhatCannotBeWrittenIsToldAndLeavesNothing) {
     const char* sentence;
   };
   const std::string here = folder.Path().string();
-  const std::string file = folder.File("arquivo");
+  fs::permissions(elsewhere.Path(), fs::perms(0711));  // The database stays in sight.
+  const std::string file = folder.File("um-arquivo");
   Put(file, "");
   const std::string text(1000, 'x');
   const Fault kFaults[] = {
@@ -220,7 +255,7 @@ TEST_F(FiscalExport, WhatCannotBeWrittenIsToldAndLeavesNothing) {
     EXPECT_THAT(service->LocalDoErro(), HasSubstr("ExportarDadosCFeSATParaArquivo"));
     EXPECT_THAT(told, ElementsAre(std::to_string(fault.number) + " " + service->DescricaoDoErro() +
                                   " " + service->LocalDoErro()));
-    EXPECT_THAT(Names(folder.Path()), ElementsAre("arquivo")) << fault.sentence;
+    EXPECT_THAT(Names(folder.Path()), ElementsAre("um-arquivo")) << fault.sentence;
   }
 }
 
@@ -228,37 +263,107 @@ TEST_F(FiscalExport, ALateAnswerIsSetAsideAndOthersFilesAreLeftAlone) {
   Register(folder.Path().string(), "Loja");
   // An export of this process, and one of a process that is gone and died in the next.
   const fs::path own = AnswerOfAnExport();
-  InAnotherProcess([&] {
+  AwaitEnd(Start([&] {
     const std::string stem = AnswerOfAnExport().filename().string().substr(12);
     Put(folder.File("CFE-RETORNO-" + stem), "gone");
     Put(folder.File("GRAVANDO-" + stem.substr(0, stem.size() - 4) + "9.tmp"), "half");
-  });
-  const std::string gone = *Names(folder.Path()).begin();
+  }));
+  const std::string gone = NamesWith("CFE-RETORNO-").front();
   Put(own, "own");
-  // Another program of this workstation that lives and may wait, and other workstations.
+  // Another program of this workstation that lives and may wait.
+  std::array<int, 2> pipe{};
+  ASSERT_EQ(::pipe(pipe.data()), 0);
+  const pid_t living = Start([&] {
+    Put(AnswerOfAnExport(), "living");
+    char byte = 0;
+    EXPECT_EQ(write(pipe[1], &byte, 1), 1);
+    pause();
+  });
+  char byte = 0;
+  ASSERT_EQ(read(pipe[0], &byte, 1), 1);
+  std::set<std::string> expected;
+  for (const std::string& name : NamesWith("CFE-RETORNO-")) {
+    if (Bytes(folder.File(name)) == "living") expected.insert(name);
+  }
+  EXPECT_EQ(expected.size(), 1U);
+  // Other workstations, one of the same name among them; and an earlier version's, of just now and
+  // of the day before yesterday.
+  const std::string old = "CFE-RETORNO-LOJA-20261120143005-999999999-00000000-1.txt";
   const std::string kLeft[] = {
-      "CFE-RETORNO-LOJA-20261122143005-" + std::to_string(getppid()) + "-00000000-1.txt",
-      "CFE-RETORNO-LOJA_201-20261122143005-999999999-00000000-1.txt",
-      "CFE-RETORNO-LOJA_2D1-20261122143005-999999999-00000000-1.txt",
+      "CFE-RETORNO-LOJA-FEDCBA9876543210-20261122143005-999999999-00000000-1.txt",
+      "CFE-RETORNO-LOJA-20261122143005-999999999-00000000-1.txt",
+      "CFE-RETORNO-LOJA_201-0123456789ABCDEF-20261122143005-999999999-00000000-1.txt",
       "CFE-RETORNO-LOJA-de-outro.txt",
-      "GRAVANDO-OUTRA-20261122143005-999999999-00000000-1.tmp",
+      "GRAVANDO-OUTRA-0123456789ABCDEF-20261122143005-999999999-00000000-1.tmp",
   };
   for (const std::string& name : kLeft) Put(folder.File(name), name);
+  expected.insert(std::begin(kLeft), std::end(kLeft));
+  Put(folder.File(old), "old");
+  fs::last_write_time(folder.File(old), fs::file_time_type::clock::now() - std::chrono::hours(48));
   // An answer of that name was set aside before.
   fs::create_directory(folder.File("respostas-atrasadas"));
   Put(folder.File("respostas-atrasadas/" + own.filename().string()), "earlier");
 
   const fs::path answer = AnswerOfAnExport();
-  std::set<std::string> expected(std::begin(kLeft), std::end(kLeft));
-  expected.insert("respostas-atrasadas");
+  kill(living, SIGKILL);
+  waitpid(living, nullptr, 0);
+  expected.insert({"respostas-atrasadas", "arquivo"});
   EXPECT_EQ(Names(folder.Path()), expected);
   EXPECT_NE(answer, own);
   const std::string aside = folder.File("respostas-atrasadas/");
   const std::string second = own.stem().string() + "-2.txt";
-  EXPECT_THAT(Names(aside), UnorderedElementsAre(gone, own.filename().string(), second));
+  EXPECT_THAT(Names(aside), UnorderedElementsAre(gone, old, own.filename().string(), second));
   EXPECT_EQ(Bytes(aside + gone), "gone");
   EXPECT_EQ(Bytes(aside + own.filename().string()), "earlier");
   EXPECT_EQ(Bytes(aside + second), "own");
+  EXPECT_EQ(Bytes(folder.File("arquivo/CFE-ENVIO-" + gone.substr(12, gone.size() - 16) + "9.txt")),
+            "half")
+      << "as a file that nobody ever took";
+}
+
+TEST_F(FiscalExport, IsReadByThoseAloneWhoMayTakeIt) {
+  const auto modeOf = [](const fs::path& path) {
+    return static_cast<unsigned>(fs::status(path).permissions());
+  };
+  struct Case {
+    unsigned folder, file, archive;
+  };
+  for (const Case& each : {Case{0700, 0600, 0700}, Case{0755, 0600, 0700}, Case{0770, 0660, 0770},
+                           Case{0775, 0660, 0770}, Case{0777, 0664, 0777}}) {
+    SCOPED_TRACE(each.folder);
+    fs::permissions(folder.Path(), fs::perms(each.folder));
+    const auto service = Service();
+    ASSERT_EQ(service->ExportarDadosCFeSATParaArquivo("|00|\r\n", "", ""), 0);
+    const fs::path sent = service->NomeCompleDoArquivoDeEnvioComDadosCFeSAT();
+    EXPECT_EQ(modeOf(sent), each.file);
+    EXPECT_TRUE(services::ArquivoDaTroca(*bank, folder.Path().string())(sent.string()));
+    EXPECT_EQ(modeOf(folder.File("arquivo")), each.archive);
+    fs::remove_all(folder.File("arquivo"));
+  }
+}
+
+TEST_F(FiscalExport, KeepsWhatTheModuleDeletesForThirtyDays) {
+  const auto keep = services::ArquivoDaTroca(*bank, folder.Path().string() + "/");
+  const std::string answer = "CFE-RETORNO-X.txt";
+  for (const char* bytes : {"first", "second"}) {
+    Put(folder.File(answer), bytes);
+    EXPECT_TRUE(keep(folder.File(answer)));
+  }
+  EXPECT_FALSE(keep(elsewhere.File("clinica.db"))) << "none of the exchange";
+  EXPECT_EQ(Bytes(folder.File("arquivo/CFE-RETORNO-X.txt")), "first");
+  EXPECT_EQ(Bytes(folder.File("arquivo/CFE-RETORNO-X-2.txt")), "second");
+  fs::last_write_time(folder.File("arquivo/CFE-RETORNO-X.txt"),
+                      fs::file_time_type::clock::now() - std::chrono::hours(31 * 24));
+  services::RetomarCupons(bank, folder.Path().string());
+  EXPECT_THAT(Names(folder.File("arquivo")), ElementsAre("CFE-RETORNO-X-2.txt"));
+  // Where no archive can be made, an answer stays; what was sent must not be taken any more.
+  fs::remove_all(folder.File("arquivo"));
+  Put(folder.File("arquivo"), "in the way");
+  Put(folder.File(answer), "third");
+  EXPECT_THROW(keep(folder.File(answer)), base::RuntimeError);
+  EXPECT_EQ(Bytes(folder.File(answer)), "third");
+  Put(folder.File("CFE-ENVIO-X.txt"), "");
+  EXPECT_FALSE(keep(folder.File("CFE-ENVIO-X.txt")));
 }
 
 }  // namespace
