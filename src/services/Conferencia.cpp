@@ -136,6 +136,15 @@ constexpr Rule kRules[] = {
      " LEFT JOIN (SELECT codigo_do_cliente, CAST(sum(valor) AS bigint) AS soma"
      " FROM creditos_do_cliente GROUP BY codigo_do_cliente) c ON c.codigo_do_cliente = x.codigo",
      "Cliente {n}: o crédito é {a}, e os movimentos somam {b}."},
+    {Of::kCount,
+     "SELECT min(numero) AS n, count(*) AS a, 1 AS b FROM vendas WHERE chave_sat <> ''"
+     " GROUP BY chave_sat",
+     "Venda {n}: a chave do seu cupom está em {a} vendas."},
+    {Of::kCount,
+     "SELECT v.numero AS n, k.numero_da_venda AS a, v.numero AS b FROM vendas v"
+     " JOIN cupons k ON k.chave = v.chave_sat AND k.situacao = 'vendido'"
+     " WHERE v.chave_sat <> ''",
+     "Venda {n}: a chave do seu cupom foi pedida para a venda {a}."},
 };
 
 /// The selections of what breaks the rules, in their order.

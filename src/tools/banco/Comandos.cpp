@@ -10,6 +10,7 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "services/Banco.h"
+#include "services/Cupons.h"
 #include "services/Search.h"
 #include "tools/banco/Relatorios.h"
 
@@ -34,6 +35,9 @@ constexpr const char* kAjuda =
     "  cliente CÓDIGO  mostra o crédito, as contas e as pré-vendas em aberto de um cliente\n"
     "  travas          mostra os clientes em atendimento e em que computador\n"
     "  liberar CÓDIGO  libera o cliente que um computador desligado deixou em atendimento\n"
+    "  cupons [todos]  mostra os cupons fiscais que ficaram sem venda, ou todos\n"
+    "  cupons encerrar NÚMERO MOTIVO\n"
+    "                  encerra um deles, que assim deixa de ser avisado\n"
     "  conferir        confere se o banco está inteiro e se as contas de todas as vendas fecham\n"
     "\n"
     "--agora põe a clínica de demonstração em torno desse momento, em vez de agora.\n"
@@ -187,6 +191,31 @@ int Liberar(const Pedido& pedido, const base::Clock& relogio) {
   return 0;
 }
 
+int EncerrarCupom(const Pedido& pedido, const base::Clock& relogio) {
+  if (pedido.argumentos.size() < 3) throw MauUso{"Informe o número do cupom e o motivo."};
+  const std::int32_t numero = LerNumero(pedido.argumentos[1]);
+  const std::string& motivo = pedido.argumentos[2];
+  if (base::IsBlank(motivo)) throw MauUso{"Informe o motivo."};
+  if (!services::EncerrarCupom(*Abrir(pedido, relogio), numero, motivo)) {
+    std::cerr << "Não há cupom em aberto de número " << numero << ".\n";
+    return 1;
+  }
+  std::cout << "O cupom " << numero << " foi encerrado.\n";
+  return 0;
+}
+
+int MostrarCupons(const Pedido& pedido, const base::Clock& relogio) {
+  const std::string qual = pedido.argumentos.empty() ? "" : pedido.argumentos[0];
+  if (qual == "encerrar") return EncerrarCupom(pedido, relogio);
+  if (!qual.empty() && (qual != "todos" || pedido.argumentos.size() > 1)) {
+    throw MauUso{"Depois de cupons só cabem todos, ou encerrar com o número e o motivo."};
+  }
+  const auto banco = Abrir(pedido, relogio);
+  services::CompletarCupons(*banco, services::Alcance::kTodas);
+  Mostrar(std::cout, services::ListarCupons(*banco, !qual.empty()));
+  return 0;
+}
+
 int ConferirContas(const Pedido& pedido, const base::Clock& relogio) {
   const auto banco = Abrir(pedido, relogio);
   const std::string regra = services::RegraDoLog(*banco);
@@ -215,6 +244,7 @@ constexpr Comando kComandos[] = {
     {"cliente", 1, 1, MostrarCliente},
     {"travas", 0, 0, MostrarTravas},
     {"liberar", 1, 1, Liberar},
+    {"cupons", 0, 3, MostrarCupons},
     {"conferir", 0, 0, ConferirContas},
 };
 

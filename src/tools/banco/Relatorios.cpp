@@ -81,6 +81,20 @@ void Mostrar(std::ostream& saida, const std::vector<services::Trava>& travas) {
   }
 }
 
+void Mostrar(std::ostream& saida, const std::vector<services::Cupom>& cupons) {
+  if (cupons.empty()) saida << "Nenhum cupom fiscal sem venda.\n";
+  for (const auto& cupom : cupons) {
+    saida << "Cupom " << cupom.numero << "  " << base::ToText(cupom.quando) << "  caixa "
+          << cupom.caixa << "  operador " << cupom.operador << "  computador " << cupom.computador
+          << '\n';
+    if (cupom.codigoDoCliente != 0) {
+      saida << "  Cliente: " << cupom.codigoDoCliente << " - " << cupom.nomeDoCliente << '\n';
+    }
+    saida << "  Valor dos produtos: " << base::FormatMoney(cupom.valor) << '\n'
+          << "  Situação: " << cupom.desfecho << '\n';
+  }
+}
+
 void Mostrar(std::ostream& saida, const std::vector<services::UsuarioDeDemonstracao>& usuarios) {
   saida << "Usuários da clínica de demonstração:\n";
   for (const auto& usuario : usuarios) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "services/AjustesDaEmpresa.h"
+#include "services/ConsultaDeCupons.h"
 #include "services/Demonstracao.h"
 #include "services/FichaDaVenda.h"
 #include "services/FichaDoCliente.h"
@@ -16,6 +17,7 @@ namespace banco {
 
 void Mostrar(std::ostream& saida, const std::vector<services::VendaRegistrada>& vendas);
 void Mostrar(std::ostream& saida, const std::vector<services::Trava>& travas);
+void Mostrar(std::ostream& saida, const std::vector<services::Cupom>& cupons);
 void Mostrar(std::ostream& saida, const std::vector<services::UsuarioDeDemonstracao>& usuarios);
 void Mostrar(std::ostream& saida, const std::vector<services::Ajuste>& ajustes);
 

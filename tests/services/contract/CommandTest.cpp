@@ -72,6 +72,52 @@ TEST_P(CommandTest, ListsAndFreesLocks) {
   EXPECT_EQ("1 O cliente 5 não está em atendimento.\n", OnDatabase("liberar 5"));
 }
 
+TEST_P(CommandTest, ListsAndClosesCoupons) {
+  EXPECT_EQ("0 Nenhum cupom fiscal sem venda.\n", OnDatabase("cupons"));
+  Write(
+      "INSERT INTO cupons (situacao, criado_em, computador, marca, numero_do_caixa, operador,"
+      " codigo_do_cliente, consumidor, valor, conteudo, envio, retorno, chave, nota) VALUES"
+      " ('enviado', '2026-11-22 08:00:00', 'LOJA', '', 1, 'caio', 5, '', 219000, '', '', '', '',"
+      " ''),"
+      " ('recusado', '2026-11-22 08:05:00', 'LOJA', '', 1, 'caio', 0, '', 219000, '', '', '', '',"
+      " 'NCM inexistente')");
+  const std::string open =
+      "Cupom 1  22/11/2026 08:00:00  caixa 1  operador caio  computador LOJA\n"
+      "  Cliente: 5 - Dudu\n"
+      "  Valor dos produtos: 21,90\n"
+      "  Situação: ";
+  EXPECT_EQ(
+      "0 " + open + "enviado ao aplicativo fiscal e ainda sem resposta, sem venda registrada\n",
+      OnDatabase("cupons"));
+  EXPECT_EQ("0 O cupom 1 foi encerrado.\n", OnDatabase("cupons encerrar 1 'cancelado à mão'"));
+  EXPECT_EQ("1 Não há cupom em aberto de número 1.\n", OnDatabase("cupons encerrar 1 'de novo'"));
+  EXPECT_EQ("0 Nenhum cupom fiscal sem venda.\n", OnDatabase("cupons"));
+  EXPECT_EQ("0 " + open +
+                "encerrado (cancelado à mão), sem chave\n"
+                "Cupom 2  22/11/2026 08:05:00  caixa 1  operador caio  computador LOJA\n"
+                "  Valor dos produtos: 21,90\n"
+                "  Situação: recusado pelo aplicativo fiscal (NCM inexistente)\n",
+            OnDatabase("cupons todos"));
+}
+
+TEST_P(CommandTest, FindsAKeyThatTwoSalesHave) {
+  for (int i = 0; i < 2; ++i) {
+    const NewSale sale({.key = std::to_string(i)});
+    ASSERT_EQ(0, sale->RegistrarPagamento()) << sale->DescricaoDaFalha();
+  }
+  Write(
+      "INSERT INTO cupons (situacao, criado_em, computador, marca, numero_do_caixa, operador,"
+      " codigo_do_cliente, consumidor, valor, conteudo, envio, retorno, chave, numero_da_venda)"
+      " VALUES ('vendido', '2026-11-22 08:00:00', 'LOJA', '', 1, '', 0, '', 0, '', '', '', '1',"
+      " 2);"
+      "UPDATE vendas SET chave_sat = '1'");
+  EXPECT_EQ(
+      "1 Venda 1: a chave do seu cupom está em 2 vendas.\n"
+      "Venda 1: a chave do seu cupom foi pedida para a venda 2.\n"
+      "As contas não fecham. Avise o suporte.\n",
+      OnDatabase("conferir"));
+}
+
 TEST_P(CommandTest, RefusesTheDemonstrationWhereThereAreData) {
   EXPECT_EQ(
       "1 O banco de dados já tem dados e não foi alterado. Crie a demonstração em um banco "
@@ -123,7 +169,9 @@ TEST(CommandLineTest, WhatIsNotUnderstoodExitsWithTwo) {
        {"", "sqlite:x.db", "sqlite:x.db apagar", "sqlite:x.db criar já", "sqlite:x.db liberar",
         "sqlite:x.db liberar zero", "sqlite:x.db vendas -1", "--nada", "sqlite:x.db vendas 1 2",
         "sqlite:x.db demonstracao --agora", "sqlite:x.db demonstracao --agora ontem",
-        "sqlite:x.db venda", "sqlite:x.db cliente Ana", "sqlite:x.db empresa Cor"}) {
+        "sqlite:x.db venda", "sqlite:x.db cliente Ana", "sqlite:x.db empresa Cor",
+        "sqlite:x.db cupons encerrar 1", "sqlite:x.db cupons encerrar um x",
+        "sqlite:x.db cupons 1"}) {
     const std::string answer = AnswerTo(arguments);
     EXPECT_EQ("2 ", answer.substr(0, 2)) << arguments;
     EXPECT_THAT(answer, HasSubstr("Uso: caixa-banco BANCO COMANDO")) << arguments;
