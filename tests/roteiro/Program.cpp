@@ -82,6 +82,11 @@ void Program::Send(const std::string& line) {
   }
 }
 
+void Program::EndInput() {
+  if (in_ >= 0) close(in_);
+  in_ = -1;
+}
+
 std::optional<std::string> Program::Read() {
   const auto deadline = std::chrono::steady_clock::now() + kPatience;
   for (;;) {
@@ -102,7 +107,7 @@ std::optional<std::string> Program::Read() {
 
 std::optional<int> Program::Finish() {
   if (process_ < 0) return std::nullopt;
-  close(in_);
+  EndInput();
   const auto deadline = std::chrono::steady_clock::now() + kPatience;
   int status = 0;
   while (waitpid(process_, &status, WNOHANG) == 0) {

@@ -20,6 +20,8 @@ class Program {
   /// Asks it to end, as the system does.
   void Terminate();
   void Send(const std::string& line);
+  /// No line follows.
+  void EndInput();
   /// The next line; nothing when the program ended or took too long.
   std::optional<std::string> Read();
   /// Ends the program's input and waits for its exit status; nothing when it was killed, by a

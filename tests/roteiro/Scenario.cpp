@@ -159,6 +159,8 @@ class Player {
   void RunBeside(const Json& step) {
     const std::unique_ptr<Program> beside = Launched(step["run"]);
     std::string printed;
+    for (const Json& line : step.value("input", Json::array())) beside->Send(line.dump());
+    beside->EndInput();
     while (const std::optional<std::string> line = beside->Read()) printed += *line + "\n";
     EXPECT_EQ(beside->Finish(), 0) << here_ << printed << beside->Complaint();
     for (const Json& part : step.value("prints", Json::array())) {

@@ -125,7 +125,7 @@ class Integrador {
         if (Atender(caminho) == kMorreu) return kMorreu;
         if (opcoes_.quantos > 0 && atendidos_ == opcoes_.quantos) return Encerrar();
       }
-      encerramento_.Esperar(kIntervalo);
+      if (!opcoes_.semDescanso) encerramento_.Esperar(kIntervalo);
     }
     return Encerrar();
   }

@@ -62,6 +62,7 @@ constexpr Chave kChaves[] = {
     {"--help", [](Opcoes& o) { o.ajuda = true; }},
     {"-h", [](Opcoes& o) { o.ajuda = true; }},
     {"--quieto", [](Opcoes& o) { o.quieto = true; }},
+    {"--sem-descanso", [](Opcoes& o) { o.semDescanso = true; }},
     {"--chaves-fixas", [](Opcoes& o) { o.chavesFixas = true; }},
     {"--morrer-antes", [](Opcoes& o) { Morrer(o, Morte::kAntesDeTomar); }},
     {"--morrer-depois", [](Opcoes& o) { Morrer(o, Morte::kDepoisDeTomar); }},
@@ -105,6 +106,8 @@ const char* Opcoes::Ajuda() {
          "  --recusar TEXTO                 recusa todos os cupons com esse texto\n"
          "  --morrer-antes                  termina ao ver o primeiro arquivo, sem o tomar\n"
          "  --morrer-depois                 termina depois de tomar o primeiro, sem responder\n"
+         "  --sem-descanso                  procura arquivos sem pausa: toma cada um assim que "
+         "aparece\n"
          "  --quantos N                     termina depois de N arquivos\n"
          "  --chaves-fixas                  as mesmas chaves a cada vez que é iniciado\n"
          "  --quieto                        não conta o que faz (o aviso do gerenciador aparece)\n"

@@ -27,6 +27,7 @@ struct Opcoes {
   std::optional<std::chrono::milliseconds> emPedacos;
   std::string recusa;  ///< Refuse every coupon with these words; empty to issue what is correct.
   int quantos = 0;     ///< Files after which to end; 0 to go on.
+  bool semDescanso = false;  ///< Look for files without a pause in between.
   bool chavesFixas = false;
   bool quieto = false;
   bool ajuda = false;
