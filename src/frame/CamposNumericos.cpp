@@ -1,5 +1,7 @@
 #include "frame/CamposNumericos.h"
 
+#include <algorithm>
+
 #include "base/Text.h"
 
 namespace frame {
@@ -31,13 +33,8 @@ void Normalizar(platform::EditBox& campo, std::string_view zeroSeInvalido,
 void FiltrarTeclaDeDinheiro(const platform::EditBox& campo, char32_t& tecla) {
   if (tecla == U'.') tecla = U',';
   if (EhDigito(tecla) || tecla == platform::kBackspaceCharacter || EhDeControle(tecla)) return;
-  const std::string selecionado = campo.SelectedText();
-  const auto virgulas = [](const std::string& texto) {
-    std::size_t quantas = 0;
-    for (const char c : texto) quantas += c == ',' ? 1 : 0;
-    return quantas;
-  };
-  if (tecla != U',' || virgulas(campo.Shown()) > virgulas(selecionado)) tecla = 0;
+  const auto virgulas = [](const std::string& texto) { return std::ranges::count(texto, ','); };
+  if (tecla != U',' || virgulas(campo.Shown()) > virgulas(campo.SelectedText())) tecla = 0;
 }
 
 void FiltrarTeclaDeInteiro(char32_t& tecla) {

@@ -5,12 +5,14 @@
 #include <string_view>
 
 #include "platform/Control.h"
+#include "platform/CharacterIndex.h"
 
 namespace platform {
 
 /// What all fields share in which the operator edits a text: the text, the caret and selection, and
 /// what each key does. Positions count characters. A renderer shows Shown(), passes keys on, and
-/// reports what the mouse selects; it never edits by itself.
+/// reports what the mouse selects; it never edits by itself. A key costs the same however long the
+/// text is: a scanner gone mad and a book that lies on the keyboard must not stop the cash desk.
 class EditBox : public Control {
  public:
   using Control::Control;
@@ -24,7 +26,9 @@ class EditBox : public Control {
   Property<std::int32_t> MaxLength{*this, "MaxLength"};
 
   /// The text on display.
-  virtual const std::string& Shown() const { return Text(); }
+  const std::string& Shown() const { return ShownText()(); }
+  /// Its characters.
+  std::int32_t Length() const;
   /// Where the caret stands: at one end of the selection.
   std::int32_t Caret() const { return caretAtStart_ ? SelStart() : SelStart() + SelLength(); }
   /// The mouse or the keyboard selects from `anchor` to `caret`.
@@ -40,20 +44,39 @@ class EditBox : public Control {
   bool multiline = false;
 
  protected:
+  /// What the operator's editing puts in place of a part of the shown text, counted in bytes.
+  struct Change {
+    std::size_t from = 0, length = 0;
+    std::string_view text;
+  };
+
+  /// The characters from one position to another.
+  struct Part {
+    std::int32_t from = 0, to = 0;
+  };
+
+  virtual const Property<std::string>& ShownText() const { return Text; }
   void Written(const PropertyBase& property) override;
+  void Renewed(const PropertyBase& property) override;
   /// The operator typed a character, which replaces the selection.
   virtual void Insert(char32_t character);
   /// The operator pressed Delete (`forward`) or Backspace.
   virtual void Erase(bool forward);
-  /// The operator's editing has brought forth this text.
-  virtual void Edited(std::string text) { Text.Assign(std::move(text)); }
-  /// Changes the shown text and puts the caret at `caret`.
-  void Replace(std::u32string_view text, std::size_t caret);
+  /// What that takes away: the selection, or the character beside the caret if there is one.
+  Part Erased(bool forward) const;
+  /// The operator's editing changes the text.
+  virtual void Edit(const Change& change) { Apply(change, Text); }
+  static void Apply(const Change& change, Property<std::string>& text);
+  /// Puts a text in place of the characters from `from` to `to`, and the caret behind it.
+  void Splice(std::int32_t from, std::int32_t to, std::string_view text);
+  /// Puts a text in place of all that is shown, and the caret at `caret`.
+  void Replace(std::string_view text, std::size_t caret);
 
  private:
   void MoveCaret(std::int32_t to, bool extend);
 
   bool caretAtStart_ = false;
+  mutable CharacterIndex index_;
 };
 
 }  // namespace platform

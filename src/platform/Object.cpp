@@ -19,6 +19,7 @@ void Object::Unobserve(Observer& observer) {
 }
 
 void Object::Notify(const PropertyBase& property) {
+  Renewed(property);
   // By index: an observer may begin to observe while it is told.
   for (std::size_t i = 0; i < observers_.size(); ++i) observers_[i]->Changed(*this, property);
 }

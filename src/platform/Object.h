@@ -43,6 +43,8 @@ class Object {
   virtual void Touch() const {}
   /// Code has written a property, perhaps with the value that it had.
   virtual void Written(const PropertyBase&) {}
+  /// A property has a new value, whoever gave it: what was worked out from the old one is void.
+  virtual void Renewed(const PropertyBase&) {}
   void Notify(const PropertyBase& property);
 
   std::string name_;

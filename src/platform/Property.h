@@ -72,6 +72,13 @@ class Property final : public PropertyBase {
     Notify();
   }
 
+  /// The same for a change within a long value, which is not copied for it.
+  template <class Change>
+  void Amend(Change change) {
+    change(value_);
+    Notify();
+  }
+
   base::Value Get() const override {
     if constexpr (std::same_as<T, bool> || std::same_as<T, std::string>) {
       return value_;

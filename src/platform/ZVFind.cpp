@@ -1,16 +1,24 @@
 #include "platform/ZVFind.h"
 
+#include <utility>
+
 namespace platform {
 
 void ZVFind::Written(const PropertyBase& property) {
   if (&property == &Text) DisplayText.Assign(Text());
+  if (&property == &Text || &property == &DisplayText) isApart_ = &property == &DisplayText;
   EditBox::Written(property);
   if (&property == &DisplayText) Select(0, 0);
 }
 
-void ZVFind::Edited(std::string text) {
-  DisplayText.Assign(text);
-  Text.Assign(std::move(text));
+void ZVFind::Edit(const Change& change) {
+  Apply(change, DisplayText);
+  if (!isApart_) Apply(change, Text);
+  TakeShown();
+}
+
+void ZVFind::TakeShown() {
+  if (std::exchange(isApart_, false)) Text.Assign(DisplayText());
   Status.Assign(DisplayText().empty() ? kEmpty : kTyped);
 }
 
@@ -23,7 +31,7 @@ bool ZVFind::TakeKey(const KeyStroke& stroke) {
 }
 
 void ZVFind::Trigger() {
-  if (DisplayText() != Text()) Edited(DisplayText());
+  if (DisplayText() != Text()) TakeShown();
   Click();
 }
 

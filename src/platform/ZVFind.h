@@ -25,7 +25,6 @@ class ZVFind final : public EditBox {
   /// What the operator sees; written with Text, and cleared apart from it.
   Property<std::string> DisplayText{*this, "DisplayText"};
 
-  const std::string& Shown() const override { return DisplayText(); }
   bool RaisesKeyDown(const KeyStroke& stroke) const override {
     return IsTyping(stroke) && !Locked();
   }
@@ -34,8 +33,15 @@ class ZVFind final : public EditBox {
   void Trigger();
 
  protected:
+  const Property<std::string>& ShownText() const override { return DisplayText; }
   void Written(const PropertyBase& property) override;
-  void Edited(std::string text) override;
+  void Edit(const Change& change) override;
+
+ private:
+  /// Makes what the operator sees what the field holds.
+  void TakeShown();
+
+  bool isApart_ = false;  ///< Code has written what is shown apart from the text.
 };
 
 }  // namespace platform

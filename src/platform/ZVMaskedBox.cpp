@@ -3,17 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "base/Text.h"
-
 namespace platform {
 namespace {
 
 constexpr char kPlace = '#';
-constexpr char32_t kBlank = U'_';
-
-bool IsDigit(char32_t c) {
-  return c >= U'0' && c <= U'9';
-}
+constexpr char kBlank = '_';
 
 }  // namespace
 
@@ -25,7 +19,7 @@ ZVMaskedBox::ZVMaskedBox(Container& parent, std::string_view name, Kind kind, st
 
 std::string ZVMaskedBox::EmptyText() const {
   std::string text = Mask();
-  std::ranges::replace(text, kPlace, static_cast<char>(kBlank));
+  std::ranges::replace(text, kPlace, kBlank);
   return text;
 }
 
@@ -47,8 +41,8 @@ bool ZVMaskedBox::Fits(const std::string& text) const {
   const std::string& mask = Mask();
   if (mask.empty() || text.size() != mask.size()) return false;
   for (std::size_t i = 0; i < mask.size(); ++i) {
-    const auto c = static_cast<char32_t>(static_cast<unsigned char>(text[i]));
-    if (mask[i] == kPlace ? !IsDigit(c) && c != kBlank : text[i] != mask[i]) return false;
+    const char c = text[i];
+    if (mask[i] == kPlace ? (c < '0' || c > '9') && c != kBlank : c != mask[i]) return false;
   }
   return true;
 }
@@ -58,18 +52,17 @@ void ZVMaskedBox::Insert(char32_t character) {
     EditBox::Insert(character);
     return;
   }
-  if (!IsDigit(character)) return;
+  if (character < U'0' || character > U'9') return;
   if (!Fits(Shown())) {
     // A text that code wrote and that is not of the mask's form gives way to the digit.
-    Edited(EmptyText());
-    Select(0, 0);
+    Replace(EmptyText(), 0);
   }
   if (SelLength() > 0) Erase(true);
-  std::u32string text = base::ToCharacters(Shown());
+  std::string text = Shown();
   auto at = static_cast<std::size_t>(Caret());
   while (at < text.size() && Mask()[at] != kPlace) ++at;
   if (at >= text.size()) return;
-  text[at] = character;
+  text[at] = static_cast<char>(character);
   ++at;
   while (at < text.size() && Mask()[at] != kPlace) ++at;
   Replace(text, at);
@@ -78,10 +71,10 @@ void ZVMaskedBox::Insert(char32_t character) {
 void ZVMaskedBox::Erase(bool forward) {
   if (!Fits(Shown())) {
     EditBox::Erase(forward);
-    if (Shown().empty()) Replace(base::ToCharacters(EmptyText()), 0);
+    if (Shown().empty()) Replace(EmptyText(), 0);
     return;
   }
-  std::u32string text = base::ToCharacters(Shown());
+  std::string text = Shown();
   auto first = static_cast<std::size_t>(SelStart());
   auto end = first + static_cast<std::size_t>(SelLength());
   if (first == end) {

@@ -30,8 +30,8 @@ void ZVPeriodBox::Written(const PropertyBase& property) {
   if (&property == &Text) TakeDates();
 }
 
-void ZVPeriodBox::Edited(std::string text) {
-  ZVMaskedBox::Edited(std::move(text));
+void ZVPeriodBox::Edit(const Change& change) {
+  ZVMaskedBox::Edit(change);
   TakeDates();
 }
 

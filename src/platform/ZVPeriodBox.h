@@ -17,7 +17,7 @@ class ZVPeriodBox final : public ZVMaskedBox {
 
  protected:
   void Written(const PropertyBase& property) override;
-  void Edited(std::string text) override;
+  void Edit(const Change& change) override;
 
  private:
   void TakeDates();

@@ -68,7 +68,7 @@ void frmOrcamento::LigarEventos() {
   optProduto.Click = [this] { optTipo_Click(); };
   zvfItem.KeyDown = [this](platform::KeyStroke&) { item_.reset(); };
   zvfItem.Click = [this] { zvfItem_Click(); };
-  frame::LigarCampoDeValor(zvnumQuantidade);
+  frame::LigarCampoDeQuantidade(zvnumQuantidade);
   frame::LigarCampoDeValor(zvnumValorUnitario);
   zvcmdAdicionar.Click = [this] { zvcmdAdicionar_Click(); };
   msfgGrade.KeyDown = [this](platform::KeyStroke& tecla) {

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/Convert.h"
 #include "desktop/Fonts.h"
@@ -192,6 +193,8 @@ void EditBoxView::paintEvent(QPaintEvent*) {
   PaintText(painter);
   painter.restore();
   PaintExtras(painter);
+  // The list of an input method stands beside the caret: told once for all that came since.
+  if (std::exchange(hasChanged_, false) && hasFocus()) updateMicroFocus();
 }
 
 }  // namespace desktop

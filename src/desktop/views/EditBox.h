@@ -79,6 +79,7 @@ class EditBoxView : public View {
   QString composing_;
   QPointF scroll_;
   bool selecting_ = false;
+  bool hasChanged_ = false;  ///< Since it was last painted.
 };
 
 }  // namespace desktop

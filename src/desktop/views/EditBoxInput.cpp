@@ -10,14 +10,17 @@
 #include "desktop/Convert.h"
 #include "desktop/PopUpMenu.h"
 #include "desktop/views/EditBox.h"
+#include "platform/Desktop.h"
 #include "platform/Form.h"
 #include "platform/Input.h"
 
 namespace desktop {
 namespace {
 
-/// The most characters that a paste types: more is a mistake of the hand.
-constexpr int kLongestPaste = 10'000;
+/// The most characters that are pasted: more is a mistake of the hand, and would take its time.
+constexpr int kLongestPaste = 100'000;
+constexpr const char* kPasteIsTooLong =
+    "O texto copiado tem mais de 100.000 caracteres e não foi colado. Copie um trecho menor.";
 
 /// What can be typed of a text: tabs would press a key that acts, and so would line breaks in a
 /// field of one line, which takes the first line alone.
@@ -27,7 +30,22 @@ QString Typeable(QString text, bool multiline) {
   text.replace(u'\t', u' ');
   text.removeIf(
       [](QChar each) { return each.category() == QChar::Other_Control && each != u'\n'; });
-  return text.left(kLongestPaste);
+  return text;
+}
+
+/// Whether the key moves the caret from line to line or within its line.
+bool IsForLines(int key) {
+  switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace
@@ -73,6 +91,14 @@ void EditBoxView::Paste() {
   // What was copied with the blanks and line ends around it is meant without them.
   if (!Box().multiline) text = text.trimmed();
   text = Typeable(text, Box().multiline);
+  if (text.size() > kLongestPaste) {
+    // What is cut off at some place would be lost without a word.
+    platform::input::Run([] {
+      platform::Desktop::Current().Ask({kPasteIsTooLong, "", platform::Icon::kInformation,
+                                        platform::Buttons::kOk, platform::Answer::kOk});
+    });
+    return;
+  }
   platform::input::Type(Box().OwnerForm(), FromQt(text));
 }
 
@@ -106,7 +132,7 @@ bool EditBoxView::TakeCaretKey(const QKeyEvent& event) {
     if (Box().SelLength() > 0) Erase();
     return true;
   }
-  if (!Box().multiline || control) return false;
+  if (!Box().multiline || control || !IsForLines(event.key())) return false;
   const EditLayout& layout = LaidOut();
   const QString text = Shown();
   const int unit = UnitOf(caret);
@@ -212,8 +238,7 @@ void EditBoxView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void EditBoxView::Follow(const platform::PropertyBase&) {
-  // The list of an input method stands beside the caret.
-  if (hasFocus()) updateMicroFocus();
+  hasChanged_ = true;
 }
 
 void EditBoxView::focusOutEvent(QFocusEvent* event) {

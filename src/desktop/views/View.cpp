@@ -9,6 +9,7 @@
 #include "desktop/Convert.h"
 #include "desktop/Keys.h"
 #include "desktop/Paint.h"
+#include "platform/EditBox.h"
 #include "platform/Form.h"
 #include "platform/Input.h"
 #include "platform/Label.h"
@@ -79,7 +80,13 @@ void View::Place() {
 }
 
 void View::Name() {
-  std::string words = control_->label != nullptr ? control_->label->Caption() : control_->Words();
+  // What a field holds is its value and no name.
+  std::string words;
+  if (control_->label != nullptr) {
+    words = control_->label->Caption();
+  } else if (dynamic_cast<const platform::EditBox*>(control_) == nullptr) {
+    words = control_->Words();
+  }
   // A button with nothing but a picture is named by what the pointer says of it.
   if (words.empty()) words = control_->ToolTipText();
   QString name = ToQt(words);
@@ -103,7 +110,8 @@ void View::Changed(platform::Object& object, const platform::PropertyBase& prope
       Follow(property);
     }
   }
-  if (&object != control_ || control_->label == nullptr) Name();
+  const bool hasNameOfItsOwn = control_->label == nullptr && !IsEditing();
+  if (&object != control_ || hasNameOfItsOwn || &property == &control_->ToolTipText) Name();
   update();
 }
 
