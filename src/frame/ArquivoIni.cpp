@@ -13,9 +13,26 @@ namespace frame {
 namespace {
 
 constexpr std::size_t kMaiorValor = 255;
+constexpr std::string_view kSufixo = ".ini";
+constexpr std::size_t kMaiorNomeDeArquivo = 255;  ///< In bytes, as file systems count.
+
+/// The title as a name of a file in the module's folder and nowhere else: what leads to another
+/// folder or ends a name becomes "_", and a title that is too long for a name is cut.
+std::string NomeDoArquivo(std::string_view titulo) {
+  std::string nome;
+  while (!titulo.empty()) {
+    const std::string_view resto = titulo;
+    const char32_t letra = base::TakeCharacter(titulo);
+    const std::string_view escrita = resto.substr(0, resto.size() - titulo.size());
+    if (nome.size() + escrita.size() + kSufixo.size() > kMaiorNomeDeArquivo) break;
+    nome += letra < U' ' || letra == U'/' ? "_" : escrita;
+  }
+  return nome.append(kSufixo);
+}
 
 std::string Caminho() {
-  return platform::Desktop::Current().ModuleFolder() + '/' + valores().NomeDaAplicacao + ".ini";
+  return platform::Desktop::Current().ModuleFolder() + '/' +
+         NomeDoArquivo(valores().NomeDaAplicacao);
 }
 
 std::string Aparado(std::string_view texto) {
@@ -28,21 +45,26 @@ bool MesmoNome(std::string_view a, std::string_view b) {
   return base::Lower(Aparado(a)) == base::Lower(Aparado(b));
 }
 
-/// The lines of the file, none when it is absent: a first start is nothing to report.
-std::vector<std::string> Linhas() {
+/// The lines of the file, none when it is absent: a first start is nothing to report. Nothing for a
+/// file that is there and cannot be read now.
+std::optional<std::vector<std::string>> Linhas() {
   try {
     const std::string bytes = platform::Desktop::Current().ReadFile(Caminho());
     std::vector<std::string> linhas = base::Split(bytes, '\n');
     if (!linhas.empty() && linhas.back().empty()) linhas.pop_back();
     return linhas;
-  } catch (const base::RuntimeError&) {
-    return {};
+  } catch (const base::RuntimeError& erro) {
+    if (!platform::files::IsAbsence(erro)) return std::nullopt;
+    return std::vector<std::string>();
   }
 }
 
 /// The section that a line opens.
 std::optional<std::string> SecaoDe(const std::string& linha) {
-  const std::string texto = Aparado(linha);
+  constexpr std::string_view kMarca = "\xEF\xBB\xBF";  // Some editors put it in front of all.
+  std::string_view bytes = linha;
+  if (bytes.starts_with(kMarca)) bytes.remove_prefix(kMarca.size());
+  const std::string texto = Aparado(bytes);
   if (!texto.starts_with('[')) return std::nullopt;
   return texto.substr(1, texto.find(']') - 1);
 }
@@ -84,16 +106,20 @@ std::string SemAspas(std::string texto) {
 }  // namespace
 
 std::string LerValorDoArquivoIni(std::string_view secao, std::string_view chave) {
-  const std::vector<std::string> linhas = Linhas();
-  const Lugar lugar = Procurar(linhas, secao, chave);
+  const auto linhas = Linhas();
+  if (!linhas) return std::string(kNenhumValorLido);
+  const Lugar lugar = Procurar(*linhas, secao, chave);
   if (!lugar.chaveExiste) return std::string(kNenhumValorLido);
-  const std::string& linha = linhas[lugar.linha];
+  const std::string& linha = (*linhas)[lugar.linha];
   return base::Left(SemAspas(Aparado(linha.substr(linha.find('=') + 1))), kMaiorValor);
 }
 
 std::string GravarValorNoArquivoIni(std::string_view secao, std::string_view chave,
                                     std::string_view valor) {
-  std::vector<std::string> linhas = Linhas();
+  auto lidas = Linhas();
+  // What could not be read would be lost by what is written in its place.
+  if (!lidas) return {};
+  std::vector<std::string>& linhas = *lidas;
   const Lugar lugar = Procurar(linhas, secao, chave);
   const std::string nova = std::string(chave) + '=' + std::string(valor);
   if (lugar.chaveExiste) {

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/Clock.h"
+#include "base/RuntimeError.h"
 #include "platform/Form.h"
 
 namespace platform {
@@ -97,7 +98,9 @@ class Desktop : public base::Clock {
   /// writing or changes meanwhile is not ready to be read: 70, as for a folder in its place. On a
   /// network folder, and of another user's file, a writer is seen by its lock or changes alone.
   virtual std::string ReadFile(const std::string& path) = 0;
-  /// Replaces the file at once: a reader sees the old bytes or the new; errors 70, 76.
+  /// Replaces the file at once: a reader sees the old bytes or the new, also after a loss of power.
+  /// A new file is for this user alone, one that is replaced keeps whom it is for; a symbolic link
+  /// stays one, unless it is another user's: 70. Errors 70, 76.
   virtual void WriteFile(const std::string& path, const std::string& bytes) = 0;
 };
 
@@ -110,7 +113,15 @@ void Delete(const std::string& path);
 /// Empty where nothing is kept.
 void InsteadOfDeleting(std::function<bool(const std::string& path)> keep);
 std::string Read(const std::string& path);
+/// Whether a reading failed since nothing is there, as against something that cannot be read now.
+inline bool IsAbsence(const base::RuntimeError& error) {
+  return error.Number() == static_cast<std::int32_t>(base::Fault::kFileNotFound) ||
+         error.Number() == static_cast<std::int32_t>(base::Fault::kPathNotFound);
+}
 void Write(const std::string& path, const std::string& bytes);
+/// Makes the folder and those above it that are missing, for this user alone; one that exists stays
+/// as it is. False when it is no folder afterwards.
+bool MakeFolder(const std::string& path);
 }  // namespace files
 
 }  // namespace platform

@@ -10,7 +10,6 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <utility>
 
@@ -24,22 +23,14 @@ namespace fs = std::filesystem;
 using base::Fault;
 using base::RuntimeError;
 
-[[noreturn]] void Refuse(const fs::path& path) {
+/// Only what the system says is not there is not found: a file that it does not let be looked at
+/// may well be there, and whoever took it for absent would put a new one in its place.
+[[noreturn]] void Refuse(const fs::path& path, int fault) {
+  if (fault != ENOENT && fault != ENOTDIR) throw RuntimeError(Fault::kPermissionDenied);
   std::error_code ignored;
   const fs::path folder = path.parent_path();
-  if (!folder.empty() && !fs::is_directory(folder, ignored)) {
-    throw RuntimeError(Fault::kPathNotFound);
-  }
-  throw RuntimeError(fs::exists(path, ignored) ? Fault::kPermissionDenied : Fault::kFileNotFound);
-}
-
-/// Renaming over a file asks nothing of that file, so its protection is looked at first.
-bool IsReadOnly(const std::string& path) {
-  constexpr fs::perms kWritable = fs::perms::owner_write | fs::perms::group_write;
-  std::error_code failed;
-  const fs::perms perms = fs::status(path, failed).permissions();
-  return Exists(path) &&
-         ((perms & kWritable) == fs::perms::none || access(path.c_str(), W_OK) != 0);
+  const bool hasFolder = folder.empty() || fs::is_directory(folder, ignored);
+  throw RuntimeError(hasFolder ? Fault::kFileNotFound : Fault::kPathNotFound);
 }
 
 struct Look {
@@ -116,15 +107,17 @@ void InsteadOfDeleting(std::function<bool(const std::string& path)> keep) {
 }
 
 void Delete(const std::string& path) {
-  std::error_code failed;
-  if (Exists(path) && Keeper() && Keeper()(path)) return;
-  if (!Exists(path) || !fs::remove(path, failed) || failed) Refuse(path);
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) Refuse(path, errno);
+  if (S_ISDIR(status.st_mode)) Refuse(path, EISDIR);
+  if (Keeper() && Keeper()(path)) return;
+  if (unlink(path.c_str()) != 0) Refuse(path, errno);
 }
 
 std::string Read(const std::string& path) {
   // Not waiting for a writer, should it be a pipe.
   const OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (file.descriptor < 0) Refuse(path);
+  if (file.descriptor < 0) Refuse(path, errno);
   const Look before = file.LookAt();
   if (!before.isPlain || IsBeingWritten(file.descriptor)) {
     throw RuntimeError(Fault::kPermissionDenied);
@@ -143,23 +136,16 @@ std::string Read(const std::string& path) {
   return bytes;
 }
 
-void Write(const std::string& path, const std::string& bytes) {
-  if (IsReadOnly(path)) throw RuntimeError(Fault::kPermissionDenied);
-  // Written beside and renamed over: a machine that dies in between leaves the old file whole.
-  const std::string beside = path + ".novo";
-  std::FILE* const out = std::fopen(beside.c_str(), "wb");
-  if (out == nullptr) {
-    const bool noFolder = errno == ENOENT || errno == ENOTDIR;
-    throw RuntimeError(noFolder ? Fault::kPathNotFound : Fault::kPermissionDenied);
+bool MakeFolder(const std::string& path) {
+  std::error_code failed;
+  for (fs::path level; const fs::path& name : fs::path(path)) {
+    level /= name;
+    // Customers and their affairs are told in what lies there.
+    if (!fs::is_directory(level, failed) && mkdir(level.c_str(), 0700) != 0 && errno != EEXIST) {
+      return false;
+    }
   }
-  bool written = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
-  written = std::fflush(out) == 0 && written;
-  written = fsync(fileno(out)) == 0 && written;
-  written = std::fclose(out) == 0 && written;
-  if (!written || std::rename(beside.c_str(), path.c_str()) != 0) {
-    std::remove(beside.c_str());
-    throw RuntimeError(Fault::kPermissionDenied);
-  }
+  return fs::is_directory(path, failed);
 }
 
 }  // namespace platform::files

@@ -76,6 +76,13 @@ TEST_F(SettingsTest, TheFirstFileMeansTheDefaultsAndAnExistingOneIsKept) {
   EXPECT_EQ(Read(), ",roll,");
 }
 
+TEST_F(SettingsTest, AFileThatCannotBeLookedAtIsNotTakenForAbsent) {
+  fs::create_symlink("aplicacao.ini", File());
+  EXPECT_THAT(Read(), testing::HasSubstr("Não foi possível ler as configurações em"));
+  Settings::CreateIfMissing(Folder());
+  EXPECT_TRUE(fs::is_symlink(File())) << "nor is one put in its place";
+}
+
 TEST_F(SettingsTest, TheProgramMakesFileAndFolderAndStopsAtASettingThatItDoesNotUnderstand) {
   const QString database = QStringLiteral("sqlite:") + folder.filePath(QStringLiteral("c.db"));
   services::CriarBanco(database.toStdString());

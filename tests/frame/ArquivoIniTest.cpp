@@ -32,6 +32,8 @@ TEST_F(ArquivoIni, ReadsAKeyOfItsOwnSection) {
     EXPECT_EQ(LerValorDoArquivoIni("Caixa", key), value) << key;
   }
   EXPECT_EQ(LerValorDoArquivoIni("Nada", "FontSize"), "Nenhum valor lido");
+  File() = "\xEF\xBB\xBF[Caixa]\nOutro=2\n";
+  EXPECT_EQ(LerValorDoArquivoIni("Caixa", "Outro"), "2") << "what some editors put in front";
   File() = "[Caixa]\nTexto=" + std::string(300, 'x');
   EXPECT_EQ(LerValorDoArquivoIni("Caixa", "Texto"), std::string(255, 'x'));
   module.desktop.files.clear();
@@ -56,6 +58,36 @@ TEST_F(ArquivoIni, FailsInSilenceWhenItCannotBeWritten) {
   module.desktop.readOnly.insert(kPath);
   EXPECT_EQ(GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "3"), "");
   EXPECT_EQ(LerValorDoArquivoIni("Caixa", "NumeroDoCaixa"), "1");
+}
+
+TEST_F(ArquivoIni, IsNotWrittenAnewWhereItCannotBeRead) {
+  const std::string before = "[Caixa]\nNumeroDoCaixa=1\n[Grade]\nFontSize=9\n";
+  File() = before;
+  module.desktop.unreadable.insert(kPath);
+  EXPECT_EQ(LerValorDoArquivoIni("Caixa", "NumeroDoCaixa"), "Nenhum valor lido");
+  EXPECT_EQ(GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "3"), "");
+  EXPECT_EQ(File(), before);
+}
+
+TEST_F(ArquivoIni, LiesInTheModulesFolderWhateverTheTitle) {
+  const std::string longest(251, 'x');
+  const std::pair<std::string, std::string> titles[] = {
+      {"Clínica São José - Caixa 2", "Clínica São José - Caixa 2"},
+      {"../fora", ".._fora"},
+      {"/etc/caixa", "_etc_caixa"},
+      {"..", ".."},
+      {std::string("Caixa\0x\n", 8), "Caixa_x_"},
+      {longest, longest},
+      {std::string(250, 'x') + "ção", std::string(250, 'x')},
+  };
+  for (const auto& [title, name] : titles) {
+    valores().NomeDaAplicacao = title;
+    module.desktop.files.clear();
+    GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa", "3");
+    ASSERT_EQ(module.desktop.files.size(), 1U) << title;
+    EXPECT_EQ(module.desktop.files.begin()->first, "/modulo/" + name + ".ini");
+    EXPECT_EQ(LerValorDoArquivoIni("Caixa", "NumeroDoCaixa"), "3");
+  }
 }
 
 }  // namespace

@@ -94,9 +94,7 @@ std::string UserFolder() {
 
 /// A folder that exists from here on.
 std::string Made(const std::string& folder) {
-  std::error_code failed;
-  fs::create_directories(folder, failed);
-  if (!fs::is_directory(folder)) {
+  if (!platform::files::MakeFolder(folder)) {
     throw std::runtime_error("Não foi possível criar a pasta '" + folder +
                              "'. Confira o caminho e as permissões.");
   }

@@ -77,6 +77,8 @@ void ScreenFile::Follow() {
   if (now == told_) return;
   QSaveFile file(path_);
   if (!file.open(QIODevice::WriteOnly)) return;
+  // What is typed is told there.
+  file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
   file.write(now);
   if (file.commit()) told_ = std::move(now);
 }
@@ -121,6 +123,7 @@ QByteArray ScreenFile::Tell() const {
   const QJsonObject screen{
       {QStringLiteral("screen"), form == nullptr ? QString() : desktop::ToQt(form->Name())},
       {QStringLiteral("resting"), desktop_.IsResting() || popup},
+      {QStringLiteral("keyboard"), focus != nullptr},
       {QStringLiteral("focus"), focus == nullptr ? QString() : focus->objectName()},
       {QStringLiteral("box"), box == nullptr ? QJsonValue() : QJsonValue(box->Text())},
       {QStringLiteral("targets"), targets}};

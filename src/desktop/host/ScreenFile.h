@@ -21,8 +21,9 @@ namespace host {
 /// replaced as a whole whenever it changes, and holds one JSON object:
 ///   "screen"   the name of the form in front
 ///   "resting"  whether the system waits for the operator, with or without an open list or menu
-///   "focus"    the name of the control that the keyboard writes to, empty while the window is not
-///              the active one
+///   "keyboard" whether keys arrive here: false while the window system has not yet made the window
+///              the active one, when they would be lost
+///   "focus"    the name of the control that the keyboard writes to, empty without it
 ///   "box"      the text of the message box that is up, or null
 ///   "targets"  by name, what can be seen and pointed at: {"x", "y"} the middle in pixels of the
 ///              screen, "usable", and "text" as it is shown; a password has none. Beside the

@@ -30,7 +30,6 @@ constexpr const char* kFirstFile =
     "Impressora=\n";
 
 /// What is wrong with a value, as the rest of a sentence; empty when it was taken.
-
 using Take = std::string (*)(Settings& settings, const std::string& folder,
                              const std::string& value);
 
@@ -94,12 +93,11 @@ std::string TakeLine(Settings& settings, const std::string& folder, const std::s
 Settings Settings::Read(const std::string& folder) {
   Settings settings;
   const std::string file = (fs::path(folder) / kFileName).string();
-  std::error_code ignored;
-  if (!fs::exists(file, ignored)) return settings;
   std::string text;
   try {
     text = platform::files::Read(file);
-  } catch (const base::RuntimeError&) {
+  } catch (const base::RuntimeError& error) {
+    if (platform::files::IsAbsence(error)) return settings;
     throw std::runtime_error("Não foi possível ler as configurações em '" + file +
                              "'. Confira as permissões do arquivo.");
   }
@@ -119,8 +117,9 @@ Settings Settings::Read(const std::string& folder) {
 
 void Settings::CreateIfMissing(const std::string& folder) {
   const std::string file = (fs::path(folder) / kFileName).string();
+  // One that cannot be looked at may well be there.
   std::error_code ignored;
-  if (fs::exists(file, ignored)) return;
+  if (fs::status(file, ignored).type() != fs::file_type::not_found) return;
   try {
     platform::files::Write(file, kFirstFile);
   } catch (const base::RuntimeError&) {

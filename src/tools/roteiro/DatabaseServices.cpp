@@ -48,9 +48,7 @@ class ToldViewer final : public clsMensagem {
 std::string ExchangeFolder(const Options& options, platform::Desktop& desktop) {
   if (!options.exchange.empty()) return options.exchange;
   const std::filesystem::path folder = std::filesystem::path(desktop.ModuleFolder()) / "cfe";
-  if (std::filesystem::create_directory(folder)) {
-    std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
-  }
+  platform::files::MakeFolder(folder.string());
   return folder.string();
 }
 
