@@ -18,7 +18,8 @@ bool IsText(const fs::path& path) {
 }
 
 void Add(std::vector<Source>& sources, const fs::path& root, const fs::path& path) {
-  if (!fs::is_regular_file(path) || !IsText(path)) return;
+  // A second tree of the same repository has a file there that says where the first one is.
+  if (!fs::is_regular_file(path) || !IsText(path) || path.filename() == ".git") return;
   std::ifstream in(path, std::ios::binary);
   std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
   sources.push_back({fs::relative(path, root).generic_string(), std::move(text)});
@@ -28,7 +29,7 @@ std::vector<Source> Load() {
   const fs::path root = CAIXA_SOURCE_DIR;
   std::vector<Source> sources;
   for (const fs::directory_entry& entry : fs::directory_iterator(root)) Add(sources, root, entry);
-  for (const char* folder : {"src", "tests", "bench", "docs", "cmake", ".ci"}) {
+  for (const char* folder : {"src", "tests", "bench", "docs", "cmake", "scripts", ".ci"}) {
     if (!fs::is_directory(root / folder)) continue;
     for (const auto& entry : fs::recursive_directory_iterator(root / folder)) {
       Add(sources, root, entry);

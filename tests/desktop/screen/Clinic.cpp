@@ -52,8 +52,7 @@ void Clinic::ExpectBalancedAndFree() {
 
 void SignInAndOpenTheRegister(Operator& at) {
   at.See("frmEntrada");
-  at.Click("zvtxtUsuario");
-  at.Type("marina\t");
+  at.Fill("zvtxtUsuario", "marina\t");
   at.See("zvtxtUsuario", "marina");
   at.Type("girassol-41");
   at.Key("Return");

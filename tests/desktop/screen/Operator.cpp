@@ -45,10 +45,10 @@ QJsonObject Operator::Look() const {
 }
 
 QJsonObject Operator::Await(const QString& what,
-                            const std::function<bool(const QJsonObject&)>& seen) {
+                            const std::function<bool(const QJsonObject&)>& seen, bool atRest) {
   for (int look = 0; look < kLooks; ++look) {
     const QJsonObject now = Look();
-    if (now[u"resting"].toBool() && seen(now)) return now;
+    if ((!atRest || now[u"resting"].toBool()) && seen(now)) return now;
     if (program_.waitForFinished(0)) throw std::runtime_error("the program ended");
     QThread::msleep(kLookEveryMilliseconds);
   }
@@ -135,16 +135,25 @@ void Operator::Fill(const char* field, const char* text) {
   Type(text);
 }
 
+void Operator::AwaitKeyboard() {
+  Await(
+      QStringLiteral("the keyboard"),
+      [](const QJsonObject& now) { return now[u"keyboard"].toBool(); }, false);
+}
+
 void Operator::Type(const char* text) {
+  AwaitKeyboard();
   screen_.Send({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("2"),
                 QString::fromUtf8(text)});
 }
 
 void Operator::Key(const char* key) {
+  AwaitKeyboard();
   screen_.Send({QStringLiteral("key"), QString::fromUtf8(key)});
 }
 
 void Operator::Scan(const char* digits) {
+  AwaitKeyboard();
   QStringList acts{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("1")};
   for (const QChar digit : QString::fromUtf8(digits)) acts << digit;
   screen_.Send(acts << QStringLiteral("Return"));

@@ -36,7 +36,7 @@ class Operator {
   /// Clicks into a field and types over what it holds.
   void Fill(const char* field, const char* text);
 
-  /// At once, wherever the keyboard is.
+  /// At once, wherever the keyboard is; but the window has to have it.
   void Type(const char* text);
   void Key(const char* key);
   /// As a barcode scanner does: the digits and Enter, as fast as the keyboard goes.
@@ -49,8 +49,11 @@ class Operator {
 
  private:
   QJsonObject Look() const;
-  /// Waits until `seen` holds of what is told, at rest.
-  QJsonObject Await(const QString& what, const std::function<bool(const QJsonObject&)>& seen);
+  /// Waits until `seen` holds of what is told, at rest if it has to be.
+  QJsonObject Await(const QString& what, const std::function<bool(const QJsonObject&)>& seen,
+                    bool atRest = true);
+  /// What is typed before the window system has made the window the active one goes nowhere.
+  void AwaitKeyboard();
   void Point(const char* target, const QStringList& act);
 
   const XScreen& screen_;
