@@ -17,12 +17,12 @@ struct Column {
   std::string name, type;
 };
 
-/// All but those that a new sale gets from the database.
+/// All but those that are new with each sale.
 std::vector<Column> ColumnsOf(RawPostgres& link, const std::string& table) {
   const auto found = link.Execute(
       "SELECT attname, format_type(atttypid, atttypmod) FROM pg_attribute"
       " WHERE attrelid = CAST($1 AS regclass) AND attnum > 0 AND NOT attisdropped"
-      " AND attname NOT IN ('numero', 'numero_da_venda') ORDER BY attnum",
+      " AND attname NOT IN ('numero', 'numero_da_venda', 'operacao') ORDER BY attnum",
       {table.c_str()});
   std::vector<Column> columns;
   columns.reserve(static_cast<std::size_t>(PQntuples(found.get())));
@@ -60,15 +60,13 @@ class Model {
     sql_ =
         "WITH caixa AS (UPDATE caixas SET dinheiro = dinheiro + CAST($1 AS bigint)"
         " WHERE numero = CAST($2 AS integer) AND ativo = 1 AND aberto = 1 RETURNING numero),"
-        " serie AS MATERIALIZED (SELECT CAST(nextval('vendas_numero_seq') AS integer) AS n"
-        " WHERE EXISTS (SELECT 1 FROM caixa)),";
-    auto sale = ColumnsOf(link, "vendas");
-    // No two sales have the same operation, and it is drawn, as ours is.
-    for (Column& column : sale) {
-      if (column.name == "operacao") column.type += ") # CAST(random() * 9e18 AS bigint";
-    }
-    sql_ += " venda AS (INSERT INTO vendas (numero, " + Listed(sale, "{n}", 0) + ") SELECT s.n, " +
-            Listed(sale, "CAST({p} AS {t})", NextPlace()) + " FROM serie s RETURNING numero)";
+        // No two sales have the same operation, and it is drawn, as ours is.
+        " serie AS MATERIALIZED (SELECT CAST(nextval('vendas_numero_seq') AS integer) AS n,"
+        " CAST(random() * 9e18 AS bigint) AS o WHERE EXISTS (SELECT 1 FROM caixa)),";
+    const auto sale = ColumnsOf(link, "vendas");
+    sql_ += " venda AS (INSERT INTO vendas (numero, operacao, " + Listed(sale, "{n}", 0) +
+            ") SELECT s.n, s.o, " + Listed(sale, "CAST({p} AS {t})", NextPlace()) +
+            " FROM serie s RETURNING numero)";
     Keep(link, "SELECT " + Listed(sale, "CAST({n} AS text)", 0) + " FROM vendas WHERE numero = $1");
     for (const char* table : {"itens_de_venda", "lancamentos_de_caixa", "contas_a_receber"}) {
       WriteRowsOf(link, table);
@@ -91,8 +89,10 @@ class Model {
     const std::string ofSale = " FROM " + table + " WHERE numero_da_venda = $1";
     if (PQntuples(link.Execute("SELECT 1" + ofSale, {number_.c_str()}).get()) == 0) return;
     const auto columns = ColumnsOf(link, table);
+    const bool hasOperation = table == "lancamentos_de_caixa";
     sql_ += ", " + table + "_novos AS (INSERT INTO " + table + " (numero_da_venda, " +
-            Listed(columns, "{n}", 0) + ") SELECT s.n, r.* FROM serie s, unnest(" +
+            (hasOperation ? "operacao, " : "") + Listed(columns, "{n}", 0) + ") SELECT s.n, " +
+            (hasOperation ? "s.o, " : "") + "r.* FROM serie s, unnest(" +
             Listed(columns, "CAST({p} AS {t}[])", NextPlace()) + ") AS r)";
     Keep(link,
          "SELECT " + Listed(columns, "CAST(array_agg({n} ORDER BY ctid) AS text)", 0) + ofSale);

@@ -1,4 +1,5 @@
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,8 @@ using Value = std::unique_ptr<sqlite3_value, FreeValue>;
 using Row = std::vector<Value>;
 
 /// The rows that a sale has in a table, and the statement that writes one of them. The first place
-/// is for the sale's number, where the table is not that of the sales.
+/// is for the sale's number, where the table is not that of the sales, and the next for its
+/// operation, where the table has one: no two sales have the same.
 class Rows {
  public:
   Rows(RawSqlite& database, const std::string& table, std::int64_t sale) {
@@ -29,11 +31,17 @@ class Rows {
     for (int i = 0; i < sqlite3_column_count(select); ++i) {
       const std::string name = sqlite3_column_name(select, i);
       if (name == "numero" || name == "numero_da_venda") continue;
-      // No two sales have the same, and it is drawn, as ours is.
-      const bool isDrawn = isSale && name == "operacao";
-      if (!isDrawn) kept.push_back(i);
+      if (name == "operacao") {
+        hasOperation_ = true;
+        continue;
+      }
+      kept.push_back(i);
       columns += (columns.empty() ? "" : ", ") + name;
-      places += std::string(places.empty() ? "" : ", ") + (isDrawn ? "random()" : "?");
+      places += places.empty() ? "?" : ", ?";
+    }
+    if (hasOperation_) {
+      columns += ", operacao";
+      places += ", ?";
     }
     while (sqlite3_step(select) == SQLITE_ROW) {
       Row& row = rows_.emplace_back();
@@ -46,11 +54,12 @@ class Rows {
     firstPlace_ = isSale ? 1 : 2;
   }
 
-  void WriteUnder(std::int64_t sale) const {
+  void WriteUnder(std::int64_t sale, std::int64_t operation) const {
     for (const Row& row : rows_) {
       if (firstPlace_ > 1) sqlite3_bind_int64(*insert_, 1, sale);
       int place = firstPlace_;
       for (const Value& value : row) sqlite3_bind_value(*insert_, place++, value.get());
+      if (hasOperation_) sqlite3_bind_int64(*insert_, place, operation);
       insert_->Run();
     }
   }
@@ -59,6 +68,7 @@ class Rows {
   std::vector<Row> rows_;
   std::unique_ptr<RawStatement> insert_;
   int firstPlace_ = 1;
+  bool hasOperation_ = false;
 };
 
 struct Twin {
@@ -75,9 +85,10 @@ struct Twin {
   std::int64_t Write() {
     begin.Run();
     money.Run();
-    sale.WriteUnder(0);
+    const auto operation = static_cast<std::int64_t>(draw());
+    sale.WriteUnder(0, operation);
     number = sqlite3_last_insert_rowid(database.Handle());
-    for (const Rows& part : parts) part.WriteUnder(number);
+    for (const Rows& part : parts) part.WriteUnder(number, operation);
     commit.Run();
     return number;
   }
@@ -91,6 +102,7 @@ struct Twin {
   Rows sale;
   std::vector<Rows> parts;
   std::int64_t number;
+  std::mt19937_64 draw{std::random_device()()};
 };
 
 }  // namespace

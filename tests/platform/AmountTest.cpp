@@ -85,7 +85,8 @@ TEST_F(Amount, ReadsAsItIsShownAtEveryKey) {
 
 // A service skips the points of a text, so none may stand for a comma on the way either.
 TEST_F(Amount, ShowsPointsBetweenThousandsAlone) {
-  for (const std::string keys : {"1.234.567,89", "1.5<00<<", "12.3[]*", "1.234<<<<", "1.234[]]]<"}) {
+  for (const std::string keys :
+       {"1.234.567,89", "1.5<00<<", "12.3[]*", "1.234<<<<", "1.234[]]]<"}) {
     for (std::size_t length = 1; length <= keys.size(); ++length) {
       const std::string text = Typed(keys.substr(0, length));
       const std::size_t point = text.rfind('.');

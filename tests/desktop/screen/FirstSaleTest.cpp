@@ -156,6 +156,8 @@ TEST_F(FirstSaleTest, IsRungUpWithTheKeyboardAloneAndWithoutAWindowManager) {
     1,00 x Consulta clínica geral (Pipoca)              133,00
         com desconto de 7,00
     Valor bruto                                         140,00
+    Desconto nos itens                                    0,00
+    Desconto da venda                                    -7,00
     Valor líquido                                       133,00
   Pagamentos:
     PIX                                                  33,00

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
 #include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
@@ -46,7 +47,7 @@ class DoubtTest : public OverDatabase {
     for (int looks = 0; told.status == servicos::kRecusa && looks < 100; ++looks) told = Sell();
     return told;
   }
-  int Port() const { return std::stoi(address_.substr(address_.find("port=") + 5)); }
+  int Port() const { return base::ToInt32(base::Val(address_.substr(address_.find("port=") + 5))); }
 
   /// The answer to the next commit is lost, and it cannot be looked up until BackAgain.
   void LoseNextAnswer(bool lands) {
