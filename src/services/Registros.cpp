@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
+#include "base/Text.h"
 #include "services/Banco.h"
 #include "services/DatabaseError.h"
 #include "services/Outcome.h"
@@ -105,6 +106,13 @@ std::int32_t Registros::Registrar(const Registro& novo, const Gravar& gravar) {
   }
   ultimo_ = Palavras(novo, numero).Esta();
   return numero;
+}
+
+std::string Registros::AposUltimo(const std::string& falha) const {
+  if (ultimo_.empty()) return falha;
+  return ultimo_ + ' ' +
+         base::Replace(falha, Sentence(Trouble::kConnectionLost),
+                       "A conexão com o banco de dados caiu. Aguarde um instante.");
 }
 
 void Registros::Apurar() {

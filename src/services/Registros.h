@@ -50,9 +50,9 @@ class Registros {
   /// Finds out what is in doubt, and tells the operator; takes 10 s at most.
   void Apurar();
 
-  /// "A venda 12 está registrada.", until the next registration or until it is forgotten; empty
-  /// before any.
-  const std::string& Ultimo() const { return ultimo_; }
+  /// What is told of a fault, after "A venda 12 está registrada." until the next registration or
+  /// until that is forgotten: the operator is not to take the fault for the sale's.
+  std::string AposUltimo(const std::string& falha) const;
   void EsquecerUltimo() { ultimo_.clear(); }
 
  private:

@@ -36,9 +36,8 @@ class SobreBanco : public Contrato {
   std::int16_t Numerado(std::string_view membro, Operation operation) {
     const Banco::Uso uso(*banco_);
     const std::int16_t status = outcome_.Of(Contrato::kIdentificador, membro, operation);
-    const std::string& registrado = banco_->Registros().Ultimo();
-    if (status == servicos::kErro && !registrado.empty()) {
-      outcome_.description = registrado + ' ' + outcome_.description;
+    if (status == servicos::kErro) {
+      outcome_.description = banco_->Registros().AposUltimo(outcome_.description);
     }
     return status;
   }

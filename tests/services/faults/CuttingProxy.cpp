@@ -35,7 +35,8 @@ struct CuttingProxy::Pair {
   std::array<int, 2> ends{-1, -1};
   bool isCommitting = false;
   bool isMute = false;
-  std::string held = {};  ///< From the client, kept from the server.
+  std::string commit = {};  ///< The name that the client has given to that statement.
+  std::string held = {};    ///< From the client, kept from the server.
 
   void Close() {
     for (int& end : ends) close(std::exchange(end, -1));
@@ -100,7 +101,10 @@ class CuttingProxy::Server {
 
   /// Strikes when the moment is there: cuts from the words what is not to pass any more.
   std::string TakeBack(Pair& pair, std::size_t from, std::string& words) {
-    const bool saysCommit = from == 0 && words.find("COMMIT") != std::string::npos;
+    const bool saysCommit = from == 0 && SaysCommit(pair, words);
+    // Those before it pass.
+    const bool isTheCommit = saysCommit && shared_.commits == shared_.mostCommits;
+    if (saysCommit) shared_.commits = shared_.commits + 1;
     std::size_t passing = words.size();
     bool strikes = false;
     if (moment_ == Moment::kClientBytes || moment_ == Moment::kServerBytes) {
@@ -112,15 +116,26 @@ class CuttingProxy::Server {
     } else if (moment_ == Moment::kCommitted) {
       strikes = from == 1 && pair.isCommitting;
       if (strikes) passing = 0;
+      pair.isCommitting = pair.isCommitting || isTheCommit;
     } else {
-      strikes = saysCommit;
+      strikes = isTheCommit;
       if (strikes && moment_ == Moment::kCommitArrives) passing = 0;
     }
-    pair.isCommitting = pair.isCommitting || saysCommit;
     if (strikes) shared_.hasStruck = true;
     const std::string rest = words.substr(passing);
     words.resize(passing);
     return rest;
+  }
+
+  /// The first time the word itself comes, and a name for it, each later time the name alone.
+  static bool SaysCommit(Pair& pair, const std::string& words) {
+    const std::size_t word = words.find(std::string("\0COMMIT", 7));
+    if (word != std::string::npos) {
+      const std::size_t name = words.rfind("caixa", word);
+      if (name != std::string::npos) pair.commit = words.substr(name, word - name);
+    }
+    return words.find("COMMIT") != std::string::npos ||
+           (!pair.commit.empty() && words.find('\0' + pair.commit + '\0') != std::string::npos);
   }
 
   static void Release(Pair& pair) {
@@ -162,6 +177,11 @@ CuttingProxy::~CuttingProxy() {
   kill(process_, SIGKILL);
   waitpid(process_, nullptr, 0);
   munmap(shared_, sizeof(Shared));
+}
+
+void CuttingProxy::LetCommitsPass(int count) {
+  shared_->commits = 0;
+  shared_->mostCommits = count;
 }
 
 void CuttingProxy::Arm(std::int64_t most) {

@@ -33,6 +33,10 @@ class CuttingProxy {
   bool HasStruck() const { return shared_->hasStruck; }
   /// From here on bytes count, up to `most`.
   void Arm(std::int64_t most);
+  /// From here on so many commits pass before the moment of one comes; the very first is the one
+  /// that counts otherwise.
+  void LetCommitsPass(int count);
+  int Commits() const { return shared_->commits; }
   std::int64_t Bytes() const { return shared_->bytes; }
   void LetIn() { shared_->letsIn = true; }
 
@@ -41,6 +45,7 @@ class CuttingProxy {
   struct Shared {
     volatile bool isArmed, hasStruck, letsIn;
     volatile std::int64_t bytes, most;
+    volatile int commits, mostCommits;
   };
   struct Pair;
   class Server;
