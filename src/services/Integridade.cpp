@@ -60,8 +60,8 @@ bool IsText(const std::string& text) {
   std::string again;
   for (std::string_view rest = text; !rest.empty();) {
     const char32_t character = base::TakeCharacter(rest);
-    const bool isControl =
-        character < U' ' && character != U'\n' && character != U'\r' && character != U'\t';
+    const bool isControl = character == U'\x7f' || (character < U' ' && character != U'\n' &&
+                                                    character != U'\r' && character != U'\t');
     if (isControl) return false;
     base::AppendCharacter(again, character);
   }

@@ -6,6 +6,7 @@
 #include <sys/sysmacros.h>
 
 #include <array>
+#include <cerrno>
 #include <utility>
 
 namespace services {
@@ -66,22 +67,25 @@ SqliteFiles::SqliteFiles(sqlite3* database, std::string path)
   const std::string file = sqlite3_db_filename(database_, "main");
   logPath_ = file + "-wal";
   indexPath_ = file + "-shm";
-  main_ = Found(path_);
-  log_ = Found(logPath_);
-  index_ = Found(indexPath_);
+  main_ = Found(path_, {});
+  log_ = Found(logPath_, {});
+  index_ = Found(indexPath_, {});
 }
 
-SqliteFiles::Identity SqliteFiles::Found(const std::string& path) {
+SqliteFiles::Identity SqliteFiles::Found(const std::string& path, const Identity& last) {
   // Not the times: of a file whose times were asked for the kernel has to note the very next write,
   // which costs that write ten times what the question does.
   struct statx found {};
-  if (statx(AT_FDCWD, path.c_str(), 0, STATX_INO | STATX_SIZE, &found) != 0) return {};
+  if (statx(AT_FDCWD, path.c_str(), 0, STATX_INO | STATX_SIZE, &found) != 0) {
+    // A disk that does not say has not said that the file is gone.
+    return errno == EIO || errno == ENOMEM ? last : Identity{};
+  }
   return {makedev(found.stx_dev_major, found.stx_dev_minor), found.stx_ino,
           static_cast<off_t>(found.stx_size)};
 }
 
 bool SqliteFiles::IsDatabaseThere() {
-  const Identity now = Found(path_);
+  const Identity now = Found(path_, main_);
   if (now != main_) return false;
   if (now.size < main_.size && IsShorterThanItSays(now.size)) return false;
   main_.size = now.size;
@@ -92,7 +96,8 @@ bool SqliteFiles::IsShorterThanItSays(off_t size) const {
   // A file that was made smaller as it should be says so at its beginning.
   std::array<unsigned char, kPagesInHeader + 4 - kHeader> header{};
   sqlite3_file* const file = FileOf(database_);
-  if (file->pMethods->xRead(file, header.data(), header.size(), kHeader) != SQLITE_OK) return true;
+  const int status = file->pMethods->xRead(file, header.data(), header.size(), kHeader);
+  if (status != SQLITE_OK) return status == SQLITE_IOERR_SHORT_READ;
   const std::uint32_t pages = BigEndian(&header[kPagesInHeader - kHeader], 4);
   return size < pages * PageSize(BigEndian(header.data(), 2));
 }
@@ -103,9 +108,11 @@ bool SqliteFiles::IsLogThere() {
   const off_t frame = kFrameHeader + PageSize(index->pageSize);
   while (true) {
     const End end{.frames = index->frames, .salt = index->Salt()};
-    const Identity now = Found(logPath_);
-    if (now != log_ || Found(indexPath_) != index_) return false;
-    const bool isLongEnough = now.size >= kLogHeader + frame * static_cast<off_t>(end.frames);
+    constexpr off_t kUnknown = -1;
+    const Identity now = Found(logPath_, {log_.device, log_.node, kUnknown});
+    if (now != log_ || Found(indexPath_, index_) != index_) return false;
+    const bool isLongEnough =
+        now.size == kUnknown || now.size >= kLogHeader + frame * static_cast<off_t>(end.frames);
     const bool isKept = end.salt != end_.salt || IsInLog(end_, frame);
     if (end.frames == 0 || (isLongEnough && isKept)) {
       end_ = end;
@@ -123,8 +130,9 @@ bool SqliteFiles::IsInLog(const End& end, off_t frameSize) const {
   if (end.frames == 0 || log == nullptr || log->pMethods == nullptr) return true;
   std::array<std::uint32_t, 2> salt{};
   const off_t at = kLogHeader + frameSize * static_cast<off_t>(end.frames - 1) + kSaltInFrame;
-  return log->pMethods->xRead(log, salt.data(), sizeof salt, at) == SQLITE_OK &&
-         (std::uint64_t{salt[0]} << 32U | salt[1]) == end.salt;
+  const int status = log->pMethods->xRead(log, salt.data(), sizeof salt, at);
+  if (status != SQLITE_OK) return status != SQLITE_IOERR_SHORT_READ;
+  return (std::uint64_t{salt[0]} << 32U | salt[1]) == end.salt;
 }
 
 std::uint32_t SqliteFiles::PagesInLog() const {

@@ -45,7 +45,8 @@ class SqliteFiles {
     std::uint64_t salt = 0;
   };
 
-  static Identity Found(const std::string& path);
+  /// What bears the name now; `last` when the disk fails to say.
+  static Identity Found(const std::string& path, const Identity& last);
   bool IsInLog(const End& end, off_t frameSize) const;
   bool IsShorterThanItSays(off_t size) const;
 

@@ -19,11 +19,12 @@ namespace {
 using Deed = SystemCalls::Deed;
 using Registers = user_regs_struct;
 
-constexpr std::array kFileCalls{
-    SYS_read,  SYS_pread64,   SYS_write,     SYS_pwrite64,   SYS_openat, SYS_open,
-    SYS_fsync, SYS_fdatasync, SYS_rename,    SYS_unlink,     SYS_link,   SYS_mkdir,
-    SYS_stat,  SYS_lstat,     SYS_ftruncate, SYS_newfstatat, SYS_fstat,  SYS_access,
-    SYS_chmod, SYS_fchmod,    SYS_fallocate, SYS_renameat2};
+constexpr std::array kWritingCalls{SYS_write,     SYS_pwrite64,  SYS_openat,    SYS_open,
+                                   SYS_fsync,     SYS_rename,    SYS_link,      SYS_mkdir,
+                                   SYS_fdatasync, SYS_fallocate, SYS_ftruncate, SYS_renameat2};
+constexpr std::array kLookingCalls{SYS_read,  SYS_pread64, SYS_stat,       SYS_lstat,
+                                   SYS_fstat, SYS_access,  SYS_newfstatat, SYS_statx,
+                                   SYS_chmod, SYS_fchmod,  SYS_unlink};
 /// Never refused by a disk or a network: what is given back is given back.
 constexpr std::array kCallsThatDoNotFail{SYS_close, SYS_fcntl};
 constexpr std::array kSocketCalls{SYS_sendto,  SYS_recvfrom, SYS_sendmsg,
@@ -35,9 +36,10 @@ bool IsOneOf(const std::array<int, n>& calls, unsigned long long call) {
 }
 
 bool Counts(Deed deed, unsigned long long call) {
-  const bool kills = deed == Deed::kDieBefore || deed == Deed::kDieAfter;
-  return IsOneOf(kFileCalls, call) || IsOneOf(kSocketCalls, call) ||
-         (kills && IsOneOf(kCallsThatDoNotFail, call));
+  if (IsOneOf(kWritingCalls, call) || IsOneOf(kSocketCalls, call)) return true;
+  if (IsOneOf(kLookingCalls, call)) return deed != Deed::kDiskFull;
+  return (deed == Deed::kDieBefore || deed == Deed::kDieAfter) &&
+         IsOneOf(kCallsThatDoNotFail, call);
 }
 
 int ErrorOf(Deed deed, unsigned long long call) {
