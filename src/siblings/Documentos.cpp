@@ -1,14 +1,14 @@
 #include "siblings/Documentos.h"
 
 #include "base/Value.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
-#include "siblings/Sessao.h"
 #include "siblings/dados/clsDocumentos.h"
 
 namespace siblings {
 
-std::optional<Empresa> LerEmpresa(std::string_view oQue) {
-  auto documentos = CriarServico<dados::clsDocumentos>();
+std::optional<Empresa> EmpresaDoDocumento(std::string_view oQue) {
+  auto documentos = frame::CriarServicoComSessao<dados::clsDocumentos>();
   if (!frame::Aceitar(documentos->SelecionarEmpresa(), *documentos)) return std::nullopt;
   const base::RecordSetPtr registro = documentos->ResultadoDaSelecaoEmRecordSet();
   if (registro->RecordCount() == 0) {

@@ -9,6 +9,6 @@ namespace siblings {
 /// The company as it stands on documents. Nothing after a fault, which has been reported, and where
 /// none is registered: then the operator has read that `oQue`, as in "o orçamento", cannot be
 /// printed.
-std::optional<Empresa> LerEmpresa(std::string_view oQue);
+std::optional<Empresa> EmpresaDoDocumento(std::string_view oQue);
 
 }  // namespace siblings

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/modMensagemDeErro.h"
@@ -12,7 +13,6 @@
 #include "lookup/PesquisaDeCliente.h"
 #include "lookup/frmPesquisaDeProdutos.h"
 #include "lookup/frmPesquisaDeServicos.h"
-#include "siblings/Sessao.h"
 
 namespace siblings {
 namespace {
@@ -42,7 +42,7 @@ struct Encontrados {
 /// Nothing after a fault, which has been reported.
 template <class Classe, class Tipo>
 std::optional<Encontrados> Selecionar(const std::string& texto, Tipo tipo) {
-  auto servico = CriarServico<Classe>();
+  auto servico = frame::CriarServicoComSessao<Classe>();
   if (servico->Selecionar(2, 0, 1, texto, tipo)) {
     frame::ExibirErroDoServico(*servico);
     return std::nullopt;

@@ -5,6 +5,7 @@
 
 #include "base/DateTime.h"
 #include "base/Numbers.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "platform/Desktop.h"
 #include "siblings/Documentos.h"
@@ -57,9 +58,9 @@ void Escrever(drOrcamento& relatorio, const base::RecordSet& orcamento) {
 }  // namespace
 
 void ImprimirOrcamento(const Cliente& cliente, std::int32_t numero) {
-  const std::optional<Empresa> empresa = LerEmpresa("o orçamento");
+  const std::optional<Empresa> empresa = EmpresaDoDocumento("o orçamento");
   if (!empresa) return;
-  auto orcamentos = CriarServico<dados::clsOrcamentos>();
+  auto orcamentos = frame::CriarServicoComSessao<dados::clsOrcamentos>();
   if (!frame::Aceitar(orcamentos->Selecionar(cliente.codigo), *orcamentos)) return;
   const base::RecordSetPtr orcamento = orcamentos->ResultadoDaSelecaoEmRecordSet();
   if (!IrPara(*orcamento, numero)) return;

@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Value.h"
+#include "frame/Valores.h"
 
 namespace siblings {
 

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <memory>
 #include <string>
-
-#include "frame/Valores.h"
-#include "frame/servicos/Servico.h"
 
 namespace siblings {
 
@@ -16,14 +12,6 @@ struct Cliente {
   /// "5 - Dudu (Eduardo Sampaio Leal)".
   std::string PorExtenso() const;
 };
-
-/// A new service that knows the logged-in user.
-template <class Classe>
-std::unique_ptr<Classe> CriarServico() {
-  std::unique_ptr<Classe> servico = servicos::CriarServico<Classe>();
-  servico->DadosDoUsuario(frame::valores().DadosDoUsuario);
-  return servico;
-}
 
 /// The name of the logged-in user.
 std::string NomeDoOperador();

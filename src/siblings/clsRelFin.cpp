@@ -4,6 +4,7 @@
 #include "base/DateTime.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
 #include "frame/servicos/ZOVA_A_RelFin.clsRelFin.h"
@@ -26,7 +27,7 @@ struct Pedido {
 };
 
 std::optional<Emitente> LerEmitente(double codigoDoCliente) {
-  auto documentos = CriarServico<clsDocumentos>();
+  auto documentos = frame::CriarServicoComSessao<clsDocumentos>();
   const std::int16_t status = documentos->SelecionarCliente(codigoDoCliente);
   if (!frame::Aceitar(status, *documentos)) return std::nullopt;
   const base::RecordSetPtr registro = documentos->ResultadoDaSelecaoEmRecordSet();
@@ -45,7 +46,7 @@ std::optional<Emitente> LerEmitente(double codigoDoCliente) {
 /// Sale and instalment, as in "123-1/2"; where they cannot be told, day and customer. Nothing after
 /// a fault.
 std::optional<std::string> LerNumero(const Pedido& pedido) {
-  auto documentos = CriarServico<clsDocumentos>();
+  auto documentos = frame::CriarServicoComSessao<clsDocumentos>();
   const std::int16_t status = documentos->SelecionarParcela(pedido.codigoDoCliente, pedido.emissao,
                                                             pedido.vencimento, pedido.valor);
   if (!frame::Aceitar(status, *documentos)) return std::nullopt;
@@ -67,7 +68,7 @@ class clsRelFin final : public TelaComum<servicos::ZOVA_A_RelFin::clsRelFin> {
                                bool& visualizar) override {
     frame::Procedimento(", clsRelFin, ImprimirNotaPromissoria, Ponto: ", [&](frame::Ponto& ponto) {
       const Pedido pedido{base::ToDate(hoje), vencimento, valor, codigoDoCliente};
-      const std::optional<Empresa> empresa = LerEmpresa("a nota promissória");
+      const std::optional<Empresa> empresa = EmpresaDoDocumento("a nota promissória");
       if (!empresa) return;
       ponto = 2;
       const std::optional<Emitente> emitente = LerEmitente(codigoDoCliente);

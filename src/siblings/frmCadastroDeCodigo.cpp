@@ -1,11 +1,11 @@
 #include "siblings/frmCadastroDeCodigo.h"
 
 #include "base/Value.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/Procedimento.h"
 #include "platform/Layout.h"
-#include "siblings/Sessao.h"
 
 namespace siblings {
 
@@ -55,7 +55,7 @@ std::int16_t frmCadastroDeCodigo::MontarExibirFormulario() {
 }
 
 bool frmCadastroDeCodigo::LerCodigoAtual() {
-  auto cadastro = CriarServico<clsCadastroFiscal>();
+  auto cadastro = frame::CriarServicoComSessao<clsCadastroFiscal>();
   if (!frame::Aceitar((*cadastro.*cadastro_.selecionar)(codigo_), *cadastro)) return false;
   const base::RecordSetPtr registro = cadastro->ResultadoDaSelecaoEmRecordSet();
   registro->MoveFirst();
@@ -99,7 +99,7 @@ void frmCadastroDeCodigo::zvcmdSalvar_Click() {
     if (!Validar()) return;
     ponto = 2;
     const frame::PonteiroDeEspera espera(*this, platform::kHourglassPointer);
-    auto cadastro = CriarServico<clsCadastroFiscal>();
+    auto cadastro = frame::CriarServicoComSessao<clsCadastroFiscal>();
     const std::int16_t status = cadastro_.registrar(*cadastro, codigo_, zvmskCodigo.UnmaskedText());
     // After a fault the operator may try again: to give up here would cost the whole sale.
     if (!frame::Aceitar(status, *cadastro)) return;

@@ -2,6 +2,7 @@
 
 #include "base/DateTime.h"
 #include "base/Numbers.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/Procedimento.h"
@@ -120,7 +121,7 @@ bool frmHistoricoDeVendas::Validar() {
 
 bool frmHistoricoDeVendas::Pesquisar() {
   const frame::PonteiroDeEspera espera(*this, platform::kHourglassPointer);
-  auto historico = CriarServico<clsHistorico>();
+  auto historico = frame::CriarServicoComSessao<clsHistorico>();
   const std::int16_t status = historico->SelecionarVendas(
       cliente_.codigo, base::ToDate(zvdtpDataInicial.Text()), base::ToDate(zvdtpDataFinal.Text()));
   if (!frame::Aceitar(status, *historico)) return false;
@@ -185,7 +186,7 @@ void frmHistoricoDeVendas::msfgGrade_SelChange() {
       itens += ", cupom fiscal " + cupom;
     }
     lblItens.Caption = itens;
-    auto historico = CriarServico<clsHistorico>();
+    auto historico = frame::CriarServicoComSessao<clsHistorico>();
     const std::int16_t status = historico->SelecionarItens(base::ToInt32(base::ToDouble(numero)));
     if (!frame::Aceitar(status, *historico)) return;
     ponto = 3;

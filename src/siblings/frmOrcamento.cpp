@@ -6,6 +6,7 @@
 #include "base/Text.h"
 #include "frame/CampoDeValor.h"
 #include "frame/CamposNumericos.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/Procedimento.h"
@@ -244,7 +245,7 @@ void frmOrcamento::zvcmdSalvar_Click() {
     orcamento_.operador = NomeDoOperador();
     ponto = 3;
     const frame::PonteiroDeEspera espera(*this, platform::kHourglassPointer);
-    auto orcamentos = CriarServico<clsOrcamentos>();
+    auto orcamentos = frame::CriarServicoComSessao<clsOrcamentos>();
     if (!frame::Aceitar(orcamentos->Registrar(orcamento_), *orcamentos)) return;
     numero_ = orcamentos->Numero();
     ponto = 4;

@@ -1,6 +1,7 @@
 #include "siblings/frmOrcamentos.h"
 
 #include "base/Numbers.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/Procedimento.h"
@@ -109,7 +110,7 @@ void frmOrcamentos::MontarExibirFormulario() {
 
 bool frmOrcamentos::Listar() {
   const frame::PonteiroDeEspera espera(*this, platform::kHourglassPointer);
-  auto orcamentos = CriarServico<clsOrcamentos>();
+  auto orcamentos = frame::CriarServicoComSessao<clsOrcamentos>();
   if (!frame::Aceitar(orcamentos->Selecionar(cliente_.codigo), *orcamentos)) return false;
   orcamentos_.Preencher(*orcamentos->ResultadoDaSelecaoEmRecordSet());
   const bool algum = orcamentos_.Quantos() > 0;
@@ -136,7 +137,7 @@ void frmOrcamentos::msfgGrade_SelChange() {
     }
     ponto = 2;
     lblItens.Caption = "Itens do orçamento " + base::ToText(numero);
-    auto orcamentos = CriarServico<clsOrcamentos>();
+    auto orcamentos = frame::CriarServicoComSessao<clsOrcamentos>();
     if (!frame::Aceitar(orcamentos->SelecionarItens(numero), *orcamentos)) return;
     itens_.Preencher(*orcamentos->ResultadoDaSelecaoEmRecordSet());
   });
@@ -174,7 +175,7 @@ void frmOrcamentos::zvcmdCancelarOrcamento_Click() {
       return;
     }
     ponto = 2;
-    auto orcamentos = CriarServico<clsOrcamentos>();
+    auto orcamentos = frame::CriarServicoComSessao<clsOrcamentos>();
     if (!frame::Aceitar(orcamentos->Cancelar(numero, NomeDoOperador()), *orcamentos)) return;
     ponto = 3;
     if (!Listar()) return;
