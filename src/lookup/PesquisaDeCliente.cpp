@@ -2,6 +2,8 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/Consultas.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/Valores.h"
 #include "frame/modMensagemDeErro.h"
@@ -28,18 +30,12 @@ std::string NinguemEncontrado(const ProcuraDeCliente& procura) {
   return "Nenhum cliente encontrado com o código '" + base::ToText(procura.codigo) + "' informado.";
 }
 
-/// The record of the customer whom the operator picks; null when he picks none. The list itself
+/// The record of the customer whom the operator picks; null when none is picked. The list itself
 /// lets nobody through who cannot be served.
-base::RecordSetPtr EscolherDaLista(const base::RecordSetPtr& encontrados,
-                                   const std::string& aviso) {
-  frame::FundoEscuro fundo;
+base::RecordSetPtr EscolherDaLista(const Selecao& encontrados) {
+  const frame::FundoEscuro fundo;
   frmPesquisaDeClientes lista;
-  std::int16_t falha = 0;
-  lista.ConfigurarGrade(falha);
-  if (falha == 0) lista.PreencherGrade(encontrados, falha, aviso);
-  if (falha == 1) return nullptr;
-  lista.ShowModal();
-  base::RecordSetPtr cliente = lista.RegistroSelecionado() ? lista.Escolhido() : nullptr;
+  base::RecordSetPtr cliente = lista.Escolher(encontrados) ? lista.Escolhido() : nullptr;
   lista.Unload();
   return cliente;
 }
@@ -49,16 +45,14 @@ base::RecordSetPtr EscolherDaLista(const base::RecordSetPtr& encontrados,
 base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
                                    frame::PainelDeMensagem& painel) {
   frame::Espera espera(painel);
-  auto clientes = servicos::CriarServico<clsClientes>();
-  clientes->DadosDoUsuario(frame::valores().DadosDoUsuario);
-  std::string texto = procura.apelido.empty() ? procura.nome : procura.apelido;
-  double codigo = procura.codigo;
-  if (clientes->Selecionar(2, 0, 0, "", texto, codigo, "", "", "", 0, "") != 0) {
-    espera.Ocultar();
+  auto clientes = frame::CriarServicoComSessao<clsClientes>();
+  const std::int16_t resultado = frame::consultas::Clientes(
+      *clientes, procura.apelido.empty() ? procura.nome : procura.apelido, procura.codigo);
+  espera.Ocultar();
+  if (resultado != servicos::kSucesso) {
     frame::ExibirErroDoServico(*clientes);
     return nullptr;
   }
-  espera.Ocultar();
   base::RecordSetPtr encontrados = clientes->ResultadoDaSelecaoEmRecordSet();
   if (encontrados->RecordCount() == 0) {
     Informar(NinguemEncontrado(procura));
@@ -66,7 +60,7 @@ base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
     return nullptr;
   }
   if (encontrados->RecordCount() > 1) {
-    return EscolherDaLista(encontrados, frmPesquisa::AvisoDaSelecao(*clientes, *encontrados));
+    return EscolherDaLista({encontrados, frmPesquisa::AvisoDaSelecao(*clientes, *encontrados)});
   }
   encontrados->MoveFirst();
   const auto recusa = RecusaDaSituacao(base::ToInt32(encontrados->Fields("Situacao")));
@@ -78,13 +72,13 @@ base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
 std::optional<std::string> RecusaDaSituacao(std::int32_t situacao) {
   const char* estado = nullptr;
   switch (situacao) {
-    case 2:
+    case servicos::kClienteInativo:
       estado = "inativo";
       break;
-    case 3:
+    case servicos::kClienteBloqueado:
       estado = "bloqueado";
       break;
-    case 4:
+    case servicos::kClienteExcluido:
       estado = "excluído";
       break;
     default:
@@ -153,12 +147,13 @@ bool CaixaDoCliente::Informado() const {
   return true;
 }
 
-void CaixaDoCliente::Preencher(const std::string& codigo, const std::string& apelido,
-                               const std::string& nome) {
+void CaixaDoCliente::Receber(ClienteEncontrado cliente) {
+  cliente_ = std::move(cliente);
   for (ZVFind* campo : campos_) campo->Status = ZVFind::kFound;
-  Codigo().Text = codigo;
-  Apelido().Text = apelido;
-  Nome().Text = nome;
+  Codigo().Text = cliente_.codigo;
+  Apelido().Text = cliente_.apelido;
+  Nome().Text = cliente_.nome;
+  Rotular(cliente_.sufixoDoRotulo);
 }
 
 void CaixaDoCliente::Esvaziar() {

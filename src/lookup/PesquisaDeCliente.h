@@ -9,6 +9,7 @@
 
 #include "base/Record.h"
 #include "frame/PainelDeMensagem.h"
+#include "lookup/ClienteEncontrado.h"
 #include "platform/Label.h"
 #include "platform/ZVFind.h"
 
@@ -22,16 +23,16 @@ struct ProcuraDeCliente {
   double codigo = 0;
 };
 
-/// Asks the service for the customer, and the operator for one of several. His record, its cursor
-/// on it; null when there was none, none was chosen, he is inactive, blocked or excluded and thus
-/// refused, or after a fault: the operator has been told.
+/// Asks the service for the customer, and the operator for one of several. The customer's record,
+/// its cursor on it; null when there was none, none was chosen, an inactive, blocked or excluded
+/// one was refused, or after a fault: the operator has been told.
 base::RecordSetPtr ProcurarCliente(const ProcuraDeCliente& procura,
                                    frame::PainelDeMensagem& painel);
 
 /// The message for a customer who cannot be served, by `Situacao`; nothing for one who can.
 std::optional<std::string> RecusaDaSituacao(std::int32_t situacao);
 
-/// What follows "Cliente*" on the label of a customer: his VIP mark and ABC category.
+/// What follows "Cliente*" on the label of a customer: VIP mark and ABC category.
 std::string SufixoDoRotulo(const std::string& vip, const std::string& categoriaDaCurvaABC);
 
 /// The three find fields of a customer box, and what they do to each other.
@@ -59,16 +60,17 @@ class CaixaDoCliente {
   ProcuraDeCliente Procura() const;
   /// Whether all three fields are filled.
   bool Informado() const;
-  /// Writes a customer into the fields: found.
-  void Preencher(const std::string& codigo, const std::string& apelido, const std::string& nome);
+  /// Takes a customer up: the fields show them as found, and the label of the box their mark.
+  void Receber(ClienteEncontrado cliente);
+  /// The customer taken up last, who stays known when the fields are emptied.
+  const ClienteEncontrado& Cliente() const { return cliente_; }
   void Esvaziar();
   void Habilitar(bool habilitar);
-  /// The label of the box, with what follows "Cliente*" for the customer on the screen.
-  void Rotular(std::string_view sufixo);
   void RestaurarRotulo() { Rotular({}); }
 
  private:
   void Recomecar(platform::ZVFind& campo);
+  void Rotular(std::string_view sufixo);
   platform::ZVFind& Apelido() const { return *campos_[0]; }
   platform::ZVFind& Nome() const { return *campos_[1]; }
   platform::ZVFind& Codigo() const { return *campos_[2]; }
@@ -76,6 +78,7 @@ class CaixaDoCliente {
   platform::Label& lblCliente_;
   std::array<platform::ZVFind*, 3> campos_;
   Acoes acoes_;
+  ClienteEncontrado cliente_;
 };
 
 /// The words of a search that is too short, shared by all text find fields.

@@ -105,12 +105,23 @@ std::string frmPesquisa::Quantidade() const {
          std::string(quantos == 1 ? pesquisa_.registro : pesquisa_.registros);
 }
 
-base::RecordSetPtr frmPesquisa::Escolhido(std::span<const CampoDaLinha> campos) const {
+bool frmPesquisa::Escolher(const Selecao& encontrados) {
+  std::int16_t falha = 0;
+  ConfigurarGrade(falha);
+  if (falha == 0) PreencherGrade(encontrados.registros, falha, encontrados.aviso);
+  if (falha == 1) return false;
+  ShowModal();
+  return registroSelecionado_;
+}
+
+base::RecordSetPtr frmPesquisa::Escolhido() const {
   std::vector<std::string> nomes;
   std::vector<base::Value> linha;
-  for (const CampoDaLinha& cada : campos) {
-    nomes.emplace_back(cada.campo);
-    const std::string& texto = msfgGrade.TextMatrix(msfgGrade.RowSel(), cada.coluna);
+  for (std::size_t i = 0; i < pesquisa_.colunas.size(); ++i) {
+    if (pesquisa_.colunas[i].campo.empty()) continue;
+    nomes.emplace_back(pesquisa_.colunas[i].campo);
+    const std::string& texto =
+        msfgGrade.TextMatrix(msfgGrade.RowSel(), static_cast<std::int32_t>(i));
     linha.push_back(texto.empty() ? base::Value() : base::Value(texto));
   }
   const auto registro = std::make_shared<base::RecordSet>(std::move(nomes));
@@ -119,17 +130,8 @@ base::RecordSetPtr frmPesquisa::Escolhido(std::span<const CampoDaLinha> campos) 
   return registro;
 }
 
-base::RecordSetPtr frmPesquisa::Escolhido() const {
-  std::vector<CampoDaLinha> campos;
-  for (std::size_t i = 0; i < pesquisa_.colunas.size(); ++i) {
-    const std::string_view campo = pesquisa_.colunas[i].campo;
-    if (!campo.empty()) campos.push_back({campo, static_cast<std::int32_t>(i)});
-  }
-  return Escolhido(campos);
-}
-
-frmPesquisa::Encontrados frmPesquisa::Resultado(servicos::ServicoDeNegocio& servico, bool falhou,
-                                                frame::Espera& espera) {
+Selecao frmPesquisa::Resultado(servicos::ServicoDeNegocio& servico, bool falhou,
+                               frame::Espera& espera) {
   if (falhou) {
     espera.Ocultar();
     frame::ExibirErroDoServico(servico);
@@ -210,7 +212,7 @@ bool frmPesquisa::Pesquisar() {
     const std::unique_ptr<bool, decltype(baixar)> escrita(&suprimirProximoClick_, baixar);
     const std::string texto = zvfndCampo.Text();
     ponto = 2;
-    const Encontrados encontrados = Selecionar(texto, espera);
+    const Selecao encontrados = Selecionar(texto, espera);
     if (!encontrados.registros) return;
     ponto = 3;
     if (encontrados.registros->RecordCount() == 0) {

@@ -33,6 +33,12 @@ struct Pesquisa {
   std::span<const frame::Coluna> colunas;   ///< Their numbers are known to every caller.
 };
 
+/// What a selection found.
+struct Selecao {
+  base::RecordSetPtr registros;  ///< Null after a fault, which has been told.
+  std::string aviso;             ///< What the service says of a selection that is not whole.
+};
+
 /// A list from which the operator picks one of several records: filled by its opener, or by a
 /// search of its own. A click on a row or Enter is the choice; the opener asks RegistroSelecionado
 /// and reads the row from the grid, by column, before it unloads the dialog.
@@ -59,6 +65,9 @@ class frmPesquisa : public platform::Form {
   void PreencherGrade(const base::RecordSetPtr& registros, std::int16_t& falha,
                       std::string_view aviso = {});
   bool RegistroSelecionado() const { return registroSelecionado_; }
+  /// Shows what was found until the operator has picked one or left; whether one was picked. The
+  /// row can be read until the dialog is unloaded.
+  bool Escolher(const Selecao& encontrados);
   void CentralizarpicMensagem() { painel_.Centralizar(); }
   void ExibirOcultarpicMensagem(bool exibir) { painel_.ExibirOcultar(exibir, false); }
 
@@ -67,14 +76,8 @@ class frmPesquisa : public platform::Form {
   static std::string AvisoDaSelecao(servicos::ServicoDeNegocio& servico,
                                     const base::RecordSet& registros);
 
-  /// A field of a record and the column of the grid that holds it.
-  struct CampoDaLinha {
-    std::string_view campo;
-    std::int32_t coluna = 0;
-  };
-  /// The chosen row as a record of texts, its cursor on it; an empty cell is a null.
-  base::RecordSetPtr Escolhido(std::span<const CampoDaLinha> campos) const;
-  /// The same with all columns, under the names of their fields.
+  /// The chosen row as a record of texts under the names of its columns' fields, its cursor on it;
+  /// an empty cell is a null.
   base::RecordSetPtr Escolhido() const;
 
  protected:
@@ -92,16 +95,11 @@ class frmPesquisa : public platform::Form {
   /// Whether there is all that a search needs; the operator is told what is missing.
   virtual bool PodePesquisar() { return true; }
 
-  struct Encontrados {
-    base::RecordSetPtr registros;  ///< Null after a fault, which has been told.
-    std::string aviso;
-  };
-  virtual Encontrados Selecionar(const std::string& texto, frame::Espera& espera) = 0;
+  virtual Selecao Selecionar(const std::string& texto, frame::Espera& espera) = 0;
   virtual std::string NadaEncontrado(const std::string& texto) const = 0;
 
   /// What a selection gave, where `falhou` has it.
-  static Encontrados Resultado(servicos::ServicoDeNegocio& servico, bool falhou,
-                               frame::Espera& espera);
+  static Selecao Resultado(servicos::ServicoDeNegocio& servico, bool falhou, frame::Espera& espera);
 
   /// What one dialog does besides as it loads.
   virtual void Carregar() {}

@@ -2,8 +2,9 @@
 
 #include <array>
 
+#include "frame/Consultas.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
-#include "frame/Valores.h"
 #include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
 #include "lookup/PesquisaDeCliente.h"
 
@@ -75,14 +76,9 @@ std::int16_t frmPesquisaDeClientes::ValidarCampos() {
   return 1;
 }
 
-frmPesquisa::Encontrados frmPesquisaDeClientes::Selecionar(const std::string& texto,
-                                                           frame::Espera& espera) {
-  auto clientes = servicos::CriarServico<servicos::ZOVA_N_ClientAnim::clsClientes>();
-  clientes->DadosDoUsuario(frame::valores().DadosDoUsuario);
-  std::string semNome;
-  double semCodigo = 0;
-  const bool falhou =
-      clientes->Selecionar(2, 0, 0, texto, semNome, semCodigo, "", "", "", 0, "") != 0;
+Selecao frmPesquisaDeClientes::Selecionar(const std::string& texto, frame::Espera& espera) {
+  auto clientes = frame::CriarServicoComSessao<servicos::ZOVA_N_ClientAnim::clsClientes>();
+  const bool falhou = frame::consultas::ClientesDaLista(*clientes, texto) != 0;
   return Resultado(*clientes, falhou, espera);
 }
 

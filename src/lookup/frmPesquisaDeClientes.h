@@ -11,7 +11,7 @@ class frmPesquisaDeClientes final : public frmPesquisa {
 
  private:
   std::int16_t ValidarCampos() override;
-  Encontrados Selecionar(const std::string& texto, frame::Espera& espera) override;
+  Selecao Selecionar(const std::string& texto, frame::Espera& espera) override;
   std::string NadaEncontrado(const std::string& texto) const override;
 };
 

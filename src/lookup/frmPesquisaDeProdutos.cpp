@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "frame/Consultas.h"
 #include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
 
 namespace lookup {
@@ -35,29 +36,33 @@ constexpr Pesquisa kPesquisa{.formulario = "frmPesquisaDeProdutos",
                              .registros = "produtos",
                              .colunas = kColunas};
 
-// The unit of purchase stands for that of sale in a product that was picked from the list.
-constexpr std::array<frmPesquisa::CampoDaLinha, 7> kProduto{{{"CodigoInterno", 1},
-                                                             {"CodigoDeBarras", 2},
-                                                             {"Nome", 3},
-                                                             {"ValorDeCusto", 6},
-                                                             {"UnidadeDeVenda", 7},
-                                                             {"ValorDeVenda", 8},
-                                                             {"PercentualDeComissao", 9}}};
-
 }  // namespace
 
 frmPesquisaDeProdutos::frmPesquisaDeProdutos() : frmPesquisa(kPesquisa) {
   Arrange(Desenho());
 }
 
-base::RecordSetPtr frmPesquisaDeProdutos::Produto() const {
-  return Escolhido(kProduto);
+// The unit of purchase stands for that of sale in a product that was picked from the list.
+ItemEncontrado frmPesquisaDeProdutos::Produto() const {
+  return ProdutoDe(*Escolhido(), "UnidadeDeCompra");
 }
 
-frmPesquisa::Encontrados frmPesquisaDeProdutos::Selecionar(const std::string& texto,
-                                                           frame::Espera& espera) {
+std::optional<ItemEncontrado> EscolherProduto(const Selecao& produtos) {
+  produtos.registros->MoveFirst();
+  if (produtos.registros->RecordCount() == 1) return ProdutoDe(*produtos.registros);
+  frmPesquisaDeProdutos lista;
+  std::optional<ItemEncontrado> produto;
+  {
+    const frame::FundoEscuro fundo;
+    if (lista.Escolher(produtos)) produto = lista.Produto();
+  }
+  lista.Unload();
+  return produto;
+}
+
+Selecao frmPesquisaDeProdutos::Selecionar(const std::string& texto, frame::Espera& espera) {
   auto produtos = servicos::CriarServico<servicos::ZOVA_N_Produtos::clsProdutos>();
-  const bool falhou = produtos->Selecionar(2, 0, 1, texto, "");
+  const bool falhou = frame::consultas::ProdutosDaLista(*produtos, texto);
   return Resultado(*produtos, falhou, espera);
 }
 

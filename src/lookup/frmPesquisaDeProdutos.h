@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "lookup/ItemEncontrado.h"
 #include "lookup/frmPesquisa.h"
 
 namespace lookup {
@@ -12,14 +15,18 @@ class frmPesquisaDeProdutos final : public frmPesquisa {
   /// Prices are only looked at: the opener takes no choice from the list.
   void FormularioDeConsultaDePreco(bool consulta) { formularioDeConsultaDePreco_ = consulta; }
 
-  /// The chosen product under the names of the counter's own search.
-  base::RecordSetPtr Produto() const;
+  /// The chosen product.
+  ItemEncontrado Produto() const;
 
  private:
-  Encontrados Selecionar(const std::string& texto, frame::Espera& espera) override;
+  Selecao Selecionar(const std::string& texto, frame::Espera& espera) override;
   std::string NadaEncontrado(const std::string& texto) const override;
 
   [[maybe_unused]] bool formularioDeConsultaDePreco_ = false;
 };
+
+/// The only product that was found, or the one of several that the operator picks; nothing when
+/// they leave the list.
+std::optional<ItemEncontrado> EscolherProduto(const Selecao& produtos);
 
 }  // namespace lookup

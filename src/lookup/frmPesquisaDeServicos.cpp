@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "frame/Consultas.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
 #include "frame/Valores.h"
@@ -70,8 +71,7 @@ void frmPesquisaDeServicos::Carregar() {
 
 void frmPesquisaDeServicos::PreencherComboboxTiposDeServicos() {
   auto tipos = servicos::CriarServico<servicos::ZOVA_N_TipoDeServ::clsTiposDeServ>();
-  double todos = 0;
-  if (tipos->SelecionarParaComboBox(todos) != servicos::kSucesso) {
+  if (frame::consultas::TiposDeServicos(*tipos) != servicos::kSucesso) {
     throw base::RuntimeError(tipos->NumeroDoErro(), tipos->DescricaoDoErro());
   }
   const base::RecordSetPtr linhas = tipos->ResultadoDaSelecaoEmRecordSet();
@@ -110,17 +110,31 @@ bool frmPesquisaDeServicos::PodePesquisar() {
   return false;
 }
 
-frmPesquisa::Encontrados frmPesquisaDeServicos::Selecionar(const std::string& texto,
-                                                           frame::Espera& espera) {
+Selecao frmPesquisaDeServicos::Selecionar(const std::string& texto, frame::Espera& espera) {
   auto catalogo = servicos::CriarServico<servicos::ZOVA_N_Servicos::clsServicos>();
   const std::int32_t tipo = zvcmbTiposDeServicos.ItemData(zvcmbTiposDeServicos.ListIndex());
-  const bool falhou = catalogo->Selecionar(2, 0, 1, texto, tipo);
+  const bool falhou = frame::consultas::ServicosDaLista(*catalogo, texto, tipo);
   return Resultado(*catalogo, falhou, espera);
 }
 
 std::string frmPesquisaDeServicos::NadaEncontrado(const std::string& texto) const {
   return "Nenhum serviço encontrado  como o valor '" + texto +
          "' informado e com o tipo de serviço '" + zvcmbTiposDeServicos.Text() + "'.";
+}
+
+std::optional<ItemEncontrado> EscolherServico(const Selecao& servicos,
+                                              const platform::ZVComboBox& tipos) {
+  servicos.registros->MoveFirst();
+  if (servicos.registros->RecordCount() == 1) return ServicoDe(*servicos.registros);
+  frmPesquisaDeServicos lista;
+  lista.CopiarTiposDeServicos(tipos);
+  std::optional<ItemEncontrado> servico;
+  {
+    const frame::FundoEscuro fundo;
+    if (lista.Escolher(servicos)) servico = lista.Servico();
+  }
+  lista.Unload();
+  return servico;
 }
 
 }  // namespace lookup

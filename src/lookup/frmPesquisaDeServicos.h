@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "lookup/ItemEncontrado.h"
 #include "lookup/frmPesquisa.h"
 #include "platform/ZVComboBox.h"
 
@@ -20,18 +23,26 @@ class frmPesquisaDeServicos final : public frmPesquisa {
   /// Takes over the types of another screen, and the chosen one.
   void CopiarTiposDeServicos(const platform::ZVComboBox& tipos);
 
+  /// The chosen service.
+  ItemEncontrado Servico() const { return ServicoDe(*Escolhido()); }
+
  private:
   void PreencherComboboxTiposDeServicos();
   void zvcmbTiposDeServicos_Click();
   void Carregar() override;
   platform::Control& PrimeiroCampo() override;
   bool PodePesquisar() override;
-  Encontrados Selecionar(const std::string& texto, frame::Espera& espera) override;
+  Selecao Selecionar(const std::string& texto, frame::Espera& espera) override;
   std::string NadaEncontrado(const std::string& texto) const override;
 
   [[maybe_unused]] bool formularioDeConsultaDePreco_ = false;
   bool preencherTipos_ = false;
   bool SuprimirProximoClickDoTipoDeServico = false;
 };
+
+/// The only service that was found, or the one of several that the operator picks from a list
+/// with these types; nothing when they leave it.
+std::optional<ItemEncontrado> EscolherServico(const Selecao& servicos,
+                                              const platform::ZVComboBox& tipos);
 
 }  // namespace lookup

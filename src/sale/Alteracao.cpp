@@ -1,30 +1,12 @@
-#include "base/Text.h"
-#include "frame/CamposNumericos.h"
+#include "base/Numbers.h"
 #include "frame/Mensagens.h"
-#include "frame/Valores.h"
 #include "frame/modRolagemComMouse.h"
-#include "platform/Desktop.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
 
-using base::FormatMoney;
 using frame::Ponto;
 using frame::Procedimento;
-using platform::ZVFind;
-
-namespace {
-
-void Selecionar(platform::ZVComboBox& lista, const std::string& dado) {
-  const std::int32_t indice = lista.IndexOfData(base::ToInt32(base::Val(dado)));
-  if (indice != -1) lista.ListIndex = indice;
-}
-
-std::string ComSinalTrocado(const std::string& texto) {
-  return FormatMoney(base::ToDouble(texto) * -1.0);
-}
-
-}  // namespace
 
 void frmCaixaOperar::zvcmdAlterar_Click() {
   Procedimento(", frmCaixaOperar,  zvcmdAlterar_Click, Ponto: ", [&](Ponto& ponto) {
@@ -45,7 +27,7 @@ std::int16_t frmCaixaOperar::Registros_Alterar() {
     const std::int32_t tipoDeVenda = TipoDeVendaDa(msfgGrade, linha);
     const auto tipoDeLancamento = base::ToInt16(TipoDeLancamentoDa(msfgGrade, linha));
     ponto = 2;
-    if (tipoDeVenda == kPreVenda) {
+    if (tipoDeVenda == servicos::kPreVenda) {
       frame::Informar(
           "Este item refere-se a uma 'pré-venda' e não pode ser alterado diretamente no caixa.\nA "
           "alteração deste item somente é permitida na guia de 'pré-venda'.");
@@ -66,53 +48,24 @@ std::int16_t frmCaixaOperar::Registros_Alterar() {
       if (resultado == 1) return;
     }
     ponto = 5;
-    DevolverAosCampos(tipoDeLancamento);
+    item_.Devolver(msfgGrade, linha);
     ponto = 6;
     if (!PreencherComboboxComissionados(tipoDeLancamento)) {
       resultado = 1;
       return;
     }
     const std::string& funcionario = msfgGrade.TextMatrix(linha, kCodigoDoFuncionario);
-    if (!funcionario.empty()) Selecionar(zvcmbComissionado, funcionario);
+    const std::int32_t comissionado =
+        zvcmbComissionado.IndexOfData(base::ToInt32(base::Val(funcionario)));
+    if (!funcionario.empty() && comissionado != -1) zvcmbComissionado.ListIndex = comissionado;
     ponto = 7;
-    zvnumQuantidade.Text = msfgGrade.TextMatrix(linha, kQuantidade);
-    zvnumValorUnitario.Text = msfgGrade.TextMatrix(linha, kValorUnitario);
-    zvnumPercentualDeDescontoPorItem.Text =
-        ComSinalTrocado(msfgGrade.TextMatrix(linha, kDescontoEmPercentual));
-    zvnumValorDeDescontoPorItem.Text =
-        ComSinalTrocado(msfgGrade.TextMatrix(linha, kDescontoEmValor));
-    NumeroDoLancamentoDoItem =
-        base::ToInt32(base::Val(msfgGrade.TextMatrix(linha, kNumeroDeLancamento)));
+    item_.DevolverValores(msfgGrade, linha);
     ponto = 8;
     frame::RetirarLinha(msfgGrade, linha);
     CalcularValoresDosItensDaGrade();
     HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(true);
   });
   return resultado;
-}
-
-void frmCaixaOperar::DevolverAosCampos(std::int16_t tipoDeLancamento) {
-  frame::SupressaoDePesquisa supressao;
-  const std::int32_t linha = msfgGrade.Row();
-  const auto celula = [&](Coluna coluna) { return msfgGrade.TextMatrix(linha, coluna); };
-  const auto preencher = [](ZVFind& campo, const std::string& texto) {
-    campo.Status = ZVFind::kFound;
-    campo.Text = texto;
-  };
-  if (tipoDeLancamento == kProduto) {
-    preencher(zvfCodigoDeBarrasDoProduto, celula(kTipoOuCodigoDeBarras));
-    preencher(zvfCodigoInternoDoProduto, celula(kCodigo));
-    preencher(zvfNomeDoProduto, celula(kNome));
-    PercentualDeComissaoDoProduto = base::ToCurrency(celula(kPercentualDeComissao));
-    zvfNomeDoProduto.Tag = celula(kCusto);
-    UnidadeDeVendaDoProduto = celula(kUnidade);
-    return;
-  }
-  Selecionar(zvcmbTiposDeServicos, celula(kTipoOuCodigoDeBarras));
-  preencher(zvfCodigoDoServico, celula(kCodigo));
-  preencher(zvfNomeDoServico, celula(kNome));
-  zvfNomeDoServico.Tag = celula(kCusto);
-  Selecionar(zvcmbAnimal, celula(kCodigoDoAnimal));
 }
 
 void frmCaixaOperar::zvcmdRemover_Click() {
@@ -124,7 +77,7 @@ void frmCaixaOperar::zvcmdRemover_Click() {
     ponto = 2;
     const std::int32_t linha = msfgGrade.Row();
     const bool servico = TipoDeLancamentoDa(msfgGrade, linha) == kServico;
-    if (TipoDeVendaDa(msfgGrade, linha) == kPreVenda) {
+    if (TipoDeVendaDa(msfgGrade, linha) == servicos::kPreVenda) {
       frame::Informar(
           "Este item refere-se a uma 'pré-venda' e não pode ser removido diretamente no caixa.\nA "
           "remoção deste item somente é permitida na menu de 'pré-venda'.");

@@ -59,7 +59,7 @@ void frmCaixaOperar::LigarCamposDeValores() {
 }
 
 void frmCaixaOperar::zvnumQuantidade_KeyPress(char32_t& tecla) {
-  if (EhServico()) {
+  if (item_.EhServico()) {
     frame::FiltrarTeclaDeInteiro(tecla);
   } else {
     frame::FiltrarTeclaDeDinheiro(zvnumQuantidade, tecla);
@@ -68,13 +68,13 @@ void frmCaixaOperar::zvnumQuantidade_KeyPress(char32_t& tecla) {
 
 void frmCaixaOperar::zvnumQuantidade_LostFocus() {
   Procedimento(", frmCaixaOperar, zvnumQuantidade_LostFocus, Ponto: ", [&](Ponto& ponto) {
-    if (EhServico()) {
+    if (item_.EhServico()) {
       frame::Normalizar(zvnumQuantidade, "0", "0", "0");
     } else {
       frame::Normalizar(zvnumQuantidade, "0,000", kZeroEmDinheiro, base::kMoneyMask);
     }
     ponto = 2;
-    CalcularValorDaLinha();
+    item_.CalcularValorDoDesconto();
   });
 }
 
@@ -82,7 +82,7 @@ void frmCaixaOperar::zvnumQuantidade_Validate(bool& cancelar) {
   Procedimento(", frmCaixaOperar, zvnumQuantidade_Validate, Ponto: ", [&](Ponto&) {
     if (base::IsNumeric(zvnumQuantidade.Text())) return;
     Recusar(zvnumQuantidade, "Informe um valor numérico para a quantidade.", cancelar,
-            EhServico() ? "0" : "0,000");
+            item_.EhServico() ? "0" : "0,000");
   });
 }
 
@@ -90,7 +90,7 @@ void frmCaixaOperar::zvnumValorUnitario_LostFocus() {
   Procedimento(", frmCaixaOperar, zvnumValorUnitario_LostFocus, Ponto: ", [&](Ponto& ponto) {
     frame::Normalizar(zvnumValorUnitario);
     ponto = 2;
-    CalcularValorDaLinha();
+    item_.CalcularValorDoDesconto();
   });
 }
 
@@ -99,7 +99,7 @@ void frmCaixaOperar::zvnumPercentualDeDescontoPorItem_LostFocus() {
                [&](Ponto& ponto) {
                  frame::Normalizar(zvnumPercentualDeDescontoPorItem);
                  ponto = 2;
-                 CalcularValorDaLinha();
+                 item_.CalcularValorDoDesconto();
                });
 }
 
@@ -108,22 +108,8 @@ void frmCaixaOperar::zvnumValorDeDescontoPorItem_LostFocus() {
                [&](Ponto& ponto) {
                  frame::Normalizar(zvnumValorDeDescontoPorItem);
                  ponto = 2;
-                 CalcularPercentualDaLinha();
+                 item_.CalcularPercentualDoDesconto();
                });
-}
-
-void frmCaixaOperar::CalcularValorDaLinha() {
-  const Currency valor = LerCurrency(zvnumQuantidade) * LerCurrency(zvnumValorUnitario);
-  zvnumValorDeDescontoPorItem.Text =
-      ValorDoPercentual(valor, LerDouble(zvnumPercentualDeDescontoPorItem));
-}
-
-void frmCaixaOperar::CalcularPercentualDaLinha() {
-  const Currency desconto = LerCurrency(zvnumValorDeDescontoPorItem);
-  const double quantidade = LerDouble(zvnumQuantidade);
-  const double unitario = LerDouble(zvnumValorUnitario);
-  if (desconto.IsZero() || quantidade == 0 || unitario == 0) return;
-  zvnumPercentualDeDescontoPorItem.Text = PercentualDoDesconto(desconto, quantidade, unitario);
 }
 
 void frmCaixaOperar::zvnumPercentualDeDescontoPorItem_Validate(bool& cancelar) {
@@ -146,43 +132,27 @@ void frmCaixaOperar::ValidarDescontoPorItem(ZVNumberBox& campo, bool& cancelar) 
   }
 }
 
-// Gross plus the line discounts, which the other field holds below zero: what a discount on the
-// whole sale is a percentage of.
-Currency frmCaixaOperar::BaseDoDescontoDaVenda() {
-  return LerCurrency(zvnumTotal) - LerCurrency(zvnumValorTotalDeDescontoItensDaGrade);
-}
-
-void frmCaixaOperar::CalcularLiquidoAPagar() {
-  zvnumLiquidoAPagar.Text = FormatMoney(
-      CalcularLiquido(LerCurrency(zvnumTotal), LerDouble(zvnumValorTotalDeDescontoItensDaGrade),
-                      LerCurrency(zvnumValorTotalDeDesconto)));
-}
-
 void frmCaixaOperar::zvnumPercentualTotalDeDesconto_LostFocus() {
-  Procedimento(
-      ", frmCaixaOperar, zvnumPercentualTotalDeDesconto_LostFocus, Ponto: ", [&](Ponto& ponto) {
-        frame::Normalizar(zvnumPercentualTotalDeDesconto);
-        ponto = 2;
-        if (!LerCurrency(zvnumTotal).IsZero()) {
-          zvnumValorTotalDeDesconto.Text =
-              ValorDoPercentual(BaseDoDescontoDaVenda(), LerDouble(zvnumPercentualTotalDeDesconto));
-        }
-        ponto = 3;
-        CalcularLiquidoAPagar();
-      });
+  Procedimento(", frmCaixaOperar, zvnumPercentualTotalDeDesconto_LostFocus, Ponto: ",
+               [&](Ponto& ponto) {
+                 frame::Normalizar(zvnumPercentualTotalDeDesconto);
+                 ponto = 2;
+                 if (!totais_.Bruto().IsZero()) totais_.CalcularValorDoDesconto();
+                 ponto = 3;
+                 totais_.CalcularLiquido();
+               });
 }
 
 void frmCaixaOperar::zvnumValorTotalDeDesconto_LostFocus() {
   Procedimento(", frmCaixaOperar, zvnumValorTotalDeDesconto_LostFocus, Ponto: ", [&](Ponto& ponto) {
     frame::Normalizar(zvnumValorTotalDeDesconto);
     ponto = 2;
-    if (!LerCurrency(zvnumTotal).IsZero()) {
-      zvnumPercentualTotalDeDesconto.Text = PercentualDoDesconto(
-          LerCurrency(zvnumValorTotalDeDesconto), base::ToDouble(BaseDoDescontoDaVenda()), 1);
+    if (!totais_.Bruto().IsZero()) {
+      totais_.CalcularPercentualDoDesconto();
       zvnumPercentualTotalDeDesconto_LostFocus();
     }
     ponto = 3;
-    CalcularLiquidoAPagar();
+    totais_.CalcularLiquido();
   });
 }
 
@@ -197,7 +167,7 @@ void frmCaixaOperar::zvnumPercentualTotalDeDesconto_Validate(bool& cancelar) {
         }
         ponto = 2;
         const double percentual = LerDouble(campo);
-        if (percentual != 0 && LerCurrency(zvnumTotal).IsZero()) {
+        if (percentual != 0 && totais_.Bruto().IsZero()) {
           Recusar(campo,
                   "Adicione um item de venda na grade antes do informar o percentual do "
                   "desconto.",
@@ -218,8 +188,8 @@ void frmCaixaOperar::zvnumValorTotalDeDesconto_Validate(bool& cancelar) {
     }
     ponto = 2;
     const Currency desconto = LerCurrency(campo);
-    const Currency maximo = BaseDoDescontoDaVenda();
-    if (!desconto.IsZero() && LerCurrency(zvnumTotal).IsZero()) {
+    const Currency maximo = totais_.BaseDoDesconto();
+    if (!desconto.IsZero() && totais_.Bruto().IsZero()) {
       Recusar(campo,
               "Adicione um item de venda na grade antes do informar o valor do "
               "desconto.",

@@ -1,5 +1,5 @@
-#include "base/Text.h"
 #include "frame/CamposNumericos.h"
+#include "frame/Consultas.h"
 #include "frame/Mensagens.h"
 #include "frame/Valores.h"
 #include "frame/modFuncoes.h"
@@ -42,43 +42,18 @@ bool frmCaixaOperar::PesquisarCliente(const std::string& apelido, const std::str
                                       double codigo) {
   bool encontrado = false;
   Procedimento(", frmCaixaOperar, PesquisarCliente, Ponto: ", [&](Ponto& ponto) {
-    const base::RecordSetPtr cliente =
+    const base::RecordSetPtr registro =
         lookup::ProcurarCliente({apelido, nome, codigo}, painelDeMensagem_);
-    if (!cliente) return;
+    if (!registro) return;
     ponto = 2;
-    PreencherCliente(*cliente);
+    const frame::SupressaoDePesquisa supressao;
+    caixaDoCliente_.Receber(lookup::ClienteDe(*registro));
+    valores().CPFCNPJDoCliente = caixaDoCliente_.Cliente().cpfCnpj;
+    valores().SufixoDoRotuloDoCliente = caixaDoCliente_.Cliente().sufixoDoRotulo;
+    zvnumPercentualDeDescontoPorItem.Text = std::string(frame::kZeroEmDinheiro);
     encontrado = true;
   });
   return encontrado;
-}
-
-void frmCaixaOperar::PreencherCliente(const base::RecordSet& cliente) {
-  const frame::SupressaoDePesquisa supressao;
-  const auto texto = [&](std::string_view campo) { return base::ToText(cliente.Fields(campo)); };
-  const auto percentual = [&](std::string_view campo) {
-    return base::ToInt32(cliente.Fields(campo));
-  };
-  caixaDoCliente_.Preencher(texto("CodigoDoCliente"), texto("ApelidoOuNomeFantasia"),
-                            texto("NomeOuRazaoSocial"));
-  valores().CPFCNPJDoCliente = texto("CPFCNPJ");
-  valores().SufixoDoRotuloDoCliente =
-      lookup::SufixoDoRotulo(texto("VIP"), texto("CategoriaDaCurvaABC"));
-  caixaDoCliente_.Rotular(valores().SufixoDoRotuloDoCliente);
-  EnderecoDoCliente = texto("EnderecoCompleto");
-  CanalDeComunicacaoDoCliente = texto("TiposECanaisDeComunicacao");
-  DescontoUnico = texto("DescontoUnico");
-  // Whole percentages: 12,5 is kept as 12, on purpose.
-  PercentualUnicoDeDescontos = percentual("PercentualUnicoDeDescontos");
-  PercentualDeDescontoEmClinicos = percentual("PercentualDeDescontoEmClinicos");
-  PercentualDeDescontoEmCirurgiaSimples = percentual("PercentualDeDescontoEmCirurgiaSimples");
-  PercentualDeDescontoEmCirurgiaMedia = percentual("PercentualDeDescontoEmCirurgiaMedia");
-  PercentualDeDescontoEmCirurgiaComplexa = percentual("PercentualDeDescontoEmCirurgiaComplexa");
-  PercentualDeDescontoEmBanhosTosasEEsteticas =
-      percentual("PercentualDeDescontoEmBanhosTosasEEsteticas");
-  PercentualDeDescontoEmHospedagens = percentual("PercentualDeDescontoEmHospedagens");
-  PercentualDeDescontoEmAdestramentos = percentual("PercentualDeDescontoEmAdestramentos");
-  PercentualDeDescontoEmOutros = percentual("PercentualDeDescontoEmOutros");
-  zvnumPercentualDeDescontoPorItem.Text = std::string(frame::kZeroEmDinheiro);
 }
 
 // The order is part of the design: the lock is tested when the customer is on the screen already,
@@ -122,13 +97,16 @@ void frmCaixaOperar::AceitarCliente(ZVFind& campo) {
   optProduto.SetFocus();
 }
 
+double frmCaixaOperar::CodigoDoCliente() const {
+  return base::Val(zvfCodigoDoCliente.Text());
+}
+
 void frmCaixaOperar::PesquisarDebitosDoCliente(double codigo) {
   Procedimento(", frmCaixaOperar, PesquisarDebitosDoCliente, Ponto: ", [&](Ponto& ponto) {
     frame::Espera espera(painelDeMensagem_);
     ponto = 2;
     auto debitos = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsDebitosVencCliente>();
-    const std::int16_t resultado =
-        debitos->Selecionar(2, " WHERE [ContasAReceber.CodigoDoCliente]=" + base::ToText(codigo));
+    const std::int16_t resultado = frame::consultas::DebitosVencidos(*debitos, codigo);
     espera.Ocultar();
     ponto = 3;
     if (!frame::Aceitar(resultado, *debitos)) return;
@@ -143,7 +121,7 @@ void frmCaixaOperar::PreencherComboboxAnimal(double codigo, std::int16_t& falha)
     frame::Espera espera(painelDeMensagem_, true);
     ponto = 2;
     auto animais = servicos::CriarServico<servicos::ZOVA_N_ClientAnim::clsAnimais>();
-    if (animais->SelecionarParaComboBoxFiltradoPorCliente(codigo, 3) != 0) {
+    if (frame::consultas::AnimaisDoCliente(*animais, codigo) != servicos::kSucesso) {
       espera.Ocultar();
       frame::ExibirErroDoServico(*animais);
       falha = 1;
@@ -166,39 +144,6 @@ void frmCaixaOperar::PreencherComboboxAnimal(double codigo, std::int16_t& falha)
                           base::ToInt32(linhas->Fields("Codigo")));
     });
     falha = 0;
-  });
-}
-
-void frmCaixaOperar::RecuperaDescontoDoCliente() {
-  Procedimento(", frmCaixaOperar, RecuperaDescontoDoCliente, Ponto: ", [&](Ponto& ponto) {
-    struct Categoria {
-      std::int32_t tipo;
-      std::int32_t percentual;
-    };
-    const Categoria categorias[] = {{1, PercentualDeDescontoEmClinicos},
-                                    {2, PercentualDeDescontoEmCirurgiaSimples},
-                                    {3, PercentualDeDescontoEmCirurgiaMedia},
-                                    {4, PercentualDeDescontoEmCirurgiaComplexa},
-                                    {5, PercentualDeDescontoEmBanhosTosasEEsteticas},
-                                    {6, PercentualDeDescontoEmHospedagens},
-                                    {7, PercentualDeDescontoEmAdestramentos},
-                                    {99, PercentualDeDescontoEmOutros}};
-    platform::ZVNumberBox& campo = zvnumPercentualDeDescontoPorItem;
-    const std::int32_t escolhido = zvcmbTiposDeServicos.ListIndex();
-    if (base::Upper(DescontoUnico) == "SIM") {
-      campo.Text = base::ToText(PercentualUnicoDeDescontos);
-    } else if (escolhido != -1) {
-      const std::int32_t tipo = zvcmbTiposDeServicos.ItemData(escolhido);
-      for (const Categoria& categoria : categorias) {
-        if (categoria.tipo == tipo) campo.Text = base::ToText(categoria.percentual);
-      }
-    }
-    ponto = 2;
-    if (VerificaDescontoPromocionalDeVenda() == 1) {
-      campo.Text = std::string(frame::kZeroEmDinheiro);
-    }
-    ponto = 3;
-    zvnumPercentualDeDescontoPorItem_LostFocus();
   });
 }
 

@@ -1,6 +1,6 @@
 #include "base/Text.h"
+#include "frame/Consultas.h"
 #include "frame/Mensagens.h"
-#include "frame/Valores.h"
 #include "frame/modMensagemDeErro.h"
 #include "frame/servicos/ZOVA_N_Funcionarios.clsFuncionarios.h"
 #include "frame/servicos/ZOVA_N_TipoDeServ.clsTiposDeServ.h"
@@ -15,23 +15,20 @@ using frame::Procedimento;
 
 namespace {
 
-/// An item of the employee list: the name in the first hundred characters, the commission behind
-/// it.
-constexpr std::size_t kLarguraDoNome = 100;
-constexpr std::size_t kLarguraDaComissao = 50;
-
+/// The field of an employee with the commission on a type of service.
 struct ComissaoDoTipo {
-  std::int32_t tipo;
+  servicos::TipoDeServico tipo;
   std::string_view campo;
 };
-constexpr ComissaoDoTipo kComissoes[] = {{1, "PercentualDeComissaoEmClinicos"},
-                                         {2, "PercentualDeComissaoEmCirurgiaSimples"},
-                                         {3, "PercentualDeComissaoEmCirurgiaMedia"},
-                                         {4, "PercentualDeComissaoEmCirurgiaComplexa"},
-                                         {5, "PercentualDeComissaoEmBanhosTosasEEsteticas"},
-                                         {6, "PercentualDeComissaoEmHospedagens"},
-                                         {7, "PercentualDeComissaoEmAdestramentos"},
-                                         {99, "PercentualDeComissaoEmOutros"}};
+constexpr ComissaoDoTipo kComissoes[] = {
+    {servicos::kClinico, "PercentualDeComissaoEmClinicos"},
+    {servicos::kCirurgiaSimples, "PercentualDeComissaoEmCirurgiaSimples"},
+    {servicos::kCirurgiaMedia, "PercentualDeComissaoEmCirurgiaMedia"},
+    {servicos::kCirurgiaComplexa, "PercentualDeComissaoEmCirurgiaComplexa"},
+    {servicos::kBanhosTosasEEsteticas, "PercentualDeComissaoEmBanhosTosasEEsteticas"},
+    {servicos::kHospedagem, "PercentualDeComissaoEmHospedagens"},
+    {servicos::kAdestramento, "PercentualDeComissaoEmAdestramentos"},
+    {servicos::kOutros, "PercentualDeComissaoEmOutros"}};
 
 bool EhSim(const base::Value& valor) {
   return base::Upper(base::ToText(valor)) == "SIM";
@@ -53,9 +50,8 @@ Currency ComissaoEmServico(const base::RecordSet& funcionario, std::int32_t tipo
 void frmCaixaOperar::PreencherComboboxTiposDeServicos(std::int16_t& falha) {
   Procedimento(", frmCaixaOperar, PreencherComboboxTiposDeServicos, Ponto: ", [&](Ponto& ponto) {
     auto tipos = servicos::CriarServico<servicos::ZOVA_N_TipoDeServ::clsTiposDeServ>();
-    double todos = 0;
     ponto = 2;
-    if (tipos->SelecionarParaComboBox(todos) != 0) {
+    if (frame::consultas::TiposDeServicos(*tipos) != servicos::kSucesso) {
       frame::ExibirErroDoServico(*tipos);
       falha = 1;
       return;
@@ -84,7 +80,7 @@ bool frmCaixaOperar::PreencherComboboxComissionados(std::int16_t tipo) {
     auto funcionarios = servicos::CriarServico<servicos::ZOVA_N_Funcionarios::clsFuncionarios>();
     double codigo = 0;
     ponto = 2;
-    if (funcionarios->Selecionar(2, 0, 1, "", "", codigo)) {
+    if (frame::consultas::Funcionarios(*funcionarios, codigo)) {
       frame::ExibirErroDoServico(*funcionarios);
       return;
     }
@@ -102,17 +98,14 @@ bool frmCaixaOperar::PreencherComboboxComissionados(std::int16_t tipo) {
     ponto = 4;
     zvcmbComissionado.Clear();
     zvcmbComissionado.AddItem("", 0);
-    const std::int32_t escolhido = zvcmbTiposDeServicos.ListIndex();
-    const std::int32_t tipoDeServico =
-        escolhido == -1 ? 0 : zvcmbTiposDeServicos.ItemData(escolhido);
     base::ForEachRow(*linhas, [&] {
       if (!EhSim(linhas->Fields("Comissionado"))) return;
-      const Currency percentual = tipo == kProduto ? PercentualDeComissaoDoProduto
-                                                   : ComissaoEmServico(*linhas, tipoDeServico);
+      const Currency percentual = tipo == kProduto
+                                      ? item_.PercentualDeComissaoDoProduto()
+                                      : ComissaoEmServico(*linhas, item_.TipoDeServico());
       if (tipo == kServico && percentual.IsZero()) return;
       zvcmbComissionado.AddItem(
-          base::PadRight(base::ToText(linhas->Fields("Apelido")), kLarguraDoNome) +
-              base::PadRight(base::FormatMoney(percentual), kLarguraDaComissao),
+          TextoDoComissionado(base::ToText(linhas->Fields("Apelido")), percentual),
           base::ToInt32(linhas->Fields("Codigo")));
     });
     preenchido = true;

@@ -2,11 +2,14 @@
 #include <optional>
 
 #include "base/Text.h"
+#include "frame/Consultas.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/Valores.h"
 #include "frame/servicos/ZOVA_A_ClientAnim.clsClientAnim.h"
 #include "frame/servicos/ZOVA_A_Produtos.clsProdutos.h"
 #include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
+#include "lookup/frmPesquisa.h"
 #include "sale/frmCaixaOperar.h"
 
 // A fiscal coupon needs the municipality code of the customer and the fiscal classification of each
@@ -82,11 +85,9 @@ frmCaixaOperar::DadosFiscais frmCaixaOperar::CompletarDadosFiscaisDaLinha(std::i
 bool frmCaixaOperar::ValidarDadosDoCliente(double codigo) {
   bool completos = false;
   Procedimento(", frmFichaClinica, ValidarDadosDoCliente, Ponto: ", [&](Ponto& ponto) {
-    auto clientes = servicos::CriarServico<servicos::ZOVA_N_ClientAnim::clsClientes>();
-    clientes->DadosDoUsuario(valores().DadosDoUsuario);
-    std::string semNome;
+    auto clientes = frame::CriarServicoComSessao<servicos::ZOVA_N_ClientAnim::clsClientes>();
     ponto = 2;
-    if (clientes->Selecionar(2, 0, 0, "", semNome, codigo, "", "", "", 0, "") != 0) return;
+    if (frame::consultas::Cliente(*clientes, codigo) != servicos::kSucesso) return;
     const base::RecordSetPtr encontrados = clientes->ResultadoDaSelecaoEmRecordSet();
     completos = true;
     if (encontrados->RecordCount() != 1) return;
@@ -101,7 +102,8 @@ bool frmCaixaOperar::ValidarDadosDoProduto(const std::string& nome,
                                            double codigoInterno) {
   bool completos = false;
   Procedimento(", frmCaixaOperar, ValidarDadosDoProduto, Ponto: ", [&](Ponto& ponto) {
-    const base::RecordSetPtr produtos = SelecionarProduto(nome, codigoDeBarras, codigoInterno);
+    const base::RecordSetPtr produtos =
+        SelecionarProdutos(nome, codigoDeBarras, codigoInterno).registros;
     if (!produtos) return;
     ponto = 2;
     completos = produtos->RecordCount() != 1 || !base::ToText(produtos->Fields("NCM")).empty();

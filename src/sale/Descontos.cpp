@@ -1,18 +1,15 @@
 #include <string>
 
-#include "base/Text.h"
 #include "consent/Autorizar.h"
 #include "frame/CamposNumericos.h"
 #include "frame/Empresa.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/Valores.h"
-#include "platform/Desktop.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
 
-using base::Currency;
 using frame::Ponto;
 using frame::Procedimento;
 using frame::valores;
@@ -27,23 +24,6 @@ constexpr std::string_view kSemEmpresaParaMaximo =
     "Não foi possível encontrar dados promocionais da venda de serviço de atendimento clínico "
     "porque não há empresa cadastrada.\nSelecione a guia (aba) 'Cadastros' e em seguida, clique na "
     "opções 'Empresa'. Efetue o cadastro e solicite a inclusão do procedimento novamente";
-
-enum class Periodo { kSemInicio, kInvalido, kDentro, kFora };
-
-bool EhDataValida(const base::Value& valor) {
-  return valor.Is<base::DateTime>() || base::IsDate(base::ToText(valor));
-}
-
-/// Where today lies; both days of the period belong to it.
-Periodo PeriodoDe(const base::RecordSet& empresa, std::string_view inicio, std::string_view fim) {
-  const base::Value& de = empresa.Fields(inicio);
-  const base::Value& ate = empresa.Fields(fim);
-  if (base::IsBlank(base::ToText(de))) return Periodo::kSemInicio;
-  if (!EhDataValida(de) || !EhDataValida(ate)) return Periodo::kInvalido;
-  const base::DateTime hoje = platform::Desktop::Current().Now().Date();
-  const bool dentro = hoje >= base::ToDate(de).Date() && hoje <= base::ToDate(ate).Date();
-  return dentro ? Periodo::kDentro : Periodo::kFora;
-}
 
 bool Autorizado() {
   const frame::FundoEscuro fundo;
@@ -92,14 +72,27 @@ std::int16_t frmCaixaOperar::AtualizarIndicativosDeImpressaoDeDocumentos() {
 }
 
 void frmCaixaOperar::AtualizarPercDeDescontoLimiteDaVendaNoCaixa() {
-  Procedimento(
-      ", frmCaixaPagar, AtualizarPercDeDescontoLimiteDaVendaNoCaixa, Ponto: ", [&](Ponto& ponto) {
-        const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
-        if (!leitura.Cadastrada()) return;
-        ponto = 2;
-        const base::Value& limite = leitura.empresa->Fields("PercDeDescontoLimiteDaVendaNoCaixa");
-        if (!base::IsNull(limite)) PercentualDeDescontoLimite = base::ToCurrency(limite);
-      });
+  Procedimento(", frmCaixaPagar, AtualizarPercDeDescontoLimiteDaVendaNoCaixa, Ponto: ",
+               [&](Ponto& ponto) {
+                 const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
+                 if (!leitura.Cadastrada()) return;
+                 ponto = 2;
+                 regras_.AtualizarLimite(*leitura.empresa);
+               });
+}
+
+void frmCaixaOperar::RecuperaDescontoDoCliente() {
+  Procedimento(", frmCaixaOperar, RecuperaDescontoDoCliente, Ponto: ", [&](Ponto& ponto) {
+    platform::ZVNumberBox& campo = zvnumPercentualDeDescontoPorItem;
+    const auto percentual = caixaDoCliente_.Cliente().descontos.Para(item_.TipoDeServico());
+    if (percentual) campo.Text = base::ToText(*percentual);
+    ponto = 2;
+    if (VerificaDescontoPromocionalDeVenda() == 1) {
+      campo.Text = std::string(frame::kZeroEmDinheiro);
+    }
+    ponto = 3;
+    zvnumPercentualDeDescontoPorItem_LostFocus();
+  });
 }
 
 std::int16_t frmCaixaOperar::VerificaDescontoPromocionalDeVenda() {
@@ -115,23 +108,16 @@ std::int16_t frmCaixaOperar::VerificaDescontoPromocionalDeVenda() {
       return;
     }
     ponto = 3;
-    switch (PeriodoDe(*leitura.empresa, "DataInicialDaPromocao", "DataFinalDaPromocao")) {
-      case Periodo::kSemInicio:
-      case Periodo::kInvalido:
-        return;
-      case Periodo::kFora:
-        // A promotion that has ended takes the customer's own percentage away as well.
-        zvnumPercentualDeDescontoPorItem.Text = std::string(frame::kZeroEmDinheiro);
-        return;
-      case Periodo::kDentro:
-        break;
-    }
+    const auto promocao =
+        RegrasDeDesconto::PromocaoPara(*leitura.empresa, optProduto.Value() ? kProduto : kServico);
+    if (!promocao) return;
     ponto = 4;
-    const Currency promocao = base::ToCurrency(
-        leitura.empresa->Fields(optProduto.Value() ? "PercPromocaoDeDescontoNaVendaDeProduto"
-                                                   : "PercPromocaoDeDescontoNaVendaDeServico"));
-    if (frame::LerCurrency(zvnumPercentualDeDescontoPorItem) < promocao) {
-      zvnumPercentualDeDescontoPorItem.Text = base::ToText(promocao);
+    platform::ZVNumberBox& campo = zvnumPercentualDeDescontoPorItem;
+    if (promocao->encerrada) {
+      // The customer's own percentage goes as well.
+      campo.Text = std::string(frame::kZeroEmDinheiro);
+    } else if (frame::LerCurrency(campo) < promocao->percentual) {
+      campo.Text = base::ToText(promocao->percentual);
     }
   });
   return resultado;
@@ -150,18 +136,15 @@ std::int16_t frmCaixaOperar::VerificaDescMaximoAutomaticoDeVenda() {
       return;
     }
     ponto = 3;
-    if (PeriodoDe(*leitura.empresa, "DataInicialDoDesctoMaxAutomatico",
-                  "DataFinalDoDesctoMaxAutomatico") != Periodo::kDentro) {
-      return;
-    }
-    const base::Value maximo = leitura.empresa->Fields(
-        EhServico() ? "PercDeDescMaxAutNaVendaDeServico" : "PercDeDescMaxAutNaVendaDeProduto");
-    if (frame::LerCurrency(zvnumPercentualDeDescontoPorItem) <= base::ToCurrency(maximo)) return;
+    const auto maximo = RegrasDeDesconto::MaximoAutomatico(*leitura.empresa, item_.Tipo());
+    if (!maximo) return;
+    if (frame::LerCurrency(zvnumPercentualDeDescontoPorItem) <= base::ToCurrency(*maximo)) return;
     ponto = 4;
     if (frame::Direito("Administrador") || Autorizado()) return;
     ponto = 5;
     resultado = 1;
-    frame::Informar("Informe um desconto válido com o limite de até " + base::ToText(maximo) + "%");
+    frame::Informar("Informe um desconto válido com o limite de até " + base::ToText(*maximo) +
+                    "%");
     if (zvnumPercentualDeDescontoPorItem.Enabled()) {
       zvnumPercentualDeDescontoPorItem.SetFocus();
     } else {
@@ -183,14 +166,8 @@ std::int16_t frmCaixaOperar::AplicarDescontoERecalcularValoresDosItensDaNovaGrad
   std::int16_t resultado = 1;
   Procedimento(
       ", frmCaixaOperar, AplicarDescontoERecalcularValoresDosItensDaNovaGradeDuplicada, Ponto: ",
-      [&](Ponto& ponto) {
-        const Currency liquido = frame::LerCurrency(zvnumLiquidoAPagar);
-        ComissaoComDesconto = DistribuirDesconto(msfgGrade, frame::LerCurrency(zvnumTotal), liquido,
-                                                 msfgGradeComDescontoAplicado);
-        ponto = 2;
-        const Lucro lucro = CalcularLucro(liquido, Custo, ComissaoComDesconto);
-        LucroEmValorComDesconto = lucro.valor;
-        LucroEmPercentualComDesconto = lucro.percentual;
+      [&](Ponto&) {
+        totais_.DistribuirDesconto();
         resultado = 0;
       });
   return resultado;

@@ -28,13 +28,7 @@ void frmCaixaOperar::Form_Load() {
   Procedimento(", frmCaixaOperar, Form_Load, Ponto: ", [&](Ponto& ponto) {
     frame::PintarFundoDaToolbar(tbMenuCaixa, platform::kWhite, frame::kFundoDaToolbar);
     ponto = 2;
-    const std::string lido = frame::LerValorDoArquivoIni("Caixa", "NumeroDoCaixa");
-    if (lido != frame::kNenhumValorLido) {
-      valores().NumeroDoCaixa = base::ToInt32(base::ToDouble(lido));
-    } else {
-      frame::GravarValorNoArquivoIni("Caixa", "NumeroDoCaixa",
-                                     base::ToText(valores().NumeroDoCaixa));
-    }
+    caixas_.LerArquivo();
   });
 }
 
@@ -57,7 +51,8 @@ void frmCaixaOperar::MontarExibirFormulario(platform::WindowHandle conteiner) {
     zvfCodigoInternoDoProduto.Width = zvcmbAnimal.Width();
     zvnumValorTotalDeDesconto.Enabled = false;
     zvnumPercentualTotalDeDesconto.Enabled = false;
-    GuardarTamanhoDopicMensagem();
+    valores().AlturaOriginalDopicMensagem = alturaDopicMensagem_;
+    valores().LarguraOriginalDopicMensagem = larguraDopicMensagem_;
     ponto = 6;
     optServico_Click();
     ponto = 7;
@@ -90,17 +85,12 @@ void frmCaixaOperar::MontarExibirFormulario(platform::WindowHandle conteiner) {
     ponto = 16;
     ExibirOcultarpicMensagem(false, false);
     ponto = 17;
-    if (picAreaDeTrabalho.Visible() && zvcmbCaixas.ListIndex() != -1) {
+    if (picAreaDeTrabalho.Visible() && caixas_.Escolhido()) {
       zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
     } else {
       zvcmbCaixas.SetFocus();
     }
   });
-}
-
-void frmCaixaOperar::GuardarTamanhoDopicMensagem() {
-  valores().AlturaOriginalDopicMensagem = alturaDopicMensagem_;
-  valores().LarguraOriginalDopicMensagem = larguraDopicMensagem_;
 }
 
 void frmCaixaOperar::Form_Resize() {
@@ -172,21 +162,19 @@ void frmCaixaOperar::Grade_Configurar(std::int16_t& falha) {
   });
 }
 
+// Sorted at first by the services' names, for as long as there is such a column.
 void frmCaixaOperar::RecomecarGrade(std::int16_t& falha) {
   Grade_Configurar(falha);
   if (falha == 1) return;
-  IniciarClassificacao();
-  Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
-}
-
-void frmCaixaOperar::IniciarClassificacao() {
   const std::int32_t coluna = frame::ColunaComTitulo(msfgGrade, kColunaInicial);
-  if (coluna == -1) return;
-  classificacao_.ColunaDeClassificacao = static_cast<std::int16_t>(coluna);
-  classificacao_.OrdemDeClassificacao = static_cast<std::int16_t>(msfgGrade.ColAlignment(coluna));
-  msfgGrade.Row(0);
-  msfgGrade.Col(coluna);
-  msfgGrade.CellPicture(frame::kClassificacaoCrescente);
+  if (coluna != -1) {
+    classificacao_.ColunaDeClassificacao = static_cast<std::int16_t>(coluna);
+    classificacao_.OrdemDeClassificacao = static_cast<std::int16_t>(msfgGrade.ColAlignment(coluna));
+    msfgGrade.Row(0);
+    msfgGrade.Col(coluna);
+    msfgGrade.CellPicture(frame::kClassificacaoCrescente);
+  }
+  Grade_Classificar(classificacao_.ColunaDeClassificacao, false, falha);
 }
 
 void frmCaixaOperar::Grade_Classificar(std::int16_t coluna, bool alternar, std::int16_t& falha) {

@@ -1,31 +1,18 @@
-#include "base/Text.h"
-#include "frame/CamposNumericos.h"
-#include "frame/Mensagens.h"
 #include "frame/Valores.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
 
-using frame::kZeroEmDinheiro;
 using frame::Ponto;
 using frame::Procedimento;
 using platform::ZVFind;
-
-namespace {
-
-void Esvaziar(ZVFind& campo) {
-  campo.Status = ZVFind::kEmpty;
-  campo.Text = "";
-}
-
-}  // namespace
 
 void frmCaixaOperar::optServico_Click() {
   Procedimento(", frmCaixaOperar, optServico_Click, Ponto: ", [&](Ponto& ponto) {
     for (ZVFind* campo :
          {&zvfCodigoDeBarrasDoProduto, &zvfNomeDoProduto, &zvfCodigoInternoDoProduto}) {
       campo->Visible = false;
-      Esvaziar(*campo);
+      ItemEmEdicao::Esvaziar(*campo);
     }
     ponto = 2;
     lblTipoDeServicoOuCodigoDeBarrasDoProduto.Caption = "Tipo de serviço";
@@ -43,10 +30,7 @@ void frmCaixaOperar::optServico_Click() {
     // An only animal needs no choosing: it is chosen, and the list stays closed.
     if (zvcmbAnimal.ListCount() >= 2) zvcmbAnimal.Enabled = true;
     if (zvcmbAnimal.ListCount() == 1) zvcmbAnimal.ListIndex = 0;
-    zvnumQuantidade.Text = "0";
-    zvnumValorUnitario.Text = std::string(kZeroEmDinheiro);
-    zvnumPercentualDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
-    zvnumValorDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
+    item_.ZerarValores("0");
   });
 }
 
@@ -58,8 +42,8 @@ void frmCaixaOperar::optProduto_Click() {
     zvcmbAnimal.Visible = false;
     lblCodigoDoServico.Visible = false;
     zvcmbTiposDeServicos.ListIndex = -1;
-    Esvaziar(zvfNomeDoServico);
-    Esvaziar(zvfCodigoDoServico);
+    ItemEmEdicao::Esvaziar(zvfNomeDoServico);
+    ItemEmEdicao::Esvaziar(zvfCodigoDoServico);
     zvcmbAnimal.ListIndex = -1;
     ponto = 2;
     lblTipoDeServicoOuCodigoDeBarrasDoProduto.Caption = "Codigo de barras do produto";
@@ -71,60 +55,35 @@ void frmCaixaOperar::optProduto_Click() {
       campo->Enabled = true;
     }
     ponto = 3;
-    zvnumQuantidade.Text = "0,000";
-    zvnumValorUnitario.Text = std::string(kZeroEmDinheiro);
-    zvnumPercentualDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
-    zvnumValorDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
+    item_.ZerarValores("0,000");
   });
 }
 
 void frmCaixaOperar::zvcmbTiposDeServicos_Click() {
   Procedimento(", frmCaixaOperar, zvcmbTiposDeServicos_Click, Ponto: ", [&](Ponto& ponto) {
     if (frame::TomarSupressaoDePesquisa()) return;
-    zvnumQuantidade.Text = "1";
-    zvnumValorUnitario.Text = std::string(kZeroEmDinheiro);
-    zvnumPercentualDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
-    zvnumValorDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
-    Esvaziar(zvfCodigoDoServico);
-    Esvaziar(zvfNomeDoServico);
+    item_.ZerarValores("1");
+    ItemEmEdicao::Esvaziar(zvfCodigoDoServico);
+    ItemEmEdicao::Esvaziar(zvfNomeDoServico);
     ponto = 2;
     if (PreencherComboboxComissionados(kServico)) HabilitarDesabilitarCampos(true);
   });
 }
 
-std::vector<ZVFind*> frmCaixaOperar::Companheiros(const ZVFind& campo) {
-  const bool deServico = &campo == &zvfCodigoDoServico || &campo == &zvfNomeDoServico;
-  const std::vector<ZVFind*> todos =
-      deServico ? std::vector<ZVFind*>{&zvfCodigoDoServico, &zvfNomeDoServico}
-                : std::vector<ZVFind*>{&zvfCodigoDeBarrasDoProduto, &zvfNomeDoProduto,
-                                       &zvfCodigoInternoDoProduto};
-  std::vector<ZVFind*> outros;
-  for (ZVFind* cada : todos) {
-    if (cada != &campo) outros.push_back(cada);
-  }
-  return outros;
-}
-
-void frmCaixaOperar::EsvaziarCompanheiros(const ZVFind& campo) {
-  if (frame::TomarSupressaoDePesquisa()) return;
-  // What the others last found goes: a line must never mix two items.
-  for (ZVFind* outro : Companheiros(campo)) outro->Text = "";
-}
-
 void frmCaixaOperar::zvfCodigoDeBarrasDoProduto_KeyDown() {
-  EsvaziarCompanheiros(zvfCodigoDeBarrasDoProduto);
+  item_.EsvaziarCompanheiros(zvfCodigoDeBarrasDoProduto);
 }
 void frmCaixaOperar::zvfCodigoInternoDoProduto_KeyDown() {
-  EsvaziarCompanheiros(zvfCodigoInternoDoProduto);
+  item_.EsvaziarCompanheiros(zvfCodigoInternoDoProduto);
 }
 void frmCaixaOperar::zvfNomeDoProduto_KeyDown() {
-  EsvaziarCompanheiros(zvfNomeDoProduto);
+  item_.EsvaziarCompanheiros(zvfNomeDoProduto);
 }
 void frmCaixaOperar::zvfCodigoDoServico_KeyDown() {
-  EsvaziarCompanheiros(zvfCodigoDoServico);
+  item_.EsvaziarCompanheiros(zvfCodigoDoServico);
 }
 void frmCaixaOperar::zvfNomeDServico_KeyDown() {
-  EsvaziarCompanheiros(zvfNomeDoServico);
+  item_.EsvaziarCompanheiros(zvfNomeDoServico);
 }
 
 void frmCaixaOperar::zvfCodigoInternoDoProduto_Click() {
@@ -145,8 +104,8 @@ void frmCaixaOperar::zvfNomeDoServico_Click() {
 }
 
 void frmCaixaOperar::RecomecarItem(ZVFind& campo) {
-  for (ZVFind* outro : Companheiros(campo)) {
-    Esvaziar(*outro);
+  for (ZVFind* outro : item_.Companheiros(campo)) {
+    ItemEmEdicao::Esvaziar(*outro);
     outro->Enabled = true;
   }
   LimparCamposDeQuantidadeEValoresDoItemDaVenda();
@@ -157,31 +116,6 @@ void frmCaixaOperar::VoltarAoCampo(ZVFind& campo) {
   RecomecarItem(campo);
   campo.Enabled = true;
   campo.SetFocus();
-}
-
-// One routine for the four fields of names and codes: a search, or a clear, by the field's status.
-void frmCaixaOperar::PesquisarOuLimparItem(ZVFind& campo) {
-  const bool deServico = &campo == &zvfCodigoDoServico || &campo == &zvfNomeDoServico;
-  if (campo.Status() == ZVFind::kEmpty) {
-    VoltarAoCampo(campo);
-    return;
-  }
-  if (campo.Status() != ZVFind::kTyped) return;
-  if (deServico && zvcmbTiposDeServicos.ListIndex() == -1) {
-    frame::Informar("Selecione o tipo de serviço.");
-    zvcmbTiposDeServicos.SetFocus();
-    return;
-  }
-  if (lookup::PesquisaCurtaDemais(campo)) return;
-  for (ZVFind* outro : Companheiros(campo)) outro->Text = "";
-  const bool encontrado = deServico ? ProcurarServicoDosCampos() : ProcurarProdutoDosCampos();
-  if (SemCliente()) return;
-  if (!encontrado) {
-    RecomecarItem(campo);
-    campo.Status = ZVFind::kFound;
-    return;
-  }
-  if (!deServico) AbrirCamposDoProdutoEncontrado();
 }
 
 }  // namespace sale

@@ -1,4 +1,3 @@
-#include "base/Text.h"
 #include "frame/CamposNumericos.h"
 #include "frame/Mensagens.h"
 #include "frame/Valores.h"
@@ -6,6 +5,7 @@
 #include "platform/CheckBox.h"
 #include "platform/Colors.h"
 #include "platform/ZVTextBox.h"
+#include "sale/Menu.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
@@ -78,12 +78,9 @@ void frmCaixaOperar::LimparCampos(std::int16_t& falha) {
   Procedimento(", frmCaixaOperar, LimparCampos, Ponto: ", [&](Ponto& ponto) {
     for (platform::Control* controle : Controls()) {
       switch (controle->GetKind()) {
-        case Kind::kFind: {
-          auto& campo = static_cast<ZVFind&>(*controle);
-          campo.Status = ZVFind::kEmpty;
-          campo.Text = "";
+        case Kind::kFind:
+          ItemEmEdicao::Esvaziar(static_cast<ZVFind&>(*controle));
           break;
-        }
         case Kind::kNumberBox:
         case Kind::kTextBox:
           static_cast<platform::EditBox&>(*controle).Text = "";
@@ -101,10 +98,9 @@ void frmCaixaOperar::LimparCampos(std::int16_t& falha) {
       }
     }
     ponto = 2;
-    zvnumQuantidade.Text = EhServico() ? "0" : "0,000";
+    item_.ZerarValores(item_.EhServico() ? "0" : "0,000");
     for (platform::ZVNumberBox* campo :
-         {&zvnumValorUnitario, &zvnumPercentualDeDescontoPorItem, &zvnumValorDeDescontoPorItem,
-          &zvnumTotal, &zvnumValorTotalDeDescontoItensDaGrade, &zvnumLiquidoAPagar,
+         {&zvnumTotal, &zvnumValorTotalDeDescontoItensDaGrade, &zvnumLiquidoAPagar,
           &zvnumPercentualTotalDeDesconto, &zvnumValorTotalDeDesconto}) {
       campo->Text = std::string(kZeroEmDinheiro);
     }
@@ -125,14 +121,7 @@ void frmCaixaOperar::RestaurarCaptionOriginalDalblCliente() {
 }
 
 void frmCaixaOperar::LimparCamposDeQuantidadeEValoresDoItemDaVenda() {
-  zvnumQuantidade.Text = "1,000";
-  zvnumValorUnitario.Text = std::string(kZeroEmDinheiro);
-  zvnumPercentualDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
-  zvnumValorDeDescontoPorItem.Text = std::string(kZeroEmDinheiro);
-}
-
-double frmCaixaOperar::CodigoDoCliente() const {
-  return base::Val(zvfCodigoDoCliente.Text());
+  item_.ZerarValores("1,000");
 }
 
 void frmCaixaOperar::zvcmdLimparCampos_Click() {
@@ -154,7 +143,7 @@ void frmCaixaOperar::zvcmdLimparCampos_Click() {
     ExibirOcultarpicMensagem(true, true);
     PreencherComboboxCaixas(falha);
     ExibirOcultarpicMensagem(false, false);
-    if (zvcmbCaixas.ListCount() > 0) SelecionarCaixa(valores().NumeroDoCaixa);
+    if (zvcmbCaixas.ListCount() > 0) caixas_.Escolher(valores().NumeroDoCaixa);
     ponto = 5;
     EsperarCliente();
   });

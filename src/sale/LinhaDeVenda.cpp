@@ -1,6 +1,7 @@
 #include "sale/LinhaDeVenda.h"
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 
 namespace sale {
 namespace {
@@ -26,7 +27,18 @@ std::int32_t TipoDeLancamentoDa(const base::GradeLida& grade, std::int32_t linha
 
 bool EhClinicoOuCirurgico(const base::GradeLida& grade, std::int32_t linha) {
   return TipoDeLancamentoDa(grade, linha) == kServico &&
-         Inteiro(grade.TextMatrix(linha, kTipoOuCodigoDeBarras)) <= kUltimoTipoClinicoOuCirurgico;
+         servicos::EhClinicoOuCirurgico(Inteiro(grade.TextMatrix(linha, kTipoOuCodigoDeBarras)));
+}
+
+std::string TextoDoComissionado(const std::string& apelido, base::Currency percentual) {
+  return base::PadRight(apelido, servicos::linha::kLarguraDoNome) +
+         base::PadRight(base::FormatMoney(percentual), servicos::linha::kLarguraDaComissao);
+}
+
+base::Currency PercentualDoComissionado(const std::string& texto) {
+  if (base::IsBlank(texto)) return {};
+  const std::string percentual = base::Right(texto, servicos::linha::kLarguraDaComissao);
+  return base::ToCurrency(base::FormatMoney(base::ToCurrency(percentual)));
 }
 
 }  // namespace sale

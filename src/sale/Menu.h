@@ -25,4 +25,7 @@ inline constexpr BotaoDoMenu kBotoesDoMenuCaixa[] = {
     {"Relatorios", "Relatórios"},
     {"Comprovantes", "Comprovantes"}};
 
+/// Tells the operator that a screen is not there yet.
+void TelaIndisponivel(std::string_view tela);
+
 }  // namespace sale

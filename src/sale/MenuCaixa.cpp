@@ -9,6 +9,7 @@
 #include "platform/Desktop.h"
 #include "register/Movimentos.h"
 #include "register/frmCaixaMovimento.h"
+#include "sale/Menu.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
@@ -30,23 +31,23 @@ void frmCaixaOperar::tbMenuCaixa_ButtonClick(platform::ToolbarButton& botao) {
          [](frmCaixaOperar& f) { f.Movimentar(registers::kCaixaEntradas, "Entrada efetuada."); }},
         {"Saidas",
          [](frmCaixaOperar& f) { f.Movimentar(registers::kCaixaSaidas, "Saída efetuada."); }},
-        {"CancelarVenda", [](frmCaixaOperar& f) { f.TelaIndisponivel("Cancelar venda"); }},
+        {"CancelarVenda", [](frmCaixaOperar&) { TelaIndisponivel("Cancelar venda"); }},
         {"DesfazerCancelamento",
-         [](frmCaixaOperar& f) { f.TelaIndisponivel("Desfazer cancelamento"); }},
+         [](frmCaixaOperar&) { TelaIndisponivel("Desfazer cancelamento"); }},
         {"CreditoDoCliente", [](frmCaixaOperar& f) { f.CreditoDoCliente(); }},
-        {"DebitosDoCliente", [](frmCaixaOperar& f) { f.TelaIndisponivel("Débitos do cliente"); }},
+        {"DebitosDoCliente", [](frmCaixaOperar&) { TelaIndisponivel("Débitos do cliente"); }},
         {"ConsultarHistoricoDeVendas", [](frmCaixaOperar& f) { f.ConsultarHistoricoDeVendas(); }},
         {"ConsultarPrecos", [](frmCaixaOperar& f) { f.mnuConsultarPrecos.PopUp(f.tbMenuCaixa); }},
         {"Orcamentos", [](frmCaixaOperar& f) { f.Orcamentos(); }},
-        {"Relatorios", [](frmCaixaOperar& f) { f.TelaIndisponivel("Relatórios de caixas"); }},
-        {"Comprovantes", [](frmCaixaOperar& f) { f.TelaIndisponivel("Comprovante de venda"); }}};
+        {"Relatorios", [](frmCaixaOperar&) { TelaIndisponivel("Relatórios de caixas"); }},
+        {"Comprovantes", [](frmCaixaOperar&) { TelaIndisponivel("Comprovante de venda"); }}};
     for (const Entrada& entrada : kEntradas) {
       if (entrada.chave == botao.Key()) entrada.abrir(*this);
     }
   });
 }
 
-void frmCaixaOperar::TelaIndisponivel(std::string_view tela) {
+void TelaIndisponivel(std::string_view tela) {
   frame::Informar("A tela '" + std::string(tela) +
                   "' ainda não está disponível nesta versão do caixa.");
 }
@@ -191,7 +192,7 @@ void frmCaixaOperar::mnuConsultarPrecosServicos_Click() {
 
 // Only looked at: whatever is chosen from the list, the sale stays as it is.
 void frmCaixaOperar::ConsultarPrecos(lookup::frmPesquisa& lista) {
-  if (zvcmbCaixas.ListIndex() == -1) {
+  if (!caixas_.Escolhido()) {
     frame::Informar("Selecione o caixa.");
     zvcmbCaixas.SetFocus();
     return;
@@ -208,10 +209,6 @@ void frmCaixaOperar::ConsultarPrecos(lookup::frmPesquisa& lista) {
   } else {
     optServico.SetFocus();
   }
-}
-
-void frmCaixaOperar::mnuAlterar_Click() {
-  Registros_Alterar();
 }
 
 }  // namespace sale

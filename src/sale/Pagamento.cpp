@@ -1,5 +1,4 @@
 #include "checkout/frmCaixaPagar.h"
-#include "frame/CamposNumericos.h"
 #include "frame/Mensagens.h"
 #include "frame/Valores.h"
 #include "frame/modFuncoes.h"
@@ -47,7 +46,7 @@ void frmCaixaOperar::EncerrarVenda() {
   PreencherComboboxCaixas(falha);
   if (falha == 1) return;
   espera.Ocultar();
-  SelecionarCaixa(valores().NumeroDoCaixa);
+  caixas_.Escolher(valores().NumeroDoCaixa);
   EsperarCliente();
 }
 
@@ -59,27 +58,28 @@ std::int16_t frmCaixaOperar::MontarExibirFormulario_Caixa_Pagar() {
     pagar.NumeroDaFichaClinica(base::ToInt32(base::Val(zvfNumeroDaFichaClinica.Text())));
     pagar.ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
     pagar.NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
-    pagar.EnderecoDoCliente(EnderecoDoCliente);
-    pagar.CanalDeComunicacaoDoCliente(CanalDeComunicacaoDoCliente);
+    pagar.EnderecoDoCliente(caixaDoCliente_.Cliente().endereco);
+    pagar.CanalDeComunicacaoDoCliente(caixaDoCliente_.Cliente().canalDeComunicacao);
     pagar.CodigoDoCliente(base::ToInt32(base::ToDouble(zvfCodigoDoCliente.Text())));
     ponto = 2;
-    const Currency percentual = frame::LerCurrency(zvnumPercentualTotalDeDesconto);
+    const Currency percentual = totais_.Percentual();
     const bool distribuir = !percentual.IsZero();
     if (distribuir && AplicarDescontoERecalcularValoresDosItensDaNovaGradeDuplicada() == 1) {
       frame::Parar("Não foi possível aplicar o desconto informado.");
       return;
     }
     ponto = 3;
-    pagar.ValorBruto(frame::LerCurrency(zvnumTotal));
-    pagar.ValorTotalDeDescontos(frame::LerCurrency(zvnumValorTotalDeDescontoItensDaGrade) +
-                                frame::LerCurrency(zvnumValorTotalDeDesconto));
-    pagar.ValorLiquido(frame::LerCurrency(zvnumLiquidoAPagar));
+    pagar.ValorBruto(totais_.Bruto());
+    pagar.ValorTotalDeDescontos(totais_.TotalDeDescontos());
+    pagar.ValorLiquido(totais_.Liquido());
     pagar.GradeDeItensDaVendas(distribuir ? msfgGradeComDescontoAplicado : msfgGrade);
     pagar.PercentualTotalDeDesconto(percentual);
-    pagar.Custo(Custo);
-    pagar.Comissao(distribuir ? ComissaoComDesconto : Comissao);
-    pagar.LucroEmValor(distribuir ? LucroEmValorComDesconto : LucroEmValor);
-    pagar.LucroEmPercentual(distribuir ? LucroEmPercentualComDesconto : LucroEmPercentual);
+    const TotaisDaVenda::Resultado& resultadoDaVenda =
+        distribuir ? totais_.ComDesconto() : totais_.SemDesconto();
+    pagar.Custo(resultadoDaVenda.Custo);
+    pagar.Comissao(resultadoDaVenda.Comissao);
+    pagar.LucroEmValor(resultadoDaVenda.LucroEmValor);
+    pagar.LucroEmPercentual(resultadoDaVenda.LucroEmPercentual);
     ponto = 4;
     Currency credito;
     if (!frame::RetornarCreditoDoCliente(CodigoDoCliente(), credito)) credito = Currency();

@@ -33,9 +33,9 @@ std::int16_t frmCaixaOperar::PreencherGradeComServicosEfetuadosEProdutosReservad
           base::ForEachRow(*itens, [&] {
             for (std::int32_t i = 0; i < msfgGrade.Cols(); ++i) {
               // The fields carry their own text; no format is applied here.
-              msfgGrade.TextMatrix(
-                  linha, i,
-                  base::ToText(itens->Fields(kColunasDaVenda[static_cast<std::size_t>(i)].campo)));
+              msfgGrade.TextMatrix(linha, i,
+                                   base::ToText(itens->Fields(
+                                       servicos::linha::kCampos[static_cast<std::size_t>(i)])));
             }
             ++linha;
           });

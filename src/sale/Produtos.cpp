@@ -1,22 +1,28 @@
 #include "base/Text.h"
 #include "frame/CamposNumericos.h"
+#include "frame/Consultas.h"
+#include "frame/Empresa.h"
 #include "frame/Mensagens.h"
-#include "frame/Valores.h"
 #include "frame/modMensagemDeErro.h"
 #include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
 #include "frame/servicos/ZOVA_N_Servicos.clsServicos.h"
 #include "lookup/frmPesquisaDeProdutos.h"
 #include "lookup/frmPesquisaDeServicos.h"
 #include "platform/Input.h"
+#include "sale/CodigoDeBalanca.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
 
 using frame::Ponto;
 using frame::Procedimento;
+using lookup::frmPesquisa;
+using lookup::Selecao;
 using platform::ZVFind;
 
 namespace {
+
+constexpr std::size_t kMenosDigitos = 13, kMaisDigitos = 14;
 
 /// A code field as the searches take it: 0 when it is empty.
 double CodigoDe(const ZVFind& campo) {
@@ -39,82 +45,140 @@ void NadaEncontrado(const std::string& mensagem) {
   platform::input::SendKeys("+({HOME})");
 }
 
-/// Shows a pick list with what was found; whether the operator chose a row.
-bool EscolherDaLista(lookup::frmPesquisa& lista, const base::RecordSetPtr& encontrados,
-                     const std::string& aviso) {
-  const frame::FundoEscuro fundo;
-  std::int16_t falha = 0;
-  lista.ConfigurarGrade(falha);
-  if (falha == 0) lista.PreencherGrade(encontrados, falha, aviso);
-  if (falha == 1) return false;
-  lista.ShowModal();
-  return lista.RegistroSelecionado();
-}
-
 }  // namespace
 
-base::RecordSetPtr frmCaixaOperar::SelecionarProduto(const std::string& nome,
-                                                     const std::string& codigoDeBarras,
-                                                     double codigoInterno, std::string* aviso) {
+void frmCaixaOperar::zvfCodigoDeBarrasDoProduto_Click() {
+  Procedimento(", frmCaixaOperar, zvfCodigoDeBarrasDoProduto_Click, Ponto: ", [&](Ponto& ponto) {
+    ZVFind& campo = zvfCodigoDeBarrasDoProduto;
+    if (campo.Status() == ZVFind::kEmpty) {
+      VoltarAoCampo(campo);
+      return;
+    }
+    if (campo.Status() != ZVFind::kTyped) return;
+    ponto = 2;
+    const std::string codigo = base::Trim(campo.Text());
+    const std::size_t digitos = base::Length(codigo);
+    if (digitos < kMenosDigitos || digitos > kMaisDigitos) {
+      campo.Enabled = true;
+      frame::Informar("Informe um código de barras de 13 ou 14 dígitos.");
+      if (campo.Style() != ZVFind::kTextStyle) campo.SetFocus();
+      return;
+    }
+    ponto = 3;
+    zvfNomeDoProduto.Text = "";
+    zvfCodigoInternoDoProduto.Text = "";
+    const bool daBalanca = EhDeBalanca(codigo);
+    if (daBalanca) {
+      zvfCodigoInternoDoProduto.Status = ZVFind::kFound;
+      zvfCodigoInternoDoProduto.Text = CodigoInternoDaBalanca(codigo);
+    }
+    if (!PesquisarProduto("", codigo, CodigoDe(zvfCodigoInternoDoProduto))) {
+      if (SemCliente()) return;
+      // Nothing of the item found before stays behind: neither its price nor its quantity can be
+      // added.
+      campo.Status = ZVFind::kFound;
+      VoltarAoCampo(campo);
+      return;
+    }
+    if (daBalanca ? !PesarNaBalanca() : !PreencherComboboxComissionados(kProduto)) return;
+    HabilitarDesabilitarCampos(true);
+    if (!daBalanca) optServico.Enabled = zvcmbAnimal.ListCount() > 0;
+    zvcmbComissionado.SetFocus();
+  });
+}
+
+/// The quantity of a product that was weighed. Only the barcode that the service gave back counts,
+/// and that stands in the field by now: for a product sold by weight it is the scanned one.
+bool frmCaixaOperar::PesarNaBalanca() {
+  const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
+  if (!leitura.empresa) return false;
+  if (leitura.empresa->RecordCount() == 0) {
+    frame::Informar(
+        "Não foi possível recuperar dados porque empresa não esta cadastrada.\nEfetue o cadastro e "
+        "tente novamente");
+    return false;
+  }
+  const std::int32_t formato =
+      base::ToInt32(base::Val(leitura.empresa->Fields("FormatoDeCodigoDeBarrasParaBalanca")));
+  if (!PreencherComboboxComissionados(kProduto)) return false;
+  const auto quantidade = QuantidadeDaBalanca(zvfCodigoDeBarrasDoProduto.Text(), formato,
+                                              frame::LerCurrency(zvnumValorUnitario));
+  if (quantidade) zvnumQuantidade.Text = base::Format(*quantidade, base::kWeightMask);
+  return true;
+}
+
+// One routine for the four fields of names and codes: a search, or a clear, by the field's status.
+void frmCaixaOperar::PesquisarOuLimparItem(ZVFind& campo) {
+  const bool deServico = item_.EhDeServico(campo);
+  if (campo.Status() == ZVFind::kEmpty) {
+    VoltarAoCampo(campo);
+    return;
+  }
+  if (campo.Status() != ZVFind::kTyped) return;
+  if (deServico && zvcmbTiposDeServicos.ListIndex() == -1) {
+    frame::Informar("Selecione o tipo de serviço.");
+    zvcmbTiposDeServicos.SetFocus();
+    return;
+  }
+  if (lookup::PesquisaCurtaDemais(campo)) return;
+  for (ZVFind* outro : item_.Companheiros(campo)) outro->Text = "";
+  const bool encontrado =
+      deServico
+          ? PesquisarServico(base::ToInt16(item_.TipoDeServico()),
+                             base::Trim(zvfNomeDoServico.Text()), CodigoDe(zvfCodigoDoServico))
+          : PesquisarProduto(base::Trim(zvfNomeDoProduto.Text()),
+                             base::Trim(zvfCodigoDeBarrasDoProduto.Text()),
+                             CodigoDe(zvfCodigoInternoDoProduto));
+  if (SemCliente()) return;
+  if (!encontrado) {
+    RecomecarItem(campo);
+    campo.Status = ZVFind::kFound;
+    return;
+  }
+  if (deServico || !PreencherComboboxComissionados(kProduto)) return;
+  HabilitarDesabilitarCampos(true);
+  optServico.Enabled = zvcmbAnimal.ListCount() > 0;
+  zvcmbComissionado.SetFocus();
+}
+
+/// The products found, the cursor on the first. None after a fault, and where there are none or the
+/// operator has cleared the counter during the wait: then the item is wanted no more.
+Selecao frmCaixaOperar::SelecionarProdutos(const std::string& nome,
+                                           const std::string& codigoDeBarras,
+                                           double codigoInterno) {
   frame::Espera espera(painelDeMensagem_);
   auto produtos = servicos::CriarServico<servicos::ZOVA_N_Produtos::clsProdutos>();
-  std::string nomeProcurado = nome, codigoProcurado = codigoDeBarras;
-  const bool falhou =
-      produtos->Selecionar(2, 0, 1, "", nomeProcurado, codigoProcurado, codigoInterno);
+  const bool falhou = frame::consultas::Produtos(*produtos, nome, codigoDeBarras, codigoInterno);
   espera.Ocultar();
   if (falhou) {
     frame::ExibirErroDoServico(*produtos);
-    return nullptr;
+    return {};
   }
-  // The operator may clear the counter during the wait: then the item is wanted no more.
-  if (SemCliente()) return nullptr;
-  base::RecordSetPtr linhas = produtos->ResultadoDaSelecaoEmRecordSet();
-  if (linhas->RecordCount() == 0) {
+  if (SemCliente()) return {};
+  const base::RecordSetPtr encontrados = produtos->ResultadoDaSelecaoEmRecordSet();
+  if (encontrados->RecordCount() == 0) {
     NadaEncontrado(NenhumProduto(nome, codigoDeBarras, codigoInterno));
-    return nullptr;
+    return {};
   }
-  linhas->MoveFirst();
-  if (aviso != nullptr) *aviso = lookup::frmPesquisa::AvisoDaSelecao(*produtos, *linhas);
-  return linhas;
+  encontrados->MoveFirst();
+  return {encontrados, frmPesquisa::AvisoDaSelecao(*produtos, *encontrados)};
 }
 
 bool frmCaixaOperar::PesquisarProduto(const std::string& nome, const std::string& codigoDeBarras,
                                       double codigoInterno) {
   bool encontrado = false;
   Procedimento(", frmCaixaOperar, PesquisarProduto, Ponto: ", [&](Ponto& ponto) {
-    std::string aviso;
-    const base::RecordSetPtr linhas =
-        SelecionarProduto(nome, codigoDeBarras, codigoInterno, &aviso);
-    if (!linhas) return;
+    const Selecao produtos = SelecionarProdutos(nome, codigoDeBarras, codigoInterno);
+    if (!produtos.registros) return;
     ponto = 2;
-    if (linhas->RecordCount() == 1) {
-      encontrado = ReceberProduto(*linhas);
-      return;
-    }
+    const auto produto = lookup::EscolherProduto(produtos);
+    if (!produto) return;
     ponto = 3;
-    lookup::frmPesquisaDeProdutos lista;
-    if (EscolherDaLista(lista, linhas, aviso)) encontrado = ReceberProduto(*lista.Produto());
-    lista.Unload();
+    item_.Receber(*produto);
+    HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(true);
+    encontrado = true;
   });
   return encontrado;
-}
-
-bool frmCaixaOperar::ReceberProduto(const base::RecordSet& produto) {
-  const frame::SupressaoDePesquisa supressao;
-  const auto texto = [&](std::string_view campo) { return base::ToText(produto.Fields(campo)); };
-  zvfNomeDoProduto.Status = ZVFind::kFound;
-  zvfCodigoDeBarrasDoProduto.Status = ZVFind::kFound;
-  zvfCodigoInternoDoProduto.Status = ZVFind::kFound;
-  zvfCodigoInternoDoProduto.Text = texto("CodigoInterno");
-  zvfCodigoDeBarrasDoProduto.Text = texto("CodigoDeBarras");
-  zvfNomeDoProduto.Text = texto("Nome");
-  zvfNomeDoProduto.Tag = texto("ValorDeCusto");
-  UnidadeDeVendaDoProduto = texto("UnidadeDeVenda");
-  HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(true);
-  zvnumQuantidade.Text = "1,000";
-  zvnumValorUnitario.Text = frame::TextoDeValor(produto.Fields("ValorDeVenda"));
-  PercentualDeComissaoDoProduto = base::ToCurrency(produto.Fields("PercentualDeComissao"));
-  return true;
 }
 
 bool frmCaixaOperar::PesquisarServico(std::int16_t tipo, const std::string& nome, double codigo) {
@@ -122,10 +186,8 @@ bool frmCaixaOperar::PesquisarServico(std::int16_t tipo, const std::string& nome
   Procedimento(", frmCaixaOperar, PesquisarServico, Ponto: ", [&](Ponto& ponto) {
     frame::Espera espera(painelDeMensagem_);
     auto catalogo = servicos::CriarServico<servicos::ZOVA_N_Servicos::clsServicos>();
-    std::string nomeProcurado = nome;
-    double codigoProcurado = codigo;
     ponto = 2;
-    const bool falhou = catalogo->Selecionar(2, 0, 1, "", tipo, nomeProcurado, codigoProcurado);
+    const bool falhou = frame::consultas::Servicos(*catalogo, tipo, nome, codigo);
     espera.Ocultar();
     if (falhou) {
       frame::ExibirErroDoServico(*catalogo);
@@ -133,73 +195,31 @@ bool frmCaixaOperar::PesquisarServico(std::int16_t tipo, const std::string& nome
     }
     if (SemCliente()) return;
     ponto = 3;
-    const base::RecordSetPtr linhas = catalogo->ResultadoDaSelecaoEmRecordSet();
-    const std::string fim =
-        "' informado e com o tipo de serviço '" + zvcmbTiposDeServicos.Text() + "'.";
-    if (linhas->RecordCount() == 0) {
+    const base::RecordSetPtr encontrados = catalogo->ResultadoDaSelecaoEmRecordSet();
+    if (encontrados->RecordCount() == 0) {
+      const std::string fim =
+          "' informado e com o tipo de serviço '" + zvcmbTiposDeServicos.Text() + "'.";
       NadaEncontrado(nome.empty()
                          ? "Nenhum produto encontrado com o código '" + base::ToText(codigo) + fim
                          : "Nenhum serviço encontrado com o nome '" + nome + fim);
       return;
     }
     ponto = 4;
-    if (linhas->RecordCount() == 1) {
-      linhas->MoveFirst();
-      encontrado = ReceberServico(*linhas);
-      return;
-    }
+    const auto servico = lookup::EscolherServico(
+        {encontrados, frmPesquisa::AvisoDaSelecao(*catalogo, *encontrados)}, zvcmbTiposDeServicos);
+    if (!servico) return;
     ponto = 5;
-    lookup::frmPesquisaDeServicos lista;
-    const std::string aviso = lookup::frmPesquisa::AvisoDaSelecao(*catalogo, *linhas);
-    lista.CopiarTiposDeServicos(zvcmbTiposDeServicos);
-    if (EscolherDaLista(lista, linhas, aviso)) encontrado = ReceberServico(*lista.Escolhido());
-    lista.Unload();
+    item_.Receber(*servico);
+    HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(true);
+    RecuperaDescontoDoCliente();
+    if (zvcmbAnimal.Enabled()) {
+      zvcmbAnimal.SetFocus();
+    } else {
+      zvcmbComissionado.SetFocus();
+    }
+    encontrado = true;
   });
   return encontrado;
-}
-
-bool frmCaixaOperar::ReceberServico(const base::RecordSet& servico) {
-  {
-    frame::SupressaoDePesquisa supressao;
-    zvfNomeDoServico.Status = ZVFind::kFound;
-    zvfCodigoDoServico.Status = ZVFind::kFound;
-    zvfCodigoDoServico.Text = base::ToText(servico.Fields("Codigo"));
-    zvfNomeDoServico.Text = base::ToText(servico.Fields("Nome"));
-    zvfNomeDoServico.Tag = base::ToText(servico.Fields("Custo"));
-    HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(true);
-    zvnumQuantidade.Text = "1";
-    zvnumValorUnitario.Text = frame::TextoDeValor(servico.Fields("ValorDeVenda"));
-    const std::int32_t indice =
-        zvcmbTiposDeServicos.IndexOfData(base::ToInt32(servico.Fields("NumeroDoTipoDeServico")));
-    supressao.Repetir();
-    if (indice != -1) zvcmbTiposDeServicos.ListIndex = indice;
-  }
-  RecuperaDescontoDoCliente();
-  if (zvcmbAnimal.Enabled()) {
-    zvcmbAnimal.SetFocus();
-  } else {
-    zvcmbComissionado.SetFocus();
-  }
-  return true;
-}
-
-bool frmCaixaOperar::ProcurarProdutoDosCampos() {
-  return PesquisarProduto(base::Trim(zvfNomeDoProduto.Text()),
-                          base::Trim(zvfCodigoDeBarrasDoProduto.Text()),
-                          CodigoDe(zvfCodigoInternoDoProduto));
-}
-
-bool frmCaixaOperar::ProcurarServicoDosCampos() {
-  const std::int32_t tipo = zvcmbTiposDeServicos.ItemData(zvcmbTiposDeServicos.ListIndex());
-  return PesquisarServico(base::ToInt16(tipo), base::Trim(zvfNomeDoServico.Text()),
-                          CodigoDe(zvfCodigoDoServico));
-}
-
-void frmCaixaOperar::AbrirCamposDoProdutoEncontrado() {
-  if (!PreencherComboboxComissionados(kProduto)) return;
-  HabilitarDesabilitarCampos(true);
-  optServico.Enabled = zvcmbAnimal.ListCount() > 0;
-  zvcmbComissionado.SetFocus();
 }
 
 }  // namespace sale

@@ -17,16 +17,10 @@ void frmCaixaOperar::RestaurarRotulos() {
       *this, {"lblCliente", "lblItensDaPreVenda", "lblSituacaoDoCaixa", "lblAvisoDoCaixa"});
 }
 
-// With nobody to sell to, neither kind of item is open.
-bool frmCaixaOperar::SemCliente() const {
-  return !optServico.Enabled() && !optProduto.Enabled();
-}
-
-bool frmCaixaOperar::RecusarSemCliente() {
-  if (!SemCliente()) return false;
-  Recusar(lblApelidoOuNomeFantasiaDoCliente, "Selecione o cliente.",
-          zvfApelidoOuNomeFantasiaDoCliente);
-  return true;
+std::int16_t frmCaixaOperar::RecusarSemCliente() {
+  if (!SemCliente()) return 0;
+  return Recusar(lblApelidoOuNomeFantasiaDoCliente, "Selecione o cliente.",
+                 zvfApelidoOuNomeFantasiaDoCliente);
 }
 
 std::int16_t frmCaixaOperar::ValidarCamposDaGrade() {
@@ -35,7 +29,7 @@ std::int16_t frmCaixaOperar::ValidarCamposDaGrade() {
     resultado = 1;
     RestaurarRotulos();
     ponto = 2;
-    if (RecusarSemCliente()) return;
+    if (RecusarSemCliente() == 1) return;
     ponto = 3;
     if (ValidarItem() == 1) return;
     ponto = 4;
@@ -48,7 +42,7 @@ std::int16_t frmCaixaOperar::ValidarItem() {
   const auto ambosVazios = [](const platform::ZVFind& a, const platform::ZVFind& b) {
     return base::IsBlank(a.Text()) && base::IsBlank(b.Text());
   };
-  if (!EhServico()) {
+  if (!item_.EhServico()) {
     if (!ambosVazios(zvfNomeDoProduto, zvfCodigoInternoDoProduto)) return 0;
     return Recusar(lblNomeDoServicoOuNomeDoProduto, "Selecione o produto.", zvfNomeDoProduto);
   }
@@ -67,7 +61,7 @@ std::int16_t frmCaixaOperar::ValidarItem() {
 }
 
 std::int16_t frmCaixaOperar::ValidarValores() {
-  frame::PreencherSeVazio(zvnumQuantidade, EhServico() ? "0,00" : "0,000");
+  frame::PreencherSeVazio(zvnumQuantidade, item_.EhServico() ? "0,00" : "0,000");
   if (LerCurrency(zvnumQuantidade).IsZero()) {
     return Recusar(lblQuantidade, "Informe a quantidade.", zvnumQuantidade);
   }
@@ -100,12 +94,12 @@ std::int16_t frmCaixaOperar::ValidarCampos() {
   Procedimento(", frmCaixaOperar, ValidarCampos, Ponto: ", [&](Ponto& ponto) {
     resultado = 1;
     RestaurarRotulos();
-    if (zvcmbCaixas.ListIndex() == -1) {
+    if (!caixas_.Escolhido()) {
       Recusar(lblApelidoOuNomeFantasiaDoCliente, "É preciso selecionar um caixa.", zvcmbCaixas);
       return;
     }
     ponto = 2;
-    if (RecusarSemCliente()) return;
+    if (RecusarSemCliente() == 1) return;
     ponto = 3;
     if (!GradeComItens()) {
       frame::Informar("É preciso adicionar um item na lista.");
@@ -114,7 +108,7 @@ std::int16_t frmCaixaOperar::ValidarCampos() {
     }
     ponto = 4;
     frame::PreencherSeVazio(zvnumPercentualTotalDeDesconto, kZeroEmDinheiro);
-    if (LerCurrency(zvnumPercentualTotalDeDesconto) > PercentualDeDescontoLimite &&
+    if (regras_.AcimaDoLimite(totais_.Percentual()) &&
         VerificaPercDeDescontoLimiteDaVendaNoCaixa() == 1) {
       Recusar(lblPercentualTotalDeDesconto,
               "Percentual de desconto não autorizado. - Favor comunicar o 'Administrador'.",
@@ -123,7 +117,7 @@ std::int16_t frmCaixaOperar::ValidarCampos() {
     }
     ponto = 5;
     frame::PreencherSeVazio(zvnumTotal, kZeroEmDinheiro);
-    if (LerCurrency(zvnumValorTotalDeDesconto) > LerCurrency(zvnumTotal)) {
+    if (LerCurrency(zvnumValorTotalDeDesconto) > totais_.Bruto()) {
       Recusar(lblValorTotalDeDesconto, "Valor de desconto não pode ser maior que o valor total.",
               zvnumValorTotalDeDesconto);
       return;

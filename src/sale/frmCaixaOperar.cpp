@@ -3,15 +3,13 @@
 #include "frame/CamposNumericos.h"
 #include "frame/Valores.h"
 #include "frame/modRolagemComMouse.h"
-#include "sale/Menu.h"
 
 namespace sale {
 
 using platform::ZVFind;
 
 frmCaixaOperar::frmCaixaOperar()
-    : Form("frmCaixaOperar"),
-      caixaDoCliente_(lblCliente, zvfApelidoOuNomeFantasiaDoCliente, zvfNomeOuRazaoSocialDoCliente,
+    : caixaDoCliente_(lblCliente, zvfApelidoOuNomeFantasiaDoCliente, zvfNomeOuRazaoSocialDoCliente,
                       zvfCodigoDoCliente,
                       {.pesquisar =
                            [this] {
@@ -20,14 +18,6 @@ frmCaixaOperar::frmCaixaOperar()
                            },
                        .aceitar = [this](ZVFind& campo) { AceitarCliente(campo); },
                        .esvaziar = [this] { zvcmbAnimal.Clear(); }}) {
-  for (const BotaoDoMenu& botao : kBotoesDoMenuCaixa) {
-    tbMenuCaixa.Add(botao.chave, botao.legenda, "menu_caixa_" + std::string(botao.chave));
-  }
-  for (std::size_t i = 0; i < kColunasDaVenda.size(); ++i) {
-    mnuListaDeColunas.push_back(std::make_unique<platform::MenuItem>(
-        *this, "mnuListaDeColunas(" + std::to_string(i) + ")", kColunasDaVenda[i].titulo));
-    mnuGrade.Add(*mnuListaDeColunas.back());
-  }
   LigarEventos();
   Desenhar();
 }
@@ -97,7 +87,7 @@ void frmCaixaOperar::LigarEventos() {
   mnuHistoricoDeCreditoParaOCliente.Click = [this] { mnuHistoricoDeCreditoParaOCliente_Click(); };
   mnuConsultarPrecosProdutos.Click = [this] { mnuConsultarPrecosProdutos_Click(); };
   mnuConsultarPrecosServicos.Click = [this] { mnuConsultarPrecosServicos_Click(); };
-  mnuAlterar.Click = [this] { mnuAlterar_Click(); };
+  mnuAlterar.Click = [this] { Registros_Alterar(); };
   mnuExcluir.Click = [this] { zvcmdRemover_Click(); };
   for (std::size_t i = 0; i < mnuListaDeColunas.size(); ++i) {
     mnuListaDeColunas[i]->Click = [this, i] {

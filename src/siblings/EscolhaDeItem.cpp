@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/Consultas.h"
 #include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
@@ -17,6 +18,7 @@
 namespace siblings {
 namespace {
 
+namespace consultas = frame::consultas;
 using dados::Orcamento;
 using servicos::ZOVA_N_Produtos::clsProdutos;
 using servicos::ZOVA_N_Servicos::clsServicos;
@@ -34,20 +36,13 @@ const Fonte& FonteDe(TipoDeItem tipo) {
   return tipo == TipoDeItem::kServico ? kServicos : kProdutos;
 }
 
-struct Encontrados {
-  base::RecordSetPtr registros;
-  std::string aviso;  ///< What the service has to say of them, such as that there are more.
-};
-
-/// Nothing after a fault, which has been reported.
-template <class Classe, class Tipo>
-std::optional<Encontrados> Selecionar(const std::string& texto, Tipo tipo) {
-  auto servico = frame::CriarServicoComSessao<Classe>();
-  if (servico->Selecionar(2, 0, 1, texto, tipo)) {
-    frame::ExibirErroDoServico(*servico);
-    return std::nullopt;
+/// No records after a fault, which has been reported.
+lookup::Selecao Resultado(servicos::ServicoDeNegocio& servico, bool falhou) {
+  if (falhou) {
+    frame::ExibirErroDoServico(servico);
+    return {};
   }
-  return Encontrados{servico->ResultadoDaSelecaoEmRecordSet(), servico->DescricaoDaFalha()};
+  return {servico.ResultadoDaSelecaoEmRecordSet(), servico.DescricaoDaFalha()};
 }
 
 Orcamento::Item ItemDe(const base::RecordSet& registro, TipoDeItem tipo) {
@@ -68,27 +63,26 @@ bool TemOCodigo(const base::RecordSet& registro, const Fonte& fonte, const std::
          base::ToText(registro.Fields(fonte.codigoDeBarras)) == texto;
 }
 
-std::optional<Encontrados> Selecionar(TipoDeItem tipo, const std::string& texto) {
-  return tipo == TipoDeItem::kServico ? Selecionar<clsServicos>(texto, std::int32_t{0})
-                                      : Selecionar<clsProdutos>(texto, std::string_view());
+lookup::Selecao Selecionar(TipoDeItem tipo, const std::string& texto) {
+  constexpr std::int32_t kTodosOsTipos = 0;
+  if (tipo == TipoDeItem::kServico) {
+    auto catalogo = frame::CriarServicoComSessao<clsServicos>();
+    return Resultado(*catalogo, consultas::ServicosDaLista(*catalogo, texto, kTodosOsTipos));
+  }
+  auto produtos = frame::CriarServicoComSessao<clsProdutos>();
+  return Resultado(*produtos, consultas::ProdutosDaLista(*produtos, texto));
 }
 
-/// The code of the one that the operator picks from the list; empty when he leaves.
-std::string Escolher(lookup::frmPesquisa& lista, const Encontrados& encontrados,
+/// The code of the one that the operator picks from the list; empty when they leave.
+std::string Escolher(lookup::frmPesquisa& lista, const lookup::Selecao& encontrados,
                      std::string_view codigo) {
-  std::int16_t falha = 0;
-  lista.ConfigurarGrade(falha);
-  if (falha == 0) lista.PreencherGrade(encontrados.registros, falha, encontrados.aviso);
-  if (falha == 0) lista.ShowModal();
   std::string escolhido;
-  if (falha == 0 && lista.RegistroSelecionado()) {
-    escolhido = base::ToText(lista.Escolhido()->Fields(codigo));
-  }
+  if (lista.Escolher(encontrados)) escolhido = base::ToText(lista.Escolhido()->Fields(codigo));
   lista.Unload();
   return escolhido;
 }
 
-std::string Escolher(const Encontrados& encontrados, TipoDeItem tipo) {
+std::string Escolher(const lookup::Selecao& encontrados, TipoDeItem tipo) {
   const std::string_view codigo = FonteDe(tipo).codigo;
   if (tipo == TipoDeItem::kProduto) {
     lookup::frmPesquisaDeProdutos produtos;
@@ -108,28 +102,28 @@ std::optional<Orcamento::Item> EscolherItem(platform::Form& tela, TipoDeItem tip
     frame::Informar(lookup::kTresCaracteres);
     return std::nullopt;
   }
-  std::optional<Encontrados> encontrados;
+  lookup::Selecao encontrados;
   {
     const frame::PonteiroDeEspera espera(tela, platform::kHourglassPointer);
     encontrados = Selecionar(tipo, texto);
   }
-  if (!encontrados) return std::nullopt;
-  encontrados->registros->MoveFirst();
-  if (encontrados->registros->RecordCount() == 0) {
+  if (!encontrados.registros) return std::nullopt;
+  encontrados.registros->MoveFirst();
+  if (encontrados.registros->RecordCount() == 0) {
     frame::Informar("Nenhum " + std::string(fonte.oQue) + " encontrado com '" + texto +
                     "'. Confira o código ou digite outra parte do nome.");
     return std::nullopt;
   }
-  if (encontrados->registros->RecordCount() > 1 &&
-      !TemOCodigo(*encontrados->registros, fonte, texto)) {
+  if (encontrados.registros->RecordCount() > 1 &&
+      !TemOCodigo(*encontrados.registros, fonte, texto)) {
     // The list has its own search, and so may give what was not among these.
-    const std::string codigo = Escolher(*encontrados, tipo);
+    const std::string codigo = Escolher(encontrados, tipo);
     if (codigo.empty()) return std::nullopt;
     encontrados = Selecionar(tipo, codigo);
-    if (!encontrados || encontrados->registros->RecordCount() == 0) return std::nullopt;
-    encontrados->registros->MoveFirst();
+    if (!encontrados.registros || encontrados.registros->RecordCount() == 0) return std::nullopt;
+    encontrados.registros->MoveFirst();
   }
-  return ItemDe(*encontrados->registros, tipo);
+  return ItemDe(*encontrados.registros, tipo);
 }
 
 }  // namespace siblings

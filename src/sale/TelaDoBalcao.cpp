@@ -1,13 +1,28 @@
+#include "sale/TelaDoBalcao.h"
+
+#include "frame/servicos/Codigos.h"
 #include "platform/Layout.h"
-#include "sale/frmCaixaOperar.h"
+#include "sale/LinhaDeVenda.h"
+#include "sale/Menu.h"
 
 namespace sale {
 
 using namespace platform;
 
+TelaDoBalcao::TelaDoBalcao() : Form("frmCaixaOperar") {
+  for (const BotaoDoMenu& botao : kBotoesDoMenuCaixa) {
+    tbMenuCaixa.Add(botao.chave, botao.legenda, "menu_caixa_" + std::string(botao.chave));
+  }
+  for (std::size_t i = 0; i < kColunasDaVenda.size(); ++i) {
+    mnuListaDeColunas.push_back(std::make_unique<MenuItem>(
+        *this, "mnuListaDeColunas(" + std::to_string(i) + ")", kColunasDaVenda[i].titulo));
+    mnuGrade.Add(*mnuListaDeColunas.back());
+  }
+}
+
 // The design of the counter at 1024 by 768 pixels, 15 twips to the pixel, in tab order. The strip
 // is 2850 twips wide; a product's name takes the 8355 of a service's name and code together.
-void frmCaixaOperar::Desenhar() {
+void TelaDoBalcao::Desenhar() {
   zvfCodigoDoCliente.Style.Assign(ZVFind::kCodeStyle);
   zvfNumeroDaFichaClinica.Style.Assign(ZVFind::kCodeStyle);
   zvfCodigoDoServico.Style.Assign(ZVFind::kCodeStyle);
@@ -26,7 +41,7 @@ void frmCaixaOperar::Desenhar() {
     soma->Text.Assign("0,00");
   }
   msfgGrade.calmColumn = kColunaTipoDeVenda;
-  msfgGrade.calmText = "2";
+  msfgGrade.calmText = std::to_string(servicos::kPreVenda);
   for (ZVNumberBox* soma :
        {&zvnumTotal, &zvnumValorTotalDeDescontoItensDaGrade, &zvnumLiquidoAPagar}) {
     soma->tabStop = false;

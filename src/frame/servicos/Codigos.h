@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+
+/// The numbers by which screens and services tell kinds and states to each other. What an operation
+/// answers, and the failure numbers of a register, stand beside the services themselves
+/// (Servico.h).
+namespace servicos {
+
+/// What a sale line is: the last column of the line.
+enum TipoDeLancamento : std::int16_t { kServico = 1, kProduto = 2 };
+
+/// Where a sale line comes from: the last column but one. A pre-sale line belongs to the record
+/// that it was entered in, and the counter may not touch it.
+enum TipoDeVenda : std::int32_t { kVendaDeBalcao = 1, kPreVenda = 2 };
+
+/// The types of service, which discounts and commissions go by.
+enum TipoDeServico : std::int32_t {
+  kClinico = 1,
+  kCirurgiaSimples = 2,
+  kCirurgiaMedia = 3,
+  kCirurgiaComplexa = 4,
+  kBanhosTosasEEsteticas = 5,
+  kHospedagem = 6,
+  kAdestramento = 7,
+  kOutros = 99,
+};
+
+/// Whether only the veterinarian may change a service of this type once it is in a sale.
+constexpr bool EhClinicoOuCirurgico(std::int32_t tipoDeServico) {
+  return tipoDeServico <= kCirurgiaComplexa;
+}
+
+/// What a register is to the workstation that looks at it.
+enum SituacaoDoCaixa : std::int32_t {
+  kCaixaAberto = 1,
+  kCaixaFechado = 2,
+  kCaixaForaDeOperacao = 3,
+};
+
+/// Customers who cannot be served; any other number can.
+enum SituacaoDoCliente : std::int32_t {
+  kClienteInativo = 2,
+  kClienteBloqueado = 3,
+  kClienteExcluido = 4,
+};
+
+/// What moved the money of a register.
+enum TipoDeMovimento : std::int32_t {
+  kAbertura = 1,
+  kFechamento = 2,
+  kEntrada = 3,
+  kSaida = 4,
+  kRecebimento = 5,  ///< A tender of a sale.
+  kTroco = 6,        ///< Change given on a sale.
+};
+
+}  // namespace servicos
