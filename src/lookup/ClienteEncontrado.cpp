@@ -36,8 +36,7 @@ PerfilDeDescontos PerfilDe(const base::RecordSet& registro) {
 
 }  // namespace
 
-std::optional<std::int32_t> PerfilDeDescontos::Para(
-    std::optional<std::int32_t> tipoDeServico) const {
+std::optional<std::int32_t> PerfilDeDescontos::Para(std::int32_t tipoDeServico) const {
   if (descontoUnico) return percentualUnico;
   for (const Categoria& categoria : categorias) {
     if (categoria.tipoDeServico == tipoDeServico) return categoria.percentual;

@@ -22,7 +22,7 @@ struct PerfilDeDescontos {
   std::array<Categoria, 8> categorias;
 
   /// The percentage for a type of service; nothing where none is granted for it.
-  std::optional<std::int32_t> Para(std::optional<std::int32_t> tipoDeServico) const;
+  std::optional<std::int32_t> Para(std::int32_t tipoDeServico) const;
 };
 
 /// A customer who was found, as the counter serves them.

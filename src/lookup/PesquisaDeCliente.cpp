@@ -136,8 +136,7 @@ void CaixaDoCliente::Recomecar(ZVFind& campo) {
 }
 
 ProcuraDeCliente CaixaDoCliente::Procura() const {
-  const std::string codigo = base::Trim(Codigo().Text());
-  return {base::Trim(Apelido().Text()), base::Trim(Nome().Text()), base::Val(codigo)};
+  return {base::Trim(Apelido().Text()), base::Trim(Nome().Text()), CodigoDoCliente()};
 }
 
 bool CaixaDoCliente::Informado() const {
@@ -145,6 +144,10 @@ bool CaixaDoCliente::Informado() const {
     if (base::IsBlank(campo->Text())) return false;
   }
   return true;
+}
+
+double CaixaDoCliente::CodigoDoCliente() const {
+  return base::Val(Codigo().Text());
 }
 
 void CaixaDoCliente::Receber(ClienteEncontrado cliente) {

@@ -60,6 +60,8 @@ class CaixaDoCliente {
   ProcuraDeCliente Procura() const;
   /// Whether all three fields are filled.
   bool Informado() const;
+  /// What the code field says; 0 where it says no number.
+  double CodigoDoCliente() const;
   /// Takes a customer up: the fields show them as found, and the label of the box their mark.
   void Receber(ClienteEncontrado cliente);
   /// The customer taken up last, who stays known when the fields are emptied.

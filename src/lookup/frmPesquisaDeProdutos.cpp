@@ -48,8 +48,6 @@ ItemEncontrado frmPesquisaDeProdutos::Produto() const {
 }
 
 std::optional<ItemEncontrado> EscolherProduto(const Selecao& produtos) {
-  produtos.registros->MoveFirst();
-  if (produtos.registros->RecordCount() == 1) return ProdutoDe(*produtos.registros);
   frmPesquisaDeProdutos lista;
   std::optional<ItemEncontrado> produto;
   {

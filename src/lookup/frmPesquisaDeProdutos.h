@@ -25,8 +25,7 @@ class frmPesquisaDeProdutos final : public frmPesquisa {
   [[maybe_unused]] bool formularioDeConsultaDePreco_ = false;
 };
 
-/// The only product that was found, or the one of several that the operator picks; nothing when
-/// they leave the list.
+/// The one of several products that the operator picks; nothing when they leave the list.
 std::optional<ItemEncontrado> EscolherProduto(const Selecao& produtos);
 
 }  // namespace lookup

@@ -124,8 +124,6 @@ std::string frmPesquisaDeServicos::NadaEncontrado(const std::string& texto) cons
 
 std::optional<ItemEncontrado> EscolherServico(const Selecao& servicos,
                                               const platform::ZVComboBox& tipos) {
-  servicos.registros->MoveFirst();
-  if (servicos.registros->RecordCount() == 1) return ServicoDe(*servicos.registros);
   frmPesquisaDeServicos lista;
   lista.CopiarTiposDeServicos(tipos);
   std::optional<ItemEncontrado> servico;

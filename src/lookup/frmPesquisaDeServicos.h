@@ -40,8 +40,8 @@ class frmPesquisaDeServicos final : public frmPesquisa {
   bool SuprimirProximoClickDoTipoDeServico = false;
 };
 
-/// The only service that was found, or the one of several that the operator picks from a list
-/// with these types; nothing when they leave it.
+/// The one of several services that the operator picks from a list with these types; nothing when
+/// they leave it.
 std::optional<ItemEncontrado> EscolherServico(const Selecao& servicos,
                                               const platform::ZVComboBox& tipos);
 

@@ -60,7 +60,7 @@ bool frmCaixaOperar::PesquisarCliente(const std::string& apelido, const std::str
 // and taken only after the warning of debts.
 void frmCaixaOperar::AceitarCliente(ZVFind& campo) {
   campo.Enabled = true;
-  const double codigo = CodigoDoCliente();
+  const double codigo = caixaDoCliente_.CodigoDoCliente();
   if (frame::VerificarBloqueioDoClienteParaOperacoesNosCaixas(codigo) == 1) {
     caixaDoCliente_.Esvaziar();
     campo.SetFocus();
@@ -72,9 +72,9 @@ void frmCaixaOperar::AceitarCliente(ZVFind& campo) {
   PermissaoDoUsuario();
   // The operator may clear the counter during a wait: then nobody is left to warn of or to lock.
   PreencherGradeComServicosEfetuadosEProdutosReservados(codigo);
-  if (CodigoDoCliente() != codigo) return;
+  if (caixaDoCliente_.CodigoDoCliente() != codigo) return;
   PesquisarDebitosDoCliente(codigo);
-  if (CodigoDoCliente() != codigo) return;
+  if (caixaDoCliente_.CodigoDoCliente() != codigo) return;
   frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(codigo, frame::kBloquear);
   std::int16_t falha = 0;
   PreencherComboboxAnimal(codigo, falha);
@@ -95,10 +95,6 @@ void frmCaixaOperar::AceitarCliente(ZVFind& campo) {
   optProduto.Value = true;
   if (jaEraProduto) optProduto_Click();
   optProduto.SetFocus();
-}
-
-double frmCaixaOperar::CodigoDoCliente() const {
-  return base::Val(zvfCodigoDoCliente.Text());
 }
 
 void frmCaixaOperar::PesquisarDebitosDoCliente(double codigo) {

@@ -24,10 +24,6 @@ Currency ComVirgula(const std::string& codigo, std::size_t inteiros) {
 
 }  // namespace
 
-bool EhDeBalanca(const std::string& codigo) {
-  return codigo.starts_with('2');
-}
-
 std::string CodigoInternoDaBalanca(const std::string& codigo) {
   return base::ToText(
       base::Val(base::Trim(base::Mid(codigo, kCodigoInternoEm, kDigitosDoCodigoInterno))));

@@ -10,9 +10,6 @@
 /// five of weight or price, and a check digit that nobody looks at.
 namespace sale {
 
-/// Whether a barcode, 13 or 14 digits long, is one of a scale.
-bool EhDeBalanca(const std::string& codigo);
-
 /// The internal code of the product, without the zeros in front.
 std::string CodigoInternoDaBalanca(const std::string& codigo);
 

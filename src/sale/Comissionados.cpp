@@ -30,13 +30,9 @@ constexpr ComissaoDoTipo kComissoes[] = {
     {servicos::kAdestramento, "PercentualDeComissaoEmAdestramentos"},
     {servicos::kOutros, "PercentualDeComissaoEmOutros"}};
 
-bool EhSim(const base::Value& valor) {
-  return base::Upper(base::ToText(valor)) == "SIM";
-}
-
 /// What an employee earns on a service of the type; 0 without a type.
 Currency ComissaoEmServico(const base::RecordSet& funcionario, std::int32_t tipo) {
-  if (EhSim(funcionario.Fields("ComissaoUnica"))) {
+  if (base::Upper(base::ToText(funcionario.Fields("ComissaoUnica"))) == "SIM") {
     return base::ToCurrency(funcionario.Fields("PercentualDeComissaoUnica"));
   }
   for (const ComissaoDoTipo& comissao : kComissoes) {
@@ -99,13 +95,15 @@ bool frmCaixaOperar::PreencherComboboxComissionados(std::int16_t tipo) {
     zvcmbComissionado.Clear();
     zvcmbComissionado.AddItem("", 0);
     base::ForEachRow(*linhas, [&] {
-      if (!EhSim(linhas->Fields("Comissionado"))) return;
+      if (base::Upper(base::ToText(linhas->Fields("Comissionado"))) != "SIM") return;
       const Currency percentual = tipo == kProduto
                                       ? item_.PercentualDeComissaoDoProduto()
                                       : ComissaoEmServico(*linhas, item_.TipoDeServico());
       if (tipo == kServico && percentual.IsZero()) return;
+      // The commission stands behind the padded name, also in the line that is made of it.
       zvcmbComissionado.AddItem(
-          TextoDoComissionado(base::ToText(linhas->Fields("Apelido")), percentual),
+          base::PadRight(base::ToText(linhas->Fields("Apelido")), servicos::linha::kLarguraDoNome) +
+              base::PadRight(base::FormatMoney(percentual), servicos::linha::kLarguraDaComissao),
           base::ToInt32(linhas->Fields("Codigo")));
     });
     preenchido = true;

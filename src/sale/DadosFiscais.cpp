@@ -62,7 +62,7 @@ frmCaixaOperar::DadosFiscais frmCaixaOperar::CompletarDadosFiscaisDaLinha(std::i
   };
   espera.Mostrar();
   DadosFiscais dados = DadosFiscais::kCompletos;
-  if (!ValidarDadosDoCliente(CodigoDoCliente())) {
+  if (!ValidarDadosDoCliente(caixaDoCliente_.CodigoDoCliente())) {
     dados = cadastrar(
         [this] { return CadastrarCodigoIBGEDoMunicipioDoCliente_Click(); },
         "Houve erro ao exportar o cliente.",
@@ -116,7 +116,7 @@ std::int16_t frmCaixaOperar::CadastrarCodigoIBGEDoMunicipioDoCliente_Click() {
   Procedimento(
       ", frmCaixaOperar, CadastrarCodigoIBGEDoMunicipioDoCliente_Click, Ponto: ", [&](Ponto&) {
         auto cadastro = servicos::CriarServico<servicos::ZOVA_A_ClientAnim::clsClientAnim>();
-        cadastro->CodigoDoCliente(CodigoDoCliente());
+        cadastro->CodigoDoCliente(caixaDoCliente_.CodigoDoCliente());
         cadastro->ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
         cadastro->NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
         cadastro->NomeDaAplicacao(valores().NomeDaAplicacao);

@@ -39,11 +39,6 @@ void Escolher(platform::ZVComboBox& lista, std::int32_t dado) {
   if (indice != -1) lista.ListIndex = indice;
 }
 
-void Encontrado(ZVFind& campo, const std::string& texto) {
-  campo.Status = ZVFind::kFound;
-  campo.Text = texto;
-}
-
 }  // namespace
 
 bool ItemEmEdicao::EhServico() const {
@@ -81,29 +76,24 @@ void ItemEmEdicao::Esvaziar(ZVFind& campo) {
 
 void ItemEmEdicao::Receber(const ItemEncontrado& item) {
   const frame::SupressaoDePesquisa supressao;
-  Mostrar(item);
-  tela_.zvnumQuantidade.Text = item.tipo == kServico ? "1" : "1,000";
-  tela_.zvnumValorUnitario.Text = item.valorDeVenda;
-}
-
-void ItemEmEdicao::Mostrar(const ItemEncontrado& item) {
-  if (item.tipo == kProduto) {
-    produto_ = item;
-    Encontrado(tela_.zvfCodigoInternoDoProduto, item.codigo);
-    Encontrado(tela_.zvfCodigoDeBarrasDoProduto, item.codigoDeBarras);
-    Encontrado(tela_.zvfNomeDoProduto, item.nome);
-    tela_.zvfNomeDoProduto.Tag = item.custo;
-    return;
+  const bool servico = item.tipo == kServico;
+  (servico ? servico_ : produto_) = item;
+  ZVFind& nome = servico ? tela_.zvfNomeDoServico : tela_.zvfNomeDoProduto;
+  ZVFind& codigo = servico ? tela_.zvfCodigoDoServico : tela_.zvfCodigoInternoDoProduto;
+  nome.Status = ZVFind::kFound;
+  codigo.Status = ZVFind::kFound;
+  codigo.Text = item.codigo;
+  nome.Text = item.nome;
+  nome.Tag = item.custo;
+  if (servico) {
+    Escolher(tela_.zvcmbTiposDeServicos, item.tipoDeServico);
+  } else {
+    tela_.zvfCodigoDeBarrasDoProduto.Status = ZVFind::kFound;
+    tela_.zvfCodigoDeBarrasDoProduto.Text = item.codigoDeBarras;
   }
-  servico_ = item;
-  Encontrado(tela_.zvfCodigoDoServico, item.codigo);
-  Encontrado(tela_.zvfNomeDoServico, item.nome);
-  tela_.zvfNomeDoServico.Tag = item.custo;
-  Escolher(tela_.zvcmbTiposDeServicos, item.tipoDeServico);
 }
 
 void ItemEmEdicao::Devolver(const base::GradeLida& grade, std::int32_t linha) {
-  const frame::SupressaoDePesquisa supressao;
   const auto celula = [&](std::int32_t coluna) { return grade.TextMatrix(linha, coluna); };
   ItemEncontrado item{.codigo = celula(kCodigo), .nome = celula(kNome), .custo = celula(kCusto)};
   if (TipoDeLancamentoDa(grade, linha) == kProduto) {
@@ -111,11 +101,11 @@ void ItemEmEdicao::Devolver(const base::GradeLida& grade, std::int32_t linha) {
     item.codigoDeBarras = celula(kTipoOuCodigoDeBarras);
     item.unidade = celula(kUnidade);
     item.percentualDeComissao = base::ToCurrency(celula(kPercentualDeComissao));
-    Mostrar(item);
+    Receber(item);
     return;
   }
   item.tipoDeServico = base::ToInt32(base::Val(celula(kTipoOuCodigoDeBarras)));
-  Mostrar(item);
+  Receber(item);
   Escolher(tela_.zvcmbAnimal, base::ToInt32(base::Val(celula(kCodigoDoAnimal))));
 }
 
@@ -163,7 +153,10 @@ NovaLinha ItemEmEdicao::MontarLinha() const {
   const Currency total = TotalDaLinha(quantidade, LerDouble(tela_.zvnumValorUnitario), desconto);
   const std::string& comissionado = tela_.zvcmbComissionado.Text();
   const std::string funcionario = comissionado.empty() ? "0" : Escolhido(tela_.zvcmbComissionado);
-  const Currency percentual = PercentualDoComissionado(comissionado);
+  const Currency percentual = base::IsBlank(comissionado)
+                                  ? Currency()
+                                  : Arredondar(base::ToCurrency(base::Right(
+                                        comissionado, servicos::linha::kLarguraDaComissao)));
   const std::string tipoOuBarras =
       servico ? Escolhido(tela_.zvcmbTiposDeServicos) : tela_.zvfCodigoDeBarrasDoProduto.Text();
   const std::string codigo =

@@ -38,9 +38,9 @@ class ItemEmEdicao {
   /// Empties a find field: nothing was typed into it, nothing found.
   static void Esvaziar(platform::ZVFind& campo);
 
-  /// Shows what was found, with the quantity and price that a new line begins with.
+  /// Takes up what was found: its fields show it, but for quantity and price.
   void Receber(const lookup::ItemEncontrado& item);
-  /// Shows the item of a line that is taken back; then its values.
+  /// Takes up the item of a line that is taken back; then its values.
   void Devolver(const base::GradeLida& grade, std::int32_t linha);
   void DevolverValores(const base::GradeLida& grade, std::int32_t linha);
 
@@ -56,8 +56,6 @@ class ItemEmEdicao {
   void Encerrar();
 
  private:
-  void Mostrar(const lookup::ItemEncontrado& item);
-
   TelaDoBalcao& tela_;
   lookup::ItemEncontrado servico_, produto_{.tipo = kProduto};
   /// The ledger entry that the next line takes; 0 for a new line.

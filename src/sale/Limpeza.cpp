@@ -130,8 +130,8 @@ void frmCaixaOperar::zvcmdLimparCampos_Click() {
     caixaDoCliente_.Habilitar(true);
     ponto = 2;
     // A code that was typed and not searched for names nobody who is being served.
-    if (zvfCodigoDoCliente.Status() == ZVFind::kFound && CodigoDoCliente() > 0) {
-      frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(CodigoDoCliente(),
+    if (zvfCodigoDoCliente.Status() == ZVFind::kFound && caixaDoCliente_.CodigoDoCliente() > 0) {
+      frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(caixaDoCliente_.CodigoDoCliente(),
                                                                 frame::kDesbloquear);
     }
     ponto = 3;

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <string>
 
-#include "base/Currency.h"
 #include "base/GradeLida.h"
 #include "frame/Grade.h"
 #include "frame/servicos/Codigos.h"
@@ -49,17 +48,10 @@ struct NovaLinha {
   std::string celulas;  ///< Its cells joined by tabs.
 };
 
-/// A line's share in NovaLinha::chave.
-std::string ChaveDaLinha(const base::GradeLida& grade, std::int32_t linha);
 /// The two type columns of a line, as integers.
 std::int32_t TipoDeVendaDa(const base::GradeLida& grade, std::int32_t linha);
 std::int32_t TipoDeLancamentoDa(const base::GradeLida& grade, std::int32_t linha);
 /// Whether the line is a service that only the veterinarian may change.
 bool EhClinicoOuCirurgico(const base::GradeLida& grade, std::int32_t linha);
-
-/// An employee as the list and the line have them: the commission stands behind the padded name.
-std::string TextoDoComissionado(const std::string& apelido, base::Currency percentual);
-/// The commission that such a text holds, in whole hundredths; 0 for a blank text.
-base::Currency PercentualDoComissionado(const std::string& texto);
 
 }  // namespace sale

@@ -90,7 +90,7 @@ void frmCaixaOperar::AbrirOuFechar(const registers::Movimento& movimento) {
     return;
   }
   // The fields are cleared next: who was being served is asked for first.
-  const double codigo = CodigoDoCliente();
+  const double codigo = caixaDoCliente_.CodigoDoCliente();
   std::int16_t falha = 0;
   LimparCampos(falha);
   if (falha == 1) return;
@@ -133,7 +133,7 @@ bool frmCaixaOperar::ClienteInformado() {
 void frmCaixaOperar::ConsultarHistoricoDeVendas() {
   if (!ClienteInformado()) return;
   auto historico = servicos::CriarServico<servicos::ZOVA_A_ClientHist::clsHistDeVendas>();
-  historico->CodigoDoCliente(CodigoDoCliente());
+  historico->CodigoDoCliente(caixaDoCliente_.CodigoDoCliente());
   historico->ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
   historico->NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
   constexpr int kMesesDeHistorico = 12;
@@ -154,7 +154,7 @@ void frmCaixaOperar::Orcamentos() {
     return;
   }
   auto orcamentos = servicos::CriarServico<servicos::ZOVA_A_Orcamentos::clsOrcamentos>();
-  orcamentos->CodigoDoCliente(CodigoDoCliente());
+  orcamentos->CodigoDoCliente(caixaDoCliente_.CodigoDoCliente());
   orcamentos->ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
   orcamentos->NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
   orcamentos->CodigoDoAnimal(zvcmbAnimal.ItemData(animal));

@@ -35,8 +35,8 @@ void frmCaixaOperar::zvcmdPagamento_Click() {
 }
 
 void frmCaixaOperar::EncerrarVenda() {
-  if (CodigoDoCliente() != 0) {
-    frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(CodigoDoCliente(),
+  if (caixaDoCliente_.CodigoDoCliente() != 0) {
+    frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(caixaDoCliente_.CodigoDoCliente(),
                                                               frame::kDesbloquear);
   }
   std::int16_t falha = 0;
@@ -82,7 +82,8 @@ std::int16_t frmCaixaOperar::MontarExibirFormulario_Caixa_Pagar() {
     pagar.LucroEmPercentual(resultadoDaVenda.LucroEmPercentual);
     ponto = 4;
     Currency credito;
-    if (!frame::RetornarCreditoDoCliente(CodigoDoCliente(), credito)) credito = Currency();
+    if (!frame::RetornarCreditoDoCliente(caixaDoCliente_.CodigoDoCliente(), credito))
+      credito = Currency();
     pagar.CreditoDoCliente(credito);
     ponto = 5;
     const frame::FundoEscuro fundo;

@@ -22,7 +22,7 @@ std::int16_t frmCaixaOperar::PreencherGradeComServicosEfetuadosEProdutosReservad
         }
         ponto = 2;
         const base::RecordSetPtr itens = preVenda->ResultadoDaSelecaoEmRecordSet();
-        const bool aindaEmAtendimento = CodigoDoCliente() == codigo;
+        const bool aindaEmAtendimento = caixaDoCliente_.CodigoDoCliente() == codigo;
         if (itens->RecordCount() == 0 || !aindaEmAtendimento) return;
         {
           const frame::SemRedesenho semRedesenho(msfgGrade);

@@ -1,3 +1,5 @@
+#include <optional>
+
 #include "base/Text.h"
 #include "frame/CamposNumericos.h"
 #include "frame/Consultas.h"
@@ -17,12 +19,14 @@ namespace sale {
 using frame::Ponto;
 using frame::Procedimento;
 using lookup::frmPesquisa;
+using lookup::ItemEncontrado;
 using lookup::Selecao;
 using platform::ZVFind;
 
 namespace {
 
 constexpr std::size_t kMenosDigitos = 13, kMaisDigitos = 14;
+constexpr char kInicioDeBalanca = '2';
 
 /// A code field as the searches take it: 0 when it is empty.
 double CodigoDe(const ZVFind& campo) {
@@ -67,12 +71,14 @@ void frmCaixaOperar::zvfCodigoDeBarrasDoProduto_Click() {
     ponto = 3;
     zvfNomeDoProduto.Text = "";
     zvfCodigoInternoDoProduto.Text = "";
-    const bool daBalanca = EhDeBalanca(codigo);
+    const bool daBalanca = codigo.starts_with(kInicioDeBalanca);
+    double codigoInterno = 0;
     if (daBalanca) {
       zvfCodigoInternoDoProduto.Status = ZVFind::kFound;
       zvfCodigoInternoDoProduto.Text = CodigoInternoDaBalanca(codigo);
+      codigoInterno = base::ToDouble(zvfCodigoInternoDoProduto.Text());
     }
-    if (!PesquisarProduto("", codigo, CodigoDe(zvfCodigoInternoDoProduto))) {
+    if (!PesquisarProduto("", codigo, codigoInterno)) {
       if (SemCliente()) return;
       // Nothing of the item found before stays behind: neither its price nor its quantity can be
       // added.
@@ -161,6 +167,7 @@ Selecao frmCaixaOperar::SelecionarProdutos(const std::string& nome,
     return {};
   }
   encontrados->MoveFirst();
+  if (encontrados->RecordCount() == 1) return {encontrados, {}};
   return {encontrados, frmPesquisa::AvisoDaSelecao(*produtos, *encontrados)};
 }
 
@@ -171,11 +178,15 @@ bool frmCaixaOperar::PesquisarProduto(const std::string& nome, const std::string
     const Selecao produtos = SelecionarProdutos(nome, codigoDeBarras, codigoInterno);
     if (!produtos.registros) return;
     ponto = 2;
-    const auto produto = lookup::EscolherProduto(produtos);
+    const std::optional<ItemEncontrado> produto = produtos.registros->RecordCount() == 1
+                                                      ? lookup::ProdutoDe(*produtos.registros)
+                                                      : lookup::EscolherProduto(produtos);
     if (!produto) return;
     ponto = 3;
     item_.Receber(*produto);
     HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(true);
+    zvnumQuantidade.Text = "1,000";
+    zvnumValorUnitario.Text = produto->valorDeVenda;
     encontrado = true;
   });
   return encontrado;
@@ -205,12 +216,19 @@ bool frmCaixaOperar::PesquisarServico(std::int16_t tipo, const std::string& nome
       return;
     }
     ponto = 4;
-    const auto servico = lookup::EscolherServico(
-        {encontrados, frmPesquisa::AvisoDaSelecao(*catalogo, *encontrados)}, zvcmbTiposDeServicos);
+    encontrados->MoveFirst();
+    const std::optional<ItemEncontrado> servico =
+        encontrados->RecordCount() == 1
+            ? lookup::ServicoDe(*encontrados)
+            : lookup::EscolherServico(
+                  {encontrados, frmPesquisa::AvisoDaSelecao(*catalogo, *encontrados)},
+                  zvcmbTiposDeServicos);
     if (!servico) return;
     ponto = 5;
     item_.Receber(*servico);
     HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(true);
+    zvnumQuantidade.Text = "1";
+    zvnumValorUnitario.Text = servico->valorDeVenda;
     RecuperaDescontoDoCliente();
     if (zvcmbAnimal.Enabled()) {
       zvcmbAnimal.SetFocus();

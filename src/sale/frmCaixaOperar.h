@@ -17,18 +17,16 @@
 namespace registers {
 struct Movimento;
 }
-
 namespace lookup {
 class frmPesquisa;
 struct Selecao;
-}
+}  // namespace lookup
 
 namespace sale {
 
-/// The sale counter: the operator's one long-lived screen, inside a window of the host. It knows
-/// the selected register and its state, takes a customer, rings up the lines and hands the sale to
-/// payment. Its controls stand in TelaDoBalcao, its state in the components at the end; here are
-/// the events and the order of their steps.
+/// The sale counter: the operator's one long-lived screen, inside a window of the host. It takes a
+/// customer, rings up the lines and hands the sale to payment. Its controls stand in TelaDoBalcao,
+/// its state in the components at the end; here are the events and the order of their steps.
 class frmCaixaOperar final : public TelaDoBalcao {
  public:
   frmCaixaOperar();
@@ -36,7 +34,6 @@ class frmCaixaOperar final : public TelaDoBalcao {
 
   /// Starts the screen inside a window of the host.
   void MontarExibirFormulario(platform::WindowHandle conteiner);
-
   // What other screens and the host may ask. A failure flag of 1 means that the operator was told.
   void Grade_Configurar(std::int16_t& falha);
   void Grade_Classificar(std::int16_t coluna, bool alternar, std::int16_t& falha);
@@ -106,7 +103,6 @@ class frmCaixaOperar final : public TelaDoBalcao {
   void zvfCodigoDoCliente_Click();
   void AceitarCliente(platform::ZVFind& campo);
   void PreencherComboboxAnimal(double codigo, std::int16_t& falha);
-  double CodigoDoCliente() const;
   /// Nobody to sell to: neither kind of item is open.
   bool SemCliente() const { return !optServico.Enabled() && !optProduto.Enabled(); }
 
@@ -133,18 +129,15 @@ class frmCaixaOperar final : public TelaDoBalcao {
   lookup::Selecao SelecionarProdutos(const std::string& nome, const std::string& codigoDeBarras,
                                      double codigoInterno);
 
-  // Lines (Linhas.cpp, Alteracao.cpp, Validacao.cpp).
+  // Lines (Linhas.cpp, Alteracao.cpp).
   void zvcmdAdicionar_Click();
   bool ConfirmarRepetida(const NovaLinha& linha);
   void zvcmdAlterar_Click();
   void zvcmdRemover_Click();
   std::int16_t Registros_Alterar();
   std::int16_t ValidarCamposDaGrade();
-  std::int16_t ValidarItem();
   std::int16_t ValidarValores();
   std::int16_t ValidarCampos();
-  std::int16_t RecusarSemCliente();
-  void RestaurarRotulos();
   /// True while the grid holds at least one line; otherwise it has exactly one data row, blank.
   bool GradeComItens() const { return !frame::SomenteLinhaEmBranco(msfgGrade); }
   void msfgGrade_MouseDown(platform::MouseButton botao);
