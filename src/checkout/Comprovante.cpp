@@ -19,6 +19,7 @@ namespace checkout {
 
 using base::Currency;
 using frame::Ponto;
+using enum servicos::pagamento::Codigo;
 using frame::valores;
 
 namespace {
@@ -61,7 +62,7 @@ Recebimento LerRecebimento(const base::GradeLida& pagamentos) {
     const std::string& valor = pagamentos.TextMatrix(linha, kColunaValor);
     const Currency quantia = base::ToCurrency(valor);
     ++formas;
-    if (frame::CodigoDaForma(forma) == frame::kACredito) {
+    if (frame::CodigoDaForma(forma) == kACredito) {
       recebimento.aReceber += quantia;
       continue;
     }
@@ -160,7 +161,7 @@ void frmCaixaPagar::ImprimirNotasPromissorias(frame::Espera& espera) {
   if (!valores().ImprimirNotaPromissoria) return;
   for (std::int32_t linha = 1; linha < msfgGrade.Rows(); ++linha) {
     const std::string& forma = msfgGrade.TextMatrix(linha, kColunaForma);
-    if (frame::CodigoDaForma(forma) != frame::kACredito) continue;
+    if (frame::CodigoDaForma(forma) != kACredito) continue;
     Imprimir(espera, valores().SolicitarConfirmacaoParaImprimirNotaPromissoria,
              "Deseja imprimir a nota promissória?", [&] { ImprimirNotaPromissoria(linha); });
   }

@@ -1,22 +1,15 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 
 #include "frame/Grade.h"
+#include "frame/servicos/Pagamento.h"
 
 namespace checkout {
 
-/// The columns of the tender grid, which the services read as it stands. A tender's text begins
-/// with its code; the due date is "__/__/____" where there is none; the last column is the
-/// service's.
-enum ColunaDePagamento : std::int32_t {
-  kColunaForma = 0,
-  kColunaValor = 1,
-  kColunaVencimento = 2,
-  kColunaNumeroDoLancamento = 3,
-};
+using enum servicos::pagamento::Coluna;
 
+/// The columns of the tender grid, which the services read as it stands.
 inline constexpr std::array<frame::Coluna, 4> kColunasDePagamento{{
     {.titulo = "Forma de pagamento", .largura = 4200},
     {.titulo = "Valor",

@@ -3,11 +3,10 @@
 #include <cstdint>
 
 #include "base/Text.h"
+#include "frame/servicos/LinhaDeVenda.h"
 
 namespace checkout {
 namespace {
-
-constexpr std::int32_t kColunaNomeDoAnimal = 4;
 
 /// Calls `novo(nome, lista)` for each line whose animal the list, as it stands by then, does not
 /// yet contain. A line without an animal has the empty name: it is new to an empty list and known
@@ -16,7 +15,7 @@ template <class Novo>
 std::string ListarAnimais(const base::GradeLida& itens, Novo novo) {
   std::string lista;
   for (std::int32_t linha = 1; linha < itens.Rows(); ++linha) {
-    const std::string& nome = itens.TextMatrix(linha, kColunaNomeDoAnimal);
+    const std::string& nome = itens.TextMatrix(linha, servicos::linha::kNomeDoAnimal);
     if (!base::Contains(base::Upper(lista), base::Upper(nome))) novo(nome, lista);
   }
   return lista;

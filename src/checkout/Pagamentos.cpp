@@ -15,6 +15,7 @@ namespace checkout {
 using base::Currency;
 using frame::LerCurrency;
 using frame::Ponto;
+using enum servicos::pagamento::Codigo;
 
 void frmCaixaPagar::zvcmbFormaDePagamento_Click() {
   frame::Procedimento(
@@ -24,7 +25,7 @@ void frmCaixaPagar::zvcmbFormaDePagamento_Click() {
         const std::int32_t codigo =
             zvcmbFormaDePagamento.ItemData(zvcmbFormaDePagamento.ListIndex());
         ponto = 2;
-        if (codigo == frame::kCreditoDoCliente) {
+        if (codigo == kCreditoDoCliente) {
           const bool cobre = LerCurrency(zvnumCreditoDoCliente) >= saldo;
           zvnumValor.Text = cobre ? zvtxtSaldoDevedorOuTroco.Text() : zvnumCreditoDoCliente.Text();
         } else if (saldo > Currency()) {
@@ -42,8 +43,7 @@ void frmCaixaPagar::zvcmbFormaDePagamento_Click() {
 void frmCaixaPagar::zvcmbFormaDePagamento_LostFocus() {
   frame::Procedimento(", frmCaixaPagar, zvcmbFormaDePagamento_LostFocus, Ponto: ", [&](Ponto&) {
     if (frame::TomarSupressaoDePesquisa()) return;
-    ExibirOcultarDataDeVencimento(frame::CodigoDaForma(zvcmbFormaDePagamento.Text()) ==
-                                  frame::kACredito);
+    ExibirOcultarDataDeVencimento(frame::CodigoDaForma(zvcmbFormaDePagamento.Text()) == kACredito);
   });
 }
 
@@ -77,10 +77,10 @@ void frmCaixaPagar::zvcmdAdicionar_Click() {
     ponto = 3;
     const std::string forma = zvcmbFormaDePagamento.Text();
     const std::int16_t codigo = frame::CodigoDaForma(forma);
-    if (codigo == frame::kACredito && !PermitirVendaACredito(valor)) return;
+    if (codigo == kACredito && !PermitirVendaACredito(valor)) return;
     ponto = 4;
     // The credit is spoken for at once: a tender refused further down does not give it back.
-    if (codigo == frame::kCreditoDoCliente && !UsarCreditoDoCliente(valor)) return;
+    if (codigo == kCreditoDoCliente && !UsarCreditoDoCliente(valor)) return;
     ponto = 5;
     if (zvdtpDataDeVencimento.Visible() && ValidarData(zvdtpDataDeVencimento.Text()) == 1) {
       zvdtpDataDeVencimento.SetFocus();

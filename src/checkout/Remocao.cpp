@@ -11,6 +11,7 @@ using base::Currency;
 using frame::LerCurrency;
 using frame::LerDouble;
 using frame::Ponto;
+using enum servicos::pagamento::Codigo;
 
 void frmCaixaPagar::zvcmdRemover_Click() {
   frame::Procedimento(", frmCaixaPagar, zvcmdRemover_Click, Ponto: ", [&](Ponto& ponto) {
@@ -29,7 +30,7 @@ void frmCaixaPagar::zvcmdRemover_Click() {
     if (pago > venda) RetirarDoCreditoParaOCliente(base::Abs(unica ? venda - valor : valor));
     ponto = 3;
     const std::string& forma = msfgGrade.TextMatrix(linha, kColunaForma);
-    if (frame::CodigoDaForma(forma) == frame::kCreditoDoCliente) {
+    if (frame::CodigoDaForma(forma) == kCreditoDoCliente) {
       zvnumCreditoDoCliente.Text = base::FormatMoney(LerCurrency(zvnumCreditoDoCliente) + valor);
     }
     ponto = 4;
@@ -82,8 +83,7 @@ void frmCaixaPagar::zvcmdAlterar_Click() {
     zvcmdRemover_Click();
     zvcmbFormaDePagamento.SetFocus();
     // Already now, so that no button moves from under the mouse when the combo is left.
-    ExibirOcultarDataDeVencimento(frame::CodigoDaForma(zvcmbFormaDePagamento.Text()) ==
-                                  frame::kACredito);
+    ExibirOcultarDataDeVencimento(frame::CodigoDaForma(zvcmbFormaDePagamento.Text()) == kACredito);
   });
 }
 

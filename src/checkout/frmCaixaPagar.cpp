@@ -1,5 +1,7 @@
 #include "checkout/frmCaixaPagar.h"
 
+#include <algorithm>
+
 #include "base/Numbers.h"
 #include "checkout/GradeDePagamentos.h"
 #include "frame/CampoDeValor.h"
@@ -14,6 +16,14 @@ namespace checkout {
 
 using base::Currency;
 using frame::Ponto;
+
+// What is offered here is what the services know.
+static_assert(std::ranges::equal(frame::kFormasDePagamento, servicos::pagamento::kFormas,
+                                 [](const frame::FormaDePagamento& oferecida,
+                                    const servicos::pagamento::Forma& conhecida) {
+                                   return oferecida.codigo == conhecida.codigo &&
+                                          oferecida.texto == conhecida.texto;
+                                 }));
 
 frmCaixaPagar::frmCaixaPagar() : Form("frmCaixaPagar") {
   cancelButton = &zvcmdCancelar;

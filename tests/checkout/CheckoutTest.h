@@ -12,6 +12,7 @@
 #include "checkout/frmCaixaPagar.h"
 #include "frame/FormasDePagamento.h"
 #include "frame/Mensagens.h"
+#include "frame/servicos/LinhaDeVenda.h"
 #include "platform/Screens.h"
 #include "support/ModuleServices.h"
 #include "support/Table.h"
@@ -29,12 +30,14 @@ class Lines final : public base::GradeLida {
   explicit Lines(std::vector<Line> lines) : lines_(std::move(lines)) {}
 
   std::int32_t Rows() const override { return static_cast<std::int32_t>(lines_.size()) + 1; }
-  std::int32_t Cols() const override { return 20; }
+  std::int32_t Cols() const override { return servicos::linha::kColunas; }
   const std::string& TextMatrix(std::int32_t row, std::int32_t col) const override {
     static const std::string kEmpty;
     if (row == 0) return kEmpty;
     const Line& line = lines_.at(static_cast<std::size_t>(row) - 1);
-    return col == 4 ? line.animal : col == 19 ? line.kind : kEmpty;
+    return col == servicos::linha::kNomeDoAnimal             ? line.animal
+           : col == servicos::linha::kColunaTipoDeLancamento ? line.kind
+                                                             : kEmpty;
   }
 
  private:
