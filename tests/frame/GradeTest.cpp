@@ -34,9 +34,9 @@ class Grade : public testing::Test {
   Grade() {
     tela.Show();
     grade.Rows(1);
-    grade.AddItem("10\tbeto\t31/12/2025\tx");
-    grade.AddItem("9\tÁgata\t01/01/2026\tx");
-    grade.AddItem("100\tana\t01/02/2025\tx");
+    grade.AddItem("10\tbeto\t31/01/2026\tx");
+    grade.AddItem("9\tÁgata\t02/03/2026\tx");
+    grade.AddItem("100\tana\t15/02/2025\tx");
   }
   /// Sorts, then tells the column of names, and the picture and the mode in force.
   std::string Sorted(std::int16_t column, bool turn) {
@@ -86,8 +86,8 @@ TEST_F(Grade, SortsByTheKindOfItsColumn) {
     EXPECT_EQ(Sorted(each.column, each.turn), each.result) << each.column;
     EXPECT_EQ(Selection(), "1: 1,0 to 1,4");
   }
-  EXPECT_EQ(grade.TextMatrix(1, 2), "01/01/2026") << "the date that is read stays";
-  EXPECT_EQ(grade.TextMatrix(1, 4), "20260101");
+  EXPECT_EQ(grade.TextMatrix(1, 2), "02/03/2026") << "the date that is read stays";
+  EXPECT_EQ(grade.TextMatrix(1, 4), "20260302");
 }
 
 TEST_F(Grade, IsRedrawnOnceForAStretchThatHoldsOthers) {

@@ -162,6 +162,9 @@ TEST_P(SaleTest, ASaleOfNothingNeedsNoTender) {
 
 TEST_P(SaleTest, PreSaleLinesAreSettledOnceOnly) {
   LeavePreSale();
+  Write("INSERT INTO clientes (codigo, apelido, nome, nome_busca) VALUES (6, 'Lia', 'Lia', 'lia')");
+  const NewSale toSomebodyElse({.lines = Grid({PreSaleLine("100,00", 41)}), .customer = "6"});
+  EXPECT_EQ(servicos::kRecusa, toSomebodyElse->RegistrarPagamento());
   const Sale sale{.lines = Grid({PreSaleLine("50,00", 41), ProductLine("50,00")})};
   const auto number = Register(sale);
   EXPECT_EQ(std::to_string(number), Read("SELECT numero_da_venda FROM pre_vendas"));
