@@ -6,8 +6,8 @@
 #include "checkout/frmCaixaPagar.h"
 #include "counter/Cases.h"
 #include "fiscal/frmCaixaInformarCPFCNPJ.h"
-#include "frame/FormasDePagamento.h"
 #include "frame/Grade.h"
+#include "frame/servicos/Pagamento.h"
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
 #include "platform/Input.h"
 #include "platform/Screens.h"
@@ -86,8 +86,8 @@ double SecondsToBuild(support::Module& module, const Sale& sale) {
   form.ValorLiquido(sale.total);
   form.GradeDeItensDaVendas(sale.grid);
   module.desktop.Then([&] {
-    Pay(form, frame::kCartaoDeCredito, "100");
-    Pay(form, frame::kDinheiro, base::ToText(sale.total - base::ToCurrency(100)));
+    Pay(form, servicos::pagamento::kCartaoDeCredito, "100");
+    Pay(form, servicos::pagamento::kDinheiro, base::ToText(sale.total - base::ToCurrency(100)));
     module.desktop.Then([&] {
       Form* const question = platform::screens::Modal();
       if (question == nullptr) throw std::runtime_error("nobody asks for the document");

@@ -5,10 +5,10 @@
 #include "checkout/frmCaixaPagar.h"
 #include "frame/CamposNumericos.h"
 #include "frame/Empresa.h"
-#include "frame/FormasDePagamento.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
 #include "frame/Valores.h"
+#include "frame/servicos/Pagamento.h"
 #include "frame/servicos/ZOVA_A_RelFin.clsRelFin.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
 #include "platform/Desktop.h"
@@ -62,7 +62,7 @@ Recebimento LerRecebimento(const base::GradeLida& pagamentos) {
     const std::string& valor = pagamentos.TextMatrix(linha, kColunaValor);
     const Currency quantia = base::ToCurrency(valor);
     ++formas;
-    if (frame::CodigoDaForma(forma) == kACredito) {
+    if (servicos::pagamento::CodigoDa(forma) == kACredito) {
       recebimento.aReceber += quantia;
       continue;
     }
@@ -161,7 +161,7 @@ void frmCaixaPagar::ImprimirNotasPromissorias(frame::Espera& espera) {
   if (!valores().ImprimirNotaPromissoria) return;
   for (std::int32_t linha = 1; linha < msfgGrade.Rows(); ++linha) {
     const std::string& forma = msfgGrade.TextMatrix(linha, kColunaForma);
-    if (frame::CodigoDaForma(forma) != kACredito) continue;
+    if (servicos::pagamento::CodigoDa(forma) != kACredito) continue;
     Imprimir(espera, valores().SolicitarConfirmacaoParaImprimirNotaPromissoria,
              "Deseja imprimir a nota promissória?", [&] { ImprimirNotaPromissoria(linha); });
   }

@@ -4,9 +4,11 @@
 #include "checkout/frmCaixaPagar.h"
 #include "fiscal/Registros.h"
 #include "fiscal/frmCaixaInformarCPFCNPJ.h"
-#include "frame/FormasDePagamento.h"
 #include "frame/Mensagens.h"
 #include "frame/Valores.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/LinhaDeVenda.h"
+#include "frame/servicos/Pagamento.h"
 #include "platform/Desktop.h"
 
 // The fiscal coupon of a sale comes before its registration, so that its key is stored with it.
@@ -18,18 +20,10 @@ using frame::valores;
 
 namespace {
 
-/// The columns of the sale's lines that a coupon is made from; the kind of line is the last one.
-enum ColunaDeItem : std::int32_t {
-  kCodigoInterno = 1,
-  kQuantidade = 7,
-  kValorUnitario = 8,
-  kDescontoEmValor = 10,
-  kValorTotal = 11,
-};
-
 bool EhProduto(const base::GradeLida& itens, std::int32_t linha) {
-  constexpr double kProduto = 2;
-  return base::Val(itens.TextMatrix(linha, itens.Cols() - 1)) == kProduto;
+  constexpr double kProduto = std::int32_t{servicos::kProduto};
+  return base::Val(itens.TextMatrix(linha, servicos::linha::ColunaDoTipoDeLancamento(itens))) ==
+         kProduto;
 }
 
 /// Whether a line of the sale is a product; services alone never need a fiscal document.
@@ -99,6 +93,7 @@ bool frmCaixaPagar::ImprimirCFeSAT(frame::Espera& espera) {
 
 /// Adds the records of this sale to those of earlier tries, and gives what its products come to.
 Currency frmCaixaPagar::MontarRegistrosSAT() {
+  using enum servicos::linha::Coluna;
   const base::GradeLida& itens = *venda_.GradeDeItensDaVendas;
   Currency totalDeProdutos;
   int sequencia = 0;
@@ -108,7 +103,7 @@ Currency frmCaixaPagar::MontarRegistrosSAT() {
       return itens.TextMatrix(linha, coluna);
     };
     totalDeProdutos += base::ToCurrency(celula(kValorTotal));
-    MontarRegistroDeItensDeProdutosSAT(base::ToText(++sequencia), celula(kCodigoInterno),
+    MontarRegistroDeItensDeProdutosSAT(base::ToText(++sequencia), celula(kCodigo),
                                        celula(kQuantidade), celula(kValorUnitario),
                                        celula(kDescontoEmValor), celula(kValorTotal));
   }
@@ -118,9 +113,10 @@ Currency frmCaixaPagar::MontarRegistrosSAT() {
       return msfgGrade.TextMatrix(linha, coluna);
     };
     if (celula(kColunaForma).empty()) continue;
-    MontarRegistroDeFormasDePagamentosSAT(
-        base::ToText(++sequencia), frame::CodigoDaForma(celula(kColunaForma)), celula(kColunaValor),
-        celula(kColunaVencimento), celula(kColunaNumeroDoLancamento), totalDeProdutos);
+    MontarRegistroDeFormasDePagamentosSAT(base::ToText(++sequencia),
+                                          servicos::pagamento::CodigoDa(celula(kColunaForma)),
+                                          celula(kColunaValor), celula(kColunaVencimento),
+                                          celula(kColunaNumeroDoLancamento), totalDeProdutos);
   }
   return totalDeProdutos;
 }

@@ -3,11 +3,11 @@
 #include "checkout/frmCaixaPagar.h"
 #include "consent/Autorizar.h"
 #include "frame/CamposNumericos.h"
-#include "frame/FormasDePagamento.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
 #include "frame/Valores.h"
 #include "frame/modFuncoes.h"
+#include "frame/servicos/Pagamento.h"
 #include "platform/Desktop.h"
 
 namespace checkout {
@@ -43,7 +43,8 @@ void frmCaixaPagar::zvcmbFormaDePagamento_Click() {
 void frmCaixaPagar::zvcmbFormaDePagamento_LostFocus() {
   frame::Procedimento(", frmCaixaPagar, zvcmbFormaDePagamento_LostFocus, Ponto: ", [&](Ponto&) {
     if (frame::TomarSupressaoDePesquisa()) return;
-    ExibirOcultarDataDeVencimento(frame::CodigoDaForma(zvcmbFormaDePagamento.Text()) == kACredito);
+    ExibirOcultarDataDeVencimento(servicos::pagamento::CodigoDa(zvcmbFormaDePagamento.Text()) ==
+                                  kACredito);
   });
 }
 
@@ -76,7 +77,7 @@ void frmCaixaPagar::zvcmdAdicionar_Click() {
     }
     ponto = 3;
     const std::string forma = zvcmbFormaDePagamento.Text();
-    const std::int16_t codigo = frame::CodigoDaForma(forma);
+    const std::int16_t codigo = servicos::pagamento::CodigoDa(forma);
     if (codigo == kACredito && !PermitirVendaACredito(valor)) return;
     ponto = 4;
     // The credit is spoken for at once: a tender refused further down does not give it back.
@@ -139,7 +140,8 @@ bool frmCaixaPagar::UsarCreditoDoCliente(Currency valor) {
 
 bool frmCaixaPagar::FormaJaEstaNaGrade(std::int16_t codigo) const {
   for (std::int32_t linha = 1; linha < msfgGrade.Rows(); ++linha) {
-    if (frame::CodigoDaForma(msfgGrade.TextMatrix(linha, kColunaForma)) == codigo) return true;
+    if (servicos::pagamento::CodigoDa(msfgGrade.TextMatrix(linha, kColunaForma)) == codigo)
+      return true;
   }
   return false;
 }

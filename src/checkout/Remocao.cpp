@@ -1,9 +1,9 @@
 #include "checkout/GradeDePagamentos.h"
 #include "checkout/frmCaixaPagar.h"
 #include "frame/CamposNumericos.h"
-#include "frame/FormasDePagamento.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
+#include "frame/servicos/Pagamento.h"
 
 namespace checkout {
 
@@ -30,7 +30,7 @@ void frmCaixaPagar::zvcmdRemover_Click() {
     if (pago > venda) RetirarDoCreditoParaOCliente(base::Abs(unica ? venda - valor : valor));
     ponto = 3;
     const std::string& forma = msfgGrade.TextMatrix(linha, kColunaForma);
-    if (frame::CodigoDaForma(forma) == kCreditoDoCliente) {
+    if (servicos::pagamento::CodigoDa(forma) == kCreditoDoCliente) {
       zvnumCreditoDoCliente.Text = base::FormatMoney(LerCurrency(zvnumCreditoDoCliente) + valor);
     }
     ponto = 4;
@@ -83,7 +83,8 @@ void frmCaixaPagar::zvcmdAlterar_Click() {
     zvcmdRemover_Click();
     zvcmbFormaDePagamento.SetFocus();
     // Already now, so that no button moves from under the mouse when the combo is left.
-    ExibirOcultarDataDeVencimento(frame::CodigoDaForma(zvcmbFormaDePagamento.Text()) == kACredito);
+    ExibirOcultarDataDeVencimento(servicos::pagamento::CodigoDa(zvcmbFormaDePagamento.Text()) ==
+                                  kACredito);
   });
 }
 

@@ -1,7 +1,5 @@
 #include "checkout/frmCaixaPagar.h"
 
-#include <algorithm>
-
 #include "base/Numbers.h"
 #include "checkout/GradeDePagamentos.h"
 #include "frame/CampoDeValor.h"
@@ -16,14 +14,6 @@ namespace checkout {
 
 using base::Currency;
 using frame::Ponto;
-
-// What is offered here is what the services know.
-static_assert(std::ranges::equal(frame::kFormasDePagamento, servicos::pagamento::kFormas,
-                                 [](const frame::FormaDePagamento& oferecida,
-                                    const servicos::pagamento::Forma& conhecida) {
-                                   return oferecida.codigo == conhecida.codigo &&
-                                          oferecida.texto == conhecida.texto;
-                                 }));
 
 frmCaixaPagar::frmCaixaPagar() : Form("frmCaixaPagar") {
   cancelButton = &zvcmdCancelar;
@@ -155,7 +145,8 @@ void frmCaixaPagar::PreencherzvcmbFormaDePagamento(std::int16_t& falha) {
   frame::Procedimento(", frmFichaCompleta, PreencherzvcmbFormaDePagamento, Ponto: ", [&](Ponto&) {
     const frame::SupressaoDePesquisa supressao;
     const bool temCredito = !frame::LerCurrency(zvnumCreditoDoCliente).IsZero();
-    frame::OferecerFormasDePagamento(zvcmbFormaDePagamento, frame::kFormasDePagamento, temCredito);
+    frame::OferecerFormasDePagamento(zvcmbFormaDePagamento, servicos::pagamento::kFormas,
+                                     temCredito);
     falha = 0;
   });
 }

@@ -33,10 +33,12 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "frame/FormasDePagamento.h"
+#include "frame/servicos/Pagamento.h"
 
 namespace fiscal {
 namespace {
+
+using enum servicos::pagamento::Codigo;
 
 constexpr std::string_view kFim = "|\r\n";
 constexpr std::string_view kTresDecimais = "00000000.000";
@@ -54,14 +56,14 @@ struct MeioDePagamento {
 };
 
 constexpr std::array<MeioDePagamento, 8> kMeiosDePagamento{{
-    {frame::kDinheiro, "01", Grupo::kAVista},
-    {frame::kCheque, "02", Grupo::kAPrazo},
-    {frame::kCartaoDeCredito, "03", Grupo::kCartao, "10"},
-    {frame::kCartaoDeDebito, "03", Grupo::kCartao, "20"},
-    {frame::kBoleto, "08", Grupo::kAPrazo},
-    {frame::kACredito, "10", Grupo::kAPrazo},
-    {frame::kCreditoDoCliente, "10", Grupo::kAPrazo},
-    {frame::kPix, "17", Grupo::kAVista},
+    {kDinheiro, "01", Grupo::kAVista},
+    {kCheque, "02", Grupo::kAPrazo},
+    {kCartaoDeCredito, "03", Grupo::kCartao, "10"},
+    {kCartaoDeDebito, "03", Grupo::kCartao, "20"},
+    {kBoleto, "08", Grupo::kAPrazo},
+    {kACredito, "10", Grupo::kAPrazo},
+    {kCreditoDoCliente, "10", Grupo::kAPrazo},
+    {kPix, "17", Grupo::kAVista},
 }};
 
 template <class... Textos>

@@ -37,7 +37,7 @@ struct Item {
 /// A tender, with what its share in the coupon is reckoned from. Texts are those of the cells.
 struct Pagamento {
   std::string_view sequencia;
-  std::int16_t forma = 0;  ///< The tender's code, frame::CodigoDeForma.
+  std::int16_t forma = 0;  ///< servicos::pagamento::Codigo.
   std::string_view valor;
   std::string_view vencimento;    ///< A date dd/mm/yyyy; any other text stands for `hoje`.
   std::string_view valorDaVenda;  ///< What the whole sale comes to, services included.

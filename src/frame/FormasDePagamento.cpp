@@ -1,19 +1,14 @@
 #include "frame/FormasDePagamento.h"
 
-#include "base/Numbers.h"
-#include "base/Text.h"
-
 namespace frame {
 
-std::int16_t CodigoDaForma(std::string_view texto) {
-  return base::ToInt16(base::Val(base::Left(texto, 1)));
-}
+using servicos::pagamento::Forma;
 
-void OferecerFormasDePagamento(platform::ZVComboBox& combo,
-                               std::span<const FormaDePagamento> formas, bool clienteTemCredito) {
+void OferecerFormasDePagamento(platform::ZVComboBox& combo, std::span<const Forma> formas,
+                               bool clienteTemCredito) {
   combo.Clear();
-  for (const FormaDePagamento& forma : formas) {
-    if (forma.codigo == kCreditoDoCliente && !clienteTemCredito) continue;
+  for (const Forma& forma : formas) {
+    if (forma.codigo == servicos::pagamento::kCreditoDoCliente && !clienteTemCredito) continue;
     combo.AddItem(forma.texto, forma.codigo);
   }
   combo.ListIndex = -1;

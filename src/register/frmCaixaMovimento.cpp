@@ -3,12 +3,13 @@
 #include "consent/Autorizar.h"
 #include "frame/CampoDeValor.h"
 #include "frame/CamposNumericos.h"
-#include "frame/FormasDePagamento.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/Procedimento.h"
 #include "frame/Valores.h"
 #include "frame/modArredondarCantosDoObjeto.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/Pagamento.h"
 #include "platform/Desktop.h"
 #include "platform/Layout.h"
 
@@ -131,14 +132,14 @@ void frmCaixaMovimento::Registrar() {
   caixa->NumeroDoCaixa(frame::valores().NumeroDoCaixa);
   caixa->LocalDeAtendimentoDoCaixa(frame::valores().LocalDeAtendimentoDoCaixa);
   if (!movimento_.descricao.empty()) caixa->Descricao(movimento_.descricao);
-  caixa->MOEDA(frame::kDinheiro);
+  caixa->MOEDA(servicos::pagamento::kDinheiro);
   if (movimento_.valorNegado) {
     caixa->ValorDoLancamento(frame::LerDouble(zvnumValorEmDinheiro) * -1.0);
   } else {
     caixa->ValorDoLancamento(zvnumValorEmDinheiro.Text());
   }
   caixa->Operador(base::ToText(frame::CampoDaSessao("NomeDeUsuario")));
-  caixa->Situacao("F");
+  caixa->Situacao(servicos::kEfetuada);
   caixa->Observacao(zvtxtObservacao.Text());
   caixa->DadosDoUsuario(frame::valores().DadosDoUsuario);
   caixa->GradeDeItensDaVenda(nullptr);

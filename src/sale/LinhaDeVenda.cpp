@@ -12,11 +12,11 @@ std::int32_t Inteiro(const std::string& texto) {
 }  // namespace
 
 std::int32_t TipoDeVendaDa(const base::GradeLida& grade, std::int32_t linha) {
-  return Inteiro(grade.TextMatrix(linha, grade.Cols() - 2));
+  return Inteiro(grade.TextMatrix(linha, servicos::linha::ColunaDoTipoDeVenda(grade)));
 }
 
 std::int32_t TipoDeLancamentoDa(const base::GradeLida& grade, std::int32_t linha) {
-  return Inteiro(grade.TextMatrix(linha, grade.Cols() - 1));
+  return Inteiro(grade.TextMatrix(linha, servicos::linha::ColunaDoTipoDeLancamento(grade)));
 }
 
 bool EhClinicoOuCirurgico(const base::GradeLida& grade, std::int32_t linha) {

@@ -112,7 +112,7 @@ void EscreverClientes(Session& session, base::DateTime agora) {
       if (!name.empty()) animals.push_back({animals.size() + 1, code, name});
     }
     if (const std::int32_t credit = Of(kCredits, code, 0); credit != 0) {
-      credits.push_back({code, agora, std::int32_t{kDinheiro}, credit * kReal, "marina",
+      credits.push_back({code, agora, std::int32_t{pagamento::kDinheiro}, credit * kReal, "marina",
                          "Saldo trazido do sistema anterior"});
     }
   }

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "services/Banco.h"
+#include "services/CodigosNoSql.h"
 #include "services/DatabaseError.h"
 #include "services/Integridade.h"
 #include "services/Session.h"
@@ -18,8 +19,9 @@ enum class Of { kMoney, kCount };
 /// not farther apart than the column t.
 struct Rule {
   Of what;
-  const char* selection;  ///< With {wide} for a number that products of amounts fit into.
-  const char* sentence;   ///< With {n}, {a} and {b}.
+  const char*
+      selection;  ///< With {wide} for a number that products of amounts fit into, and ComCodigos.
+  const char* sentence;  ///< With {n}, {a} and {b}.
   const char* tolerance = "0";
 };
 
@@ -55,17 +57,20 @@ constexpr Rule kRules[] = {
      "Venda {n}: há {a} vendas com o número de operação dela."},
     {Of::kCount,
      "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN lancamentos_de_caixa l"
-     " ON l.numero_da_venda = v.numero WHERE l.tipo IN (5, 6) AND l.operacao <> v.operacao"
+     " ON l.numero_da_venda = v.numero WHERE l.tipo IN ({recebimento}, {troco}) AND l.operacao <> "
+     "v.operacao"
      " AND v.operacao <> -4611686018427387904 - v.numero GROUP BY v.numero",
      "Venda {n}: {a} lançamentos têm outro número de operação."},
     {Of::kCount,
      "SELECT numero_da_venda AS n, count(*) AS a, 0 AS b FROM itens_de_venda"
-     " WHERE tipo_de_lancamento NOT IN (1, 2) OR tipo_de_venda NOT IN (1, 2)"
+     " WHERE tipo_de_lancamento NOT IN ({servico}, {produto}) OR tipo_de_venda NOT IN ({balcao}, "
+     "{preVenda})"
      " GROUP BY numero_da_venda",
      "Venda {n}: {a} itens são de um tipo que não existe."},
     {Of::kCount,
      "SELECT numero_do_caixa AS n, count(*) AS a, 0 AS b FROM lancamentos_de_caixa"
-     " WHERE tipo NOT BETWEEN 1 AND 6 OR moeda NOT BETWEEN 1 AND 8 GROUP BY numero_do_caixa",
+     " WHERE tipo NOT IN ({qualquerMovimento}) OR moeda NOT IN ({qualquerMoeda}) GROUP BY "
+     "numero_do_caixa",
      "Caixa {n}: {a} lançamentos são de um tipo ou uma moeda que não existe."},
     {Of::kCount,
      "SELECT min(numero_do_caixa) AS n, count(*) AS a, 1 AS b FROM lancamentos_de_caixa"
@@ -73,7 +78,8 @@ constexpr Rule kRules[] = {
      "Caixa {n}: há {a} lançamentos com o mesmo número de operação."},
     {Of::kCount,
      "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN lancamentos_de_caixa l"
-     " ON l.numero_da_venda = v.numero WHERE l.tipo IN (5, 6) AND (l.data_e_hora <> v.data_e_hora"
+     " ON l.numero_da_venda = v.numero WHERE l.tipo IN ({recebimento}, {troco}) AND (l.data_e_hora "
+     "<> v.data_e_hora"
      " OR l.numero_do_caixa <> v.numero_do_caixa OR l.operador <> v.operador) GROUP BY v.numero",
      "Venda {n}: {a} lançamentos não são do caixa, do operador ou da hora dela."},
     {Of::kCount,
@@ -93,13 +99,13 @@ constexpr Rule kRules[] = {
     {Of::kMoney,
      "SELECT v.numero AS n, coalesce(l.soma, 0) AS a, v.total_recebido AS b FROM vendas v"
      " LEFT JOIN (SELECT numero_da_venda, CAST(sum(valor) AS bigint) AS soma"
-     " FROM lancamentos_de_caixa WHERE tipo = 5 GROUP BY numero_da_venda) l"
+     " FROM lancamentos_de_caixa WHERE tipo = {recebimento} GROUP BY numero_da_venda) l"
      " ON l.numero_da_venda = v.numero",
      "Venda {n}: os recebimentos lançados somam {a}, e o total recebido é {b}."},
     {Of::kMoney,
      "SELECT v.numero AS n, coalesce(l.soma, 0) AS a, -v.troco AS b FROM vendas v"
      " LEFT JOIN (SELECT numero_da_venda, CAST(sum(valor) AS bigint) AS soma"
-     " FROM lancamentos_de_caixa WHERE tipo = 6 GROUP BY numero_da_venda) l"
+     " FROM lancamentos_de_caixa WHERE tipo = {troco} GROUP BY numero_da_venda) l"
      " ON l.numero_da_venda = v.numero",
      "Venda {n}: o troco lançado é {a}, e deveria ser {b}."},
     {Of::kMoney,
@@ -107,7 +113,8 @@ constexpr Rule kRules[] = {
      " LEFT JOIN (SELECT numero_da_venda, CAST(sum(valor_do_documento) AS bigint) AS soma"
      " FROM contas_a_receber GROUP BY numero_da_venda) r ON r.numero_da_venda = v.numero"
      " LEFT JOIN (SELECT numero_da_venda, CAST(sum(valor) AS bigint) AS soma"
-     " FROM lancamentos_de_caixa WHERE tipo = 5 AND moeda = 6 GROUP BY numero_da_venda) l"
+     " FROM lancamentos_de_caixa WHERE tipo = {recebimento} AND moeda = {aCredito} GROUP BY "
+     "numero_da_venda) l"
      " ON l.numero_da_venda = v.numero",
      "Venda {n}: as contas a receber somam {a}, e o pagamento a crédito (fiado) é {b}."},
     {Of::kMoney,
@@ -128,7 +135,7 @@ constexpr Rule kRules[] = {
     {Of::kMoney,
      "SELECT x.numero AS n, x.dinheiro AS a, coalesce(l.soma, 0) AS b FROM caixas x"
      " LEFT JOIN (SELECT numero_do_caixa, CAST(sum(valor) AS bigint) AS soma"
-     " FROM lancamentos_de_caixa WHERE moeda = 1 GROUP BY numero_do_caixa) l"
+     " FROM lancamentos_de_caixa WHERE moeda = {dinheiro} GROUP BY numero_do_caixa) l"
      " ON l.numero_do_caixa = x.numero",
      "Caixa {n}: o dinheiro na gaveta é {a}, e os lançamentos somam {b}."},
     {Of::kMoney,
@@ -152,8 +159,9 @@ const std::deque<Statement>& Breaches() {
   static const auto statements = [] {
     std::deque<Statement> all;
     for (const Rule& rule : kRules) {
-      const std::string breaches = "SELECT n, a, b FROM (" + std::string(rule.selection) +
-                                   ") r WHERE abs(a - b) > " + rule.tolerance + " ORDER BY n";
+      const std::string breaches =
+          ComCodigos("SELECT n, a, b FROM (" + std::string(rule.selection) +
+                     ") r WHERE abs(a - b) > " + rule.tolerance + " ORDER BY n");
       all.emplace_back(base::Replace(breaches, "{wide}", "double precision"),
                        base::Replace(breaches, "{wide}", "numeric"));
     }

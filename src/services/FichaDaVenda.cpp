@@ -27,7 +27,7 @@ void LerLancamentos(Session& session, FichaDaVenda& ficha) {
       "SELECT tipo, moeda, valor FROM lancamentos_de_caixa WHERE numero_da_venda = $1"
       " ORDER BY numero");
   session.Select(entries, {ficha.venda.numero}, [&](const Row& row) {
-    ficha.lancamentos.push_back({.tipo = static_cast<TipoDeLancamento>(row.Number(0)),
+    ficha.lancamentos.push_back({.tipo = static_cast<servicos::TipoDeMovimento>(row.Number(0)),
                                  .moeda = row.Number(1),
                                  .valor = row.Money(2)});
   });

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "services/Lancamento.h"
+#include "frame/servicos/Codigos.h"
 #include "services/VendasRegistradas.h"
 
 namespace services {
@@ -10,7 +10,7 @@ namespace services {
 /// Everything that one sale left in the database.
 struct FichaDaVenda {
   struct Lancamento {
-    TipoDeLancamento tipo{};
+    servicos::TipoDeMovimento tipo{};
     std::int32_t moeda = 0;
     base::Currency valor;  ///< Negative for what left the register.
   };

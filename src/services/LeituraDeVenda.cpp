@@ -6,16 +6,17 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/LinhaDeVenda.h"
 #include "services/Outcome.h"
 #include "services/Search.h"
-#include "services/VendasRegistradas.h"
 
 namespace services {
 namespace {
 
 using base::Currency;
 
-constexpr std::int32_t kColumnsOfALine = 20;
+using enum servicos::linha::Coluna;
 
 [[noreturn]] void Refuse(std::string sentence) {
   throw Refusal{.sentence = std::move(sentence)};
@@ -66,10 +67,11 @@ class LineCells {
     return static_cast<std::int32_t>(whole);
   }
 
-  /// 1 or 2.
-  std::int32_t Kind(std::int32_t column, const char* name) const {
+  /// One of two kinds.
+  std::int32_t Kind(std::int32_t column, const char* name, std::int32_t one,
+                    std::int32_t other) const {
     const std::int32_t kind = Whole(column, name);
-    if (kind != 1 && kind != 2) RefuseCell(Text(column), name);
+    if (kind != one && kind != other) RefuseCell(Text(column), name);
     return kind;
   }
 
@@ -82,7 +84,7 @@ class LineCells {
 
  private:
   [[noreturn]] void RefuseCell(const std::string& text, const char* name) const {
-    Refuse("O item " + std::to_string(row_) + " da venda ('" + Text(2) + "') tem '" + text +
+    Refuse("O item " + std::to_string(row_) + " da venda ('" + Text(kNome) + "') tem '" + text +
            "' em " + name +
            ", que não é um valor aceito. Remova o item, inclua-o de novo e refaça o pagamento.");
   }
@@ -91,36 +93,37 @@ class LineCells {
   std::int32_t row_;
 };
 
-/// The counter writes the name padded to 100 characters, with the commission behind it.
+/// Without the commission behind it.
 std::string NameOfEmployee(const std::string& cell) {
-  constexpr std::size_t kWidth = 100;
-  return base::Trim(base::Left(cell, kWidth));
+  return base::Trim(base::Left(cell, servicos::linha::kLarguraDoNome));
 }
 
-Venda::Item ReadItem(const LineCells& cells, std::int32_t columns) {
+Venda::Item ReadItem(const base::GradeLida& grid, const LineCells& cells) {
   Venda::Item item;
-  item.tipoDeVenda = cells.Kind(columns - 2, "tipo de venda");
-  item.tipoDeLancamento = cells.Kind(columns - 1, "tipo de lançamento");
-  const bool isService = item.tipoDeLancamento == 1;
-  if (isService) item.tipoDeServico = cells.Whole(0, "tipo de serviço");
-  if (!isService) item.codigoDeBarras = cells.Text(0);
-  item.codigo = cells.Whole(1, "código");
-  item.nome = cells.Text(2);
-  item.codigoDoAnimal = cells.Whole(3, "código do animal");
-  item.nomeDoAnimal = cells.Text(4);
-  item.codigoDoFuncionario = cells.Whole(5, "código do funcionário");
-  item.nomeDoFuncionario = NameOfEmployee(cells.Text(6));
-  item.quantidade = cells.NotNegative(7, "quantidade");
-  item.valorUnitario = cells.NotNegative(8, "valor unitário");
-  item.descontoEmPercentual = Abs(cells.Money(9, "percentual de desconto"));
-  item.descontoEmValor = Abs(cells.Cents(10, "valor de desconto"));
-  item.valorTotal = cells.Cents(11, "valor total");
-  item.custo = cells.Money(12, "custo");
-  item.percentualDeComissao = cells.Money(13, "percentual de comissão");
-  item.valorDaComissao = cells.Cents(14, "valor da comissão");
-  item.numeroDeLancamento = cells.Whole(15, "número do lançamento");
-  item.unidade = cells.Text(16);
-  item.numeroDaVendaCancelada = cells.Whole(17, "número da venda cancelada");
+  item.tipoDeVenda = cells.Kind(servicos::linha::ColunaDoTipoDeVenda(grid), "tipo de venda",
+                                servicos::kVendaDeBalcao, servicos::kPreVenda);
+  item.tipoDeLancamento = cells.Kind(servicos::linha::ColunaDoTipoDeLancamento(grid),
+                                     "tipo de lançamento", servicos::kServico, servicos::kProduto);
+  const bool isService = item.tipoDeLancamento == servicos::kServico;
+  if (isService) item.tipoDeServico = cells.Whole(kTipoOuCodigoDeBarras, "tipo de serviço");
+  if (!isService) item.codigoDeBarras = cells.Text(kTipoOuCodigoDeBarras);
+  item.codigo = cells.Whole(kCodigo, "código");
+  item.nome = cells.Text(kNome);
+  item.codigoDoAnimal = cells.Whole(kCodigoDoAnimal, "código do animal");
+  item.nomeDoAnimal = cells.Text(kNomeDoAnimal);
+  item.codigoDoFuncionario = cells.Whole(kCodigoDoFuncionario, "código do funcionário");
+  item.nomeDoFuncionario = NameOfEmployee(cells.Text(kNomeDoFuncionario));
+  item.quantidade = cells.NotNegative(kQuantidade, "quantidade");
+  item.valorUnitario = cells.NotNegative(kValorUnitario, "valor unitário");
+  item.descontoEmPercentual = Abs(cells.Money(kDescontoEmPercentual, "percentual de desconto"));
+  item.descontoEmValor = Abs(cells.Cents(kDescontoEmValor, "valor de desconto"));
+  item.valorTotal = cells.Cents(kValorTotal, "valor total");
+  item.custo = cells.Money(kCusto, "custo");
+  item.percentualDeComissao = cells.Money(kPercentualDeComissao, "percentual de comissão");
+  item.valorDaComissao = cells.Cents(kValorDaComissao, "valor da comissão");
+  item.numeroDeLancamento = cells.Whole(kNumeroDeLancamento, "número do lançamento");
+  item.unidade = cells.Text(kUnidade);
+  item.numeroDaVendaCancelada = cells.Whole(kNumeroDaVendaCancelada, "número da venda cancelada");
   return item;
 }
 
@@ -150,15 +153,15 @@ base::DateTime ReadDueDate(const std::string& cell) {
 Venda::Recebimento ReadTender(const std::string& method, const std::string& value,
                               const std::string& dueDate) {
   Venda::Recebimento tender;
-  tender.moeda = method.front() - '0';
-  if (tender.moeda < kDinheiro || tender.moeda > kUltimaMoeda) {
+  tender.moeda = pagamento::CodigoDa(method);
+  if (!pagamento::Existe(tender.moeda)) {
     Refuse("A forma de pagamento '" + method + "' não é conhecida. Refaça o pagamento.");
   }
   tender.valor = LerValor(value, "o valor de " + method);
   if (tender.valor < Currency()) {
     Refuse("O valor de " + method + " não pode ser negativo. Refaça o pagamento.");
   }
-  if (tender.moeda == kACredito) tender.vencimento = ReadDueDate(dueDate);
+  if (tender.moeda == pagamento::kACredito) tender.vencimento = ReadDueDate(dueDate);
   return tender;
 }
 
@@ -172,8 +175,8 @@ std::string HowToPayAgain(const Venda& venda) {
   std::string words = "Nada foi registrado: refaça o pagamento";
   const Venda::Recebimento& last = venda.recebimentos.back();
   if (venda.totalRecebido - last.valor >= venda.valorLiquido && !last.valor.IsZero()) {
-    words += " sem " + NomeDaMoeda(last.moeda) + " de " + base::FormatMoney(last.valor) +
-             ", que não é preciso,";
+    words += " sem " + std::string(pagamento::NomeDa(last.moeda)) + " de " +
+             base::FormatMoney(last.valor) + ", que não é preciso,";
   }
   return words + " e digite o troco uma só vez, depois da última forma.";
 }
@@ -195,7 +198,7 @@ void CheckChange(const Venda& venda, Currency reported) {
 }  // namespace
 
 std::vector<Venda::Item> LerItens(const base::GradeLida* grade) {
-  if (grade != nullptr && grade->Cols() < kColumnsOfALine) {
+  if (grade != nullptr && grade->Cols() < servicos::linha::kColunas) {
     Refuse("A lista de itens da venda está incompleta. Limpe os campos e refaça a venda.");
   }
   std::vector<Venda::Item> items;
@@ -203,7 +206,7 @@ std::vector<Venda::Item> LerItens(const base::GradeLida* grade) {
   for (std::int32_t row = 1; grade != nullptr && row < grade->Rows(); ++row) {
     const LineCells cells(*grade, row);
     if (cells.IsBlank()) continue;
-    items.push_back(ReadItem(cells, grade->Cols()));
+    items.push_back(ReadItem(*grade, cells));
     const std::int32_t preSale = items.back().numeroDeLancamento;
     if (preSale != 0 && !preSales.insert(preSale).second) {
       Refuse("O item de pré-venda '" + items.back().nome + "' (lançamento " +
@@ -217,16 +220,15 @@ std::vector<Venda::Item> LerItens(const base::GradeLida* grade) {
 }
 
 std::vector<Venda::Recebimento> LerRecebimentos(const base::GradeLida* grade) {
-  constexpr std::int32_t kColumns = 3;
   std::vector<Venda::Recebimento> tenders;
   for (std::int32_t row = 1; grade != nullptr && row < grade->Rows(); ++row) {
-    if (grade->Cols() < kColumns)
-      Refuse(
-          "A lista de pagamentos está incompleta. Refaça o "
-          "pagamento.");
-    const std::string method = base::Trim(grade->TextMatrix(row, 0));
+    if (grade->Cols() <= pagamento::kColunaVencimento) {
+      Refuse("A lista de pagamentos está incompleta. Refaça o pagamento.");
+    }
+    const std::string method = base::Trim(grade->TextMatrix(row, pagamento::kColunaForma));
     if (method.empty()) continue;
-    tenders.push_back(ReadTender(method, grade->TextMatrix(row, 1), grade->TextMatrix(row, 2)));
+    tenders.push_back(ReadTender(method, grade->TextMatrix(row, pagamento::kColunaValor),
+                                 grade->TextMatrix(row, pagamento::kColunaVencimento)));
   }
   return tenders;
 }
@@ -240,7 +242,7 @@ void FecharContas(Venda& venda, Currency troco) {
   }
   try {
     for (const Venda::Recebimento& tender : venda.recebimentos) venda.totalRecebido += tender.valor;
-    venda.creditoUsado = venda.RecebidoEm(kCreditoDoCliente);
+    venda.creditoUsado = venda.RecebidoEm(pagamento::kCreditoDoCliente);
     venda.troco = venda.totalRecebido - venda.valorLiquido - venda.creditoMantido;
   } catch (const base::RuntimeError&) {
     Refuse("Os valores da venda ultrapassam o limite que o caixa registra. Confira os valores.");

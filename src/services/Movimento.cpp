@@ -6,17 +6,16 @@
 #include "services/Outcome.h"
 #include "services/Registros.h"
 #include "services/Session.h"
-#include "services/Venda.h"
 
 namespace services {
 namespace {
 
-bool NeedsOpenRegister(TipoDeLancamento tipo) {
-  return tipo != TipoDeLancamento::kAbertura;
+bool NeedsOpenRegister(servicos::TipoDeMovimento tipo) {
+  return tipo != servicos::kAbertura;
 }
 
-bool LeavesRegisterOpen(TipoDeLancamento tipo) {
-  return tipo != TipoDeLancamento::kFechamento;
+bool LeavesRegisterOpen(servicos::TipoDeMovimento tipo) {
+  return tipo != servicos::kFechamento;
 }
 
 /// Throws the refusal for what the register's row would not let happen; returns when nothing is in
@@ -34,11 +33,10 @@ void Explain(Session& session, const Movimento& movement) {
 }
 
 Params RowOf(const Movimento& movement) {
-  return {movement.operacao,  movement.numeroDoCaixa,
-          movement.quando,    static_cast<std::int32_t>(movement.tipo),
-          movement.moeda,     movement.valor,
-          movement.descricao, movement.operador,
-          movement.situacao,  movement.observacao};
+  return {movement.operacao,           movement.numeroDoCaixa, movement.quando,
+          std::int32_t{movement.tipo}, movement.moeda,         movement.valor,
+          movement.descricao,          movement.operador,      movement.situacao,
+          movement.observacao};
 }
 
 void Write(Session& session, const Movimento& movement, Transaction& transaction) {
@@ -51,7 +49,8 @@ void Write(Session& session, const Movimento& movement, Transaction& transaction
       " VALUES ($1, $2, $3, $4, $5, $6, $7, $8, $9, $10)");
   static const Statement proof(
       "SELECT 1 FROM lancamentos_de_caixa WHERE operacao = $1 AND numero_da_venda IS NULL");
-  const base::Currency cash = movement.moeda == kDinheiro ? movement.valor : base::Currency();
+  const base::Currency cash =
+      movement.moeda == servicos::pagamento::kDinheiro ? movement.valor : base::Currency();
   if (session.Run(move, {movement.numeroDoCaixa, LeavesRegisterOpen(movement.tipo), cash,
                          NeedsOpenRegister(movement.tipo)}) == 0) {
     Explain(session, movement);
@@ -67,14 +66,14 @@ Registro Told(const Movimento& movement) {
   const std::string value = base::FormatMoney(base::Abs(movement.valor));
   Registro told{.oQue = "", .quando = movement.quando, .conteudo = {}};
   switch (movement.tipo) {
-    case TipoDeLancamento::kAbertura:
+    case servicos::kAbertura:
       told.oQue = "abertura do " + drawer + " com " + value;
       break;
-    case TipoDeLancamento::kFechamento:
+    case servicos::kFechamento:
       told.oQue = "fechamento do " + drawer + " com retirada de " + value;
       told.artigo = 'o';
       break;
-    case TipoDeLancamento::kSaida:
+    case servicos::kSaida:
       told.oQue = "saída de " + value + " do " + drawer;
       break;
     default:

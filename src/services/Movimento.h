@@ -5,8 +5,9 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/Pagamento.h"
 #include "services/Banco.h"
-#include "services/Lancamento.h"
 
 namespace services {
 
@@ -14,9 +15,9 @@ namespace services {
 struct Movimento {
   std::int64_t operacao = 0;  ///< Tells this attempt from every other one.
   base::DateTime quando;
-  TipoDeLancamento tipo = TipoDeLancamento::kEntrada;
+  servicos::TipoDeMovimento tipo = servicos::kEntrada;
   std::int32_t numeroDoCaixa = 0;
-  std::int32_t moeda = 1;
+  std::int32_t moeda = servicos::pagamento::kDinheiro;
   base::Currency valor;  ///< Negative when the money leaves the drawer.
   std::string descricao, operador, situacao, observacao;
 };

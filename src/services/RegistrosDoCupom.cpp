@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/servicos/Codigos.h"
 #include "services/Venda.h"
 
 namespace services {
@@ -74,12 +75,11 @@ RegistrosDoCupom LerRegistrosDoCupom(std::string_view cabecalho, std::string_vie
 }
 
 bool SaoOsProdutosDe(const std::string& conteudo, const Venda& venda) {
-  constexpr std::int32_t kProduto = 2;
   constexpr std::int32_t kCodigos = 1'000'000;  // A code keeps its last six digits.
   const std::vector<Campos> itens = Itens(conteudo);
   auto item = itens.begin();
   for (const Venda::Item& vendido : venda.itens) {
-    if (vendido.tipoDeLancamento != kProduto) continue;
+    if (vendido.tipoDeLancamento != servicos::kProduto) continue;
     if (item == itens.end() || Inteiro(Campo(*item, kCodigo)) != vendido.codigo % kCodigos ||
         Valor(Campo(*item, kValorTotal)) != vendido.valorTotal) {
       return false;

@@ -2,12 +2,10 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "services/Lancamento.h"
+#include "frame/servicos/Codigos.h"
 
 namespace services {
 namespace {
-
-constexpr std::string_view kFechada = "F";
 
 constexpr Coluna kVenda[] = {
     {"operacao", "bigint"},
@@ -103,17 +101,16 @@ constexpr Coluna kLancamentos[] = {
 
 std::vector<Params> Lancamentos(const Venda& venda) {
   std::vector<Params> rows;
-  const auto add = [&](TipoDeLancamento tipo, std::int32_t moeda, base::Currency valor,
+  const auto add = [&](servicos::TipoDeMovimento tipo, std::int32_t moeda, base::Currency valor,
                        const char* descricao) {
-    rows.push_back({venda.operacao, venda.numeroDoCaixa, venda.quando,
-                    static_cast<std::int32_t>(tipo), moeda, valor, descricao, venda.operador,
-                    kFechada, venda.observacao});
+    rows.push_back({venda.operacao, venda.numeroDoCaixa, venda.quando, std::int32_t{tipo}, moeda,
+                    valor, descricao, venda.operador, servicos::kEfetuada, venda.observacao});
   };
   for (const Venda::Recebimento& tender : venda.recebimentos) {
-    add(TipoDeLancamento::kRecebimento, tender.moeda, tender.valor, "Venda");
+    add(servicos::kRecebimento, tender.moeda, tender.valor, "Venda");
   }
   if (!venda.troco.IsZero()) {
-    add(TipoDeLancamento::kTroco, kDinheiro, -venda.troco, "Troco de venda");
+    add(servicos::kTroco, pagamento::kDinheiro, -venda.troco, "Troco de venda");
   }
   return rows;
 }
@@ -146,7 +143,7 @@ std::string Historico(const Venda& venda) {
 
 std::vector<Params> Contas(const Venda& venda) {
   std::vector<Params> rows;
-  const base::Currency aCredito = venda.RecebidoEm(kACredito);
+  const base::Currency aCredito = venda.RecebidoEm(pagamento::kACredito);
   if (aCredito.IsZero()) return rows;
   const base::Currency aVista =
       aCredito < venda.valorLiquido ? venda.valorLiquido - aCredito : base::Currency();
@@ -181,8 +178,8 @@ std::vector<Params> Creditos(const Venda& venda) {
     if (valor.IsZero()) return;
     rows.push_back({venda.codigoDoCliente, venda.quando, moeda, valor, venda.operador, what});
   };
-  add(kCreditoDoCliente, -venda.creditoUsado, "Crédito usado em venda");
-  add(kDinheiro, venda.creditoMantido, "Troco de venda deixado como crédito");
+  add(pagamento::kCreditoDoCliente, -venda.creditoUsado, "Crédito usado em venda");
+  add(pagamento::kDinheiro, venda.creditoMantido, "Troco de venda deixado como crédito");
   return rows;
 }
 
@@ -209,7 +206,7 @@ Params LinhaDaVenda(const Venda& venda) {
           venda.creditoUsado,  venda.creditoMantido,
           venda.custo,         venda.comissao,
           venda.lucroEmValor,  venda.lucroEmPercentual,
-          venda.itens.size(),  kFechada,
+          venda.itens.size(),  servicos::kEfetuada,
           venda.observacao,    venda.chaveSat};
 }
 

@@ -7,17 +7,17 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "frame/servicos/Pagamento.h"
 
 namespace services {
 
-/// The codes of the tenders that the books treat in ways of their own.
-enum Moeda : std::int32_t { kDinheiro = 1, kACredito = 6, kCreditoDoCliente = 7, kUltimaMoeda = 8 };
+namespace pagamento = servicos::pagamento;
 
 /// A sale as it is written: read from what the checkout hands over, with every amount settled.
 struct Venda {
   struct Item {
-    std::int32_t tipoDeLancamento = 0;  ///< 1 a service, 2 a product.
-    std::int32_t tipoDeVenda = 0;       ///< 1 rung up at the counter, 2 a pre-sale line.
+    std::int32_t tipoDeLancamento = 0;  ///< servicos::TipoDeLancamento.
+    std::int32_t tipoDeVenda = 0;       ///< servicos::TipoDeVenda.
     std::int32_t tipoDeServico = 0;     ///< 0 for a product.
     std::string codigoDeBarras;
     std::int32_t codigo = 0;
@@ -51,7 +51,7 @@ struct Venda {
   base::Currency creditoAnterior;
   std::string observacao, chaveSat;
   bool alemDoLimite = false;  ///< Who sells may let the customer owe more than his limit.
-  std::int32_t cupom = 0;  ///< That it was to have, by its number in `cupons`; 0 for none.
+  std::int32_t cupom = 0;     ///< That it was to have, by its number in `cupons`; 0 for none.
   std::vector<Item> itens;
   std::vector<Recebimento> recebimentos;
 
@@ -71,10 +71,10 @@ struct Venda {
   }
   /// What the limit of the customer's credit has to cover.
   base::Currency SujeitoAoLimite() const {
-    return alemDoLimite ? base::Currency() : RecebidoEm(kACredito);
+    return alemDoLimite ? base::Currency() : RecebidoEm(pagamento::kACredito);
   }
   /// By how much the money in the drawer grows.
-  base::Currency VariacaoDoDinheiro() const { return RecebidoEm(kDinheiro) - troco; }
+  base::Currency VariacaoDoDinheiro() const { return RecebidoEm(pagamento::kDinheiro) - troco; }
   std::vector<std::int32_t> PreVendas() const {
     std::vector<std::int32_t> numbers;
     for (const Item& item : itens) {

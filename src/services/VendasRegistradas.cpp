@@ -1,18 +1,12 @@
 #include "services/VendasRegistradas.h"
 
-#include <iterator>
-
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/Pagamento.h"
 #include "services/Banco.h"
-#include "services/Lancamento.h"
 #include "services/Session.h"
-#include "services/Venda.h"
 
 namespace services {
 namespace {
-
-constexpr const char* kMoedas[] = {"Dinheiro",           "Cheque", "Cartão de crédito",
-                                   "Cartão de débito",   "Boleto", "A crédito (Fiado)",
-                                   "Crédito do cliente", "PIX"};
 
 void AddItems(Session& session, VendaRegistrada& sale) {
   static const Statement select(
@@ -36,7 +30,7 @@ void AddTenders(Session& session, VendaRegistrada& sale) {
       " ORDER BY numero");
   static const Statement dueDates(
       "SELECT data_de_vencimento FROM contas_a_receber WHERE numero_da_venda = $1 ORDER BY numero");
-  const auto tender = static_cast<std::int32_t>(TipoDeLancamento::kRecebimento);
+  const auto tender = std::int32_t{servicos::kRecebimento};
   session.Select(tenders, {sale.numero, tender}, [&](const Row& row) {
     sale.recebimentos.push_back({.moeda = row.Number(0), .valor = row.Money(1), .vencimento = ""});
   });
@@ -46,7 +40,8 @@ void AddTenders(Session& session, VendaRegistrada& sale) {
   });
   auto next = due.begin();
   for (VendaRegistrada::Recebimento& each : sale.recebimentos) {
-    if (each.moeda == kACredito && next != due.end()) each.vencimento = *next++;
+    if (each.moeda == servicos::pagamento::kACredito && next != due.end())
+      each.vencimento = *next++;
   }
 }
 
@@ -95,11 +90,6 @@ std::optional<VendaRegistrada> LerVenda(Banco& banco, std::int32_t numero) {
   static const Statement one(SelectSales("WHERE numero = $1"));
   const auto sales = ReadSales(banco.Sessao(), one, {numero});
   return sales.empty() ? std::nullopt : std::optional(sales.front());
-}
-
-std::string NomeDaMoeda(std::int32_t codigo) {
-  const auto count = static_cast<std::int32_t>(std::size(kMoedas));
-  return codigo >= 1 && codigo <= count ? kMoedas[codigo - 1] : "";
 }
 
 }  // namespace services

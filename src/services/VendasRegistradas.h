@@ -30,7 +30,7 @@ struct VendaRegistrada {
     bool preVenda = false;
   };
   struct Recebimento {
-    std::int32_t moeda = 0;  ///< 1 cash to 8 PIX.
+    std::int32_t moeda = 0;  ///< servicos::pagamento::Codigo.
     base::Currency valor;
     std::string vencimento;  ///< dd/mm/yyyy for a sale on credit, else empty.
   };
@@ -61,8 +61,5 @@ std::vector<std::string> Conferir(Banco& banco);
 /// The rule by which the log of an SQLite database is brought into its file, in a Portuguese
 /// sentence; empty for PostgreSQL.
 std::string RegraDoLog(Banco& banco);
-
-/// The name of a tender by its code, as in "Cartão de crédito"; empty for no such code.
-std::string NomeDaMoeda(std::int32_t codigo);
 
 }  // namespace services

@@ -91,7 +91,7 @@ class clsCaixa : public SobreBanco<Contrato> {
 
   std::int16_t RegistrarAbertura() override {
     return Numerado("RegistrarAbertura", [this] {
-      Mover(TipoDeLancamento::kAbertura, "Abertura", Entrando(Sinal::kPodeSerZero));
+      Mover(servicos::kAbertura, "Abertura", Entrando(Sinal::kPodeSerZero));
     });
   }
   std::int16_t RegistrarFechamento() override {
@@ -102,18 +102,16 @@ class clsCaixa : public SobreBanco<Contrato> {
                           "O valor retirado no fechamento deve ser negativo ou zero. "
                           "Informe o valor de novo."};
       }
-      Mover(TipoDeLancamento::kFechamento, "Fechamento", valor);
+      Mover(servicos::kFechamento, "Fechamento", valor);
     });
   }
   std::int16_t RegistrarEntrada() override {
-    return Numerado("RegistrarEntrada", [this] {
-      Mover(TipoDeLancamento::kEntrada, "Entrada", Entrando(Sinal::kPositivo));
-    });
+    return Numerado("RegistrarEntrada",
+                    [this] { Mover(servicos::kEntrada, "Entrada", Entrando(Sinal::kPositivo)); });
   }
   std::int16_t RegistrarSaida() override {
-    return Numerado("RegistrarSaida", [this] {
-      Mover(TipoDeLancamento::kSaida, "Saída", -Entrando(Sinal::kPositivo));
-    });
+    return Numerado("RegistrarSaida",
+                    [this] { Mover(servicos::kSaida, "Saída", -Entrando(Sinal::kPositivo)); });
   }
 
   std::int16_t RegistrarPagamento() override {
@@ -159,21 +157,21 @@ class clsCaixa : public SobreBanco<Contrato> {
     venda.recebimentos = LerRecebimentos(pagamentos_);
     ExigirCentavos(venda);
     FecharContas(venda, troco_);
-    venda.alemDoLimite = !venda.RecebidoEm(kACredito).IsZero() && EAdministrador();
+    venda.alemDoLimite = !venda.RecebidoEm(pagamento::kACredito).IsZero() && EAdministrador();
     venda.quando = banco().Agora();
     venda.operacao = NumeroUnico();
     venda.cupom = CupomDaVenda(banco(), venda);
     numeroDaVenda_ = RegistrarVenda(banco(), venda);
   }
 
-  void Mover(TipoDeLancamento tipo, const char* descricao, base::Currency valor) {
+  void Mover(servicos::TipoDeMovimento tipo, const char* descricao, base::Currency valor) {
     Movimento movimento = movimento_;
     movimento.tipo = tipo;
     movimento.valor = valor;
     movimento.quando = banco().Agora();
     movimento.operacao = NumeroUnico();
     if (movimento.descricao.empty()) movimento.descricao = descricao;
-    if (movimento.moeda < kDinheiro || movimento.moeda > kUltimaMoeda) {
+    if (!pagamento::Existe(movimento.moeda)) {
       throw Refusal{.sentence = "A forma de pagamento " + std::to_string(movimento.moeda) +
                                 " não é conhecida. Refaça o lançamento."};
     }

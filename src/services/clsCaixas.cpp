@@ -1,4 +1,5 @@
 #include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
+#include "services/CodigosNoSql.h"
 #include "services/Fabricas.h"
 #include "services/Fields.h"
 #include "services/SobreBanco.h"
@@ -12,7 +13,8 @@ using enum Field::Kind;
 constexpr Field kFields[] = {
     {"Numero", kNumber, "numero"},
     {"LocalDeAtendimento", kText, "local_de_atendimento"},
-    {"Status", kNumber, "CASE WHEN ativo = 0 THEN 3 WHEN aberto = 1 THEN 1 ELSE 2 END"},
+    {"Status", kNumber,
+     "CASE WHEN ativo = 0 THEN {foraDeOperacao} WHEN aberto = 1 THEN {aberto} ELSE {fechado} END"},
 };
 
 class clsCaixas : public SobreBanco<Contrato> {
@@ -21,7 +23,8 @@ class clsCaixas : public SobreBanco<Contrato> {
 
   std::int16_t SelecionarParaComboBox() override {
     return Numerado("SelecionarParaComboBox", [this] {
-      static const Statement all("SELECT " + ColumnsOf(kFields) + " FROM caixas ORDER BY numero");
+      static const Statement all(
+          ComCodigos("SELECT " + ColumnsOf(kFields) + " FROM caixas ORDER BY numero"));
       outcome_.rows = SelectRows(sessao(), kFields, all, {}).rows;
     });
   }

@@ -3,9 +3,11 @@
 #include <map>
 
 #include "base/Numbers.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/Pagamento.h"
+#include "services/CodigosNoSql.h"
 #include "services/Fabricas.h"
 #include "services/Fields.h"
-#include "services/Lancamento.h"
 #include "services/Search.h"
 #include "services/SobreBanco.h"
 #include "services/VendasRegistradas.h"
@@ -30,7 +32,7 @@ constexpr Field kSales[] = {
     {"ValorBruto", kMoney, "valor_bruto"},
     {"Descontos", kMoney, "total_de_descontos"},
     {"ValorLiquido", kMoney, "valor_liquido"},
-    {"Situacao", kText, "CASE WHEN situacao = 'C' THEN 'Cancelada' ELSE 'Efetuada' END"},
+    {"Situacao", kText, "CASE WHEN situacao = {cancelada} THEN 'Cancelada' ELSE 'Efetuada' END"},
     {"ChaveSAT", kText, "chave_sat"},
     {kPagamentos, kText, "''"},
     {"DescontoNosItens", kMoney, kDescontoNosItens},
@@ -64,7 +66,7 @@ std::map<std::int32_t, std::string> TendersOf(Session& session, const Params& pe
   };
   std::map<std::int32_t, std::vector<Tender>> tenders;
   Params params = period;
-  params.emplace_back(static_cast<std::int32_t>(TipoDeLancamento::kRecebimento));
+  params.emplace_back(std::int32_t{servicos::kRecebimento});
   session.Select(select, params, [&](const Row& row) {
     tenders[row.Number(0)].push_back({row.Number(1), row.Money(2)});
   });
@@ -73,7 +75,7 @@ std::map<std::int32_t, std::string> TendersOf(Session& session, const Params& pe
     std::string& text = texts[sale];
     for (const Tender& each : list) {
       if (!text.empty()) text += " / ";
-      text += NomeDaMoeda(each.method);
+      text += servicos::pagamento::NomeDa(each.method);
       if (list.size() > 1) text += " " + base::FormatMoney(each.value);
     }
   }
@@ -87,7 +89,7 @@ class clsHistorico : public SobreBanco<Contrato> {
   std::int16_t SelecionarVendas(double codigoDoCliente, base::DateTime de,
                                 base::DateTime ate) override {
     return Numerado("SelecionarVendas", [&] {
-      static const Statement select(SalesOfPeriod(ColumnsOf(kSales)));
+      static const Statement select(ComCodigos(SalesOfPeriod(ColumnsOf(kSales))));
       const Params period{CodeIn(codigoDoCliente).value_or(0), de.Date(), ate.Date().PlusDays(1)};
       const Selected sales = SelectRows(sessao(), kSales, select, period, kMostSales);
       outcome_.rows = WithTenders(*sales.rows, TendersOf(sessao(), period));

@@ -1,5 +1,6 @@
 #include "siblings/dados/clsOrcamentos.h"
 
+#include "services/CodigosNoSql.h"
 #include "services/Fabricas.h"
 #include "services/Fields.h"
 #include "services/Search.h"
@@ -32,7 +33,7 @@ constexpr Field kEstimates[] = {
 
 constexpr Field kItems[] = {
     {"Item", kNumber, "item"},
-    {"Tipo", kText, "CASE WHEN tipo_de_lancamento = 1 THEN 'Serviço' ELSE 'Produto' END"},
+    {"Tipo", kText, "CASE WHEN tipo_de_lancamento = {servico} THEN 'Serviço' ELSE 'Produto' END"},
     {"Codigo", kNumber, "codigo_do_item"},
     {"Nome", kText, "nome_do_item"},
     {"Quantidade", kMoney, "quantidade"},
@@ -78,8 +79,8 @@ class clsOrcamentos : public SobreBanco<Contrato> {
   std::int16_t SelecionarItens(std::int32_t numero) override {
     return Numerado("SelecionarItens", [&] {
       static const Statement select(
-          "SELECT " + ColumnsOf(kItems) +
-          " FROM itens_de_orcamento WHERE numero_do_orcamento = $1 ORDER BY item");
+          ComCodigos("SELECT " + ColumnsOf(kItems) +
+                     " FROM itens_de_orcamento WHERE numero_do_orcamento = $1 ORDER BY item"));
       outcome_.rows = SelectRows(sessao(), kItems, select, {numero}).rows;
     });
   }

@@ -1,5 +1,8 @@
 #include "base/Numbers.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/LinhaDeVenda.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsServicosEProdutos.h"
+#include "services/CodigosNoSql.h"
 #include "services/Fabricas.h"
 #include "services/Fields.h"
 #include "services/Search.h"
@@ -8,6 +11,7 @@
 namespace services {
 namespace {
 
+namespace linha = servicos::linha;
 using Contrato = servicos::ZOVA_N_Caixa::clsServicosEProdutos;
 
 /// How a column of a pre-sale line becomes the text of a cell in the counter's grid.
@@ -20,40 +24,36 @@ enum class Form {
 };
 
 struct Cell {
-  std::string_view name;
   Form form;
   std::string_view column;
 };
 
-/// In the column order of a sale line. The first is the type of a service, the barcode of a
-/// product.
+/// In the order of servicos::linha::Coluna.
 constexpr Cell kCells[] = {
-    {"NumeroDoTipoDeServicoOuCodigoDeBarrasDoProduto", Form::kAsIs,
-     "CASE WHEN tipo_de_lancamento = 1 THEN CAST(tipo_de_servico AS text)"
+    {Form::kAsIs,
+     "CASE WHEN tipo_de_lancamento = {servico} THEN CAST(tipo_de_servico AS text)"
      " ELSE codigo_de_barras END"},
-    {"CodigoDoServicoOuCodigoInternoDoProduto", Form::kAsIs, "codigo_do_item"},
-    {"NomeDoServicoOuNomeDoProduto", Form::kAsIs, "nome_do_item"},
-    {"CodigoDoAnimal", Form::kAsIs, "codigo_do_animal"},
-    {"NomeDoAnimal", Form::kAsIs, "nome_do_animal"},
-    {"CodigoDoFuncionario", Form::kAsIs, "coalesce(codigo_do_funcionario, 0)"},
-    {"NomeDoFuncionario", Form::kAsIs, "nome_do_funcionario"},
-    {"Quantidade", Form::kQuantity, "quantidade"},
-    {"ValorUnitario", Form::kMoney, "valor_unitario"},
-    {"DescontoEmPercentual", Form::kDiscount, "desconto_em_percentual"},
-    {"DescontoEmValor", Form::kDiscount, "desconto_em_valor"},
-    {"ValorTotal", Form::kMoney, "valor_total"},
-    {"Custo", Form::kMoney, "custo"},
-    {"PercentualDeComissaoDoFuncionario", Form::kMoney, "percentual_de_comissao"},
-    {"ValorDaComissaoDoFuncionario", Form::kMoney, "valor_da_comissao"},
-    {"NumeroDeLancamento", Form::kAsIs, "numero"},
-    {"UnidadeDeVendaDoProduto", Form::kAsIs, "unidade"},
-    {"NumeroDaVendaCancelada", Form::kFixed, "0"},
-    {"TipoDeVenda", Form::kFixed, "2"},
-    {"TipoDeLancamento", Form::kAsIs, "tipo_de_lancamento"},
+    {Form::kAsIs, "codigo_do_item"},
+    {Form::kAsIs, "nome_do_item"},
+    {Form::kAsIs, "codigo_do_animal"},
+    {Form::kAsIs, "nome_do_animal"},
+    {Form::kAsIs, "coalesce(codigo_do_funcionario, 0)"},
+    {Form::kAsIs, "nome_do_funcionario"},
+    {Form::kQuantity, "quantidade"},
+    {Form::kMoney, "valor_unitario"},
+    {Form::kDiscount, "desconto_em_percentual"},
+    {Form::kDiscount, "desconto_em_valor"},
+    {Form::kMoney, "valor_total"},
+    {Form::kMoney, "custo"},
+    {Form::kMoney, "percentual_de_comissao"},
+    {Form::kMoney, "valor_da_comissao"},
+    {Form::kAsIs, "numero"},
+    {Form::kAsIs, "unidade"},
+    {Form::kFixed, "0"},
+    {Form::kFixed, "{preVenda}"},
+    {Form::kAsIs, "tipo_de_lancamento"},
 };
-constexpr int kKindColumn = 19;
-constexpr std::int64_t kService = 1;
-constexpr std::int64_t kProduct = 2;
+static_assert(std::size(kCells) == linha::kColunas);
 
 std::string TextOf(const Row& row, int column) {
   const Cell& cell = kCells[column];
@@ -64,7 +64,9 @@ std::string TextOf(const Row& row, int column) {
       return base::FormatMoney(-row.Money(column));
     case Form::kQuantity:
       return base::Format(row.Money(column),
-                          row.Integer(kKindColumn) == kService ? "0" : base::kMoneyMask);
+                          row.Integer(linha::kColunaTipoDeLancamento) == servicos::kServico
+                              ? "0"
+                              : base::kMoneyMask);
     case Form::kAsIs:
     case Form::kFixed:
       return row.Text(column);
@@ -78,7 +80,7 @@ std::string SelectLines() {
     if (!columns.empty()) columns += ", ";
     columns += cell.column;
   }
-  return "SELECT " + columns + " FROM pre_vendas";
+  return ComCodigos("SELECT " + columns + " FROM pre_vendas");
 }
 
 using enum Field::Kind;
@@ -108,9 +110,8 @@ class clsServicosEProdutos : public SobreBanco<Contrato> {
       static const Statement open(
           SelectLines() +
           " WHERE codigo_do_cliente = $1 AND numero_da_venda IS NULL ORDER BY numero");
-      std::vector<std::string> names;
-      for (const Cell& cell : kCells) names.emplace_back(cell.name);
-      const auto rows = std::make_shared<base::RecordSet>(std::move(names));
+      const auto rows = std::make_shared<base::RecordSet>(
+          std::vector<std::string>(linha::kCampos.begin(), linha::kCampos.end()));
       sessao().Select(open, {CodeIn(codigoDoCliente).value_or(0)}, [&](const Row& row) {
         std::vector<base::Value> texts;
         texts.reserve(std::size(kCells));
@@ -124,19 +125,21 @@ class clsServicosEProdutos : public SobreBanco<Contrato> {
   std::int16_t SelecionarServicosEfetuados(std::int16_t, std::int16_t,
                                            std::string_view condicao) override {
     return Numerado("SelecionarServicosEfetuados", [&] {
-      Detalhar(CodeInCondition(condicao, "ServicosEfetuados.NumeroDeLancamento"), kService);
+      Detalhar(CodeInCondition(condicao, "ServicosEfetuados.NumeroDeLancamento"),
+               servicos::kServico);
     });
   }
 
   std::int16_t SelecionarProdutosReservados(std::int16_t, std::int16_t,
                                             std::string_view condicao) override {
     return Numerado("SelecionarProdutosReservados", [&] {
-      Detalhar(CodeInCondition(condicao, "ProdutosReservados.NumeroDeLancamento"), kProduct);
+      Detalhar(CodeInCondition(condicao, "ProdutosReservados.NumeroDeLancamento"),
+               servicos::kProduto);
     });
   }
 
  private:
-  void Detalhar(std::int32_t numero, std::int64_t tipo) {
+  void Detalhar(std::int32_t numero, std::int32_t tipo) {
     static const Statement one("SELECT " + ColumnsOf(kDetails) +
                                " FROM pre_vendas WHERE numero = $1 AND tipo_de_lancamento = $2");
     outcome_.rows = SelectRows(sessao(), kDetails, one, {numero, tipo}).rows;

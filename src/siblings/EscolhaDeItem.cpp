@@ -32,8 +32,8 @@ struct Fonte {
 constexpr Fonte kServicos{"serviço", "Codigo", "", ""};
 constexpr Fonte kProdutos{"produto", "CodigoInterno", "CodigoDeBarras", "UnidadeDeVenda"};
 
-const Fonte& FonteDe(TipoDeItem tipo) {
-  return tipo == TipoDeItem::kServico ? kServicos : kProdutos;
+const Fonte& FonteDe(servicos::TipoDeLancamento tipo) {
+  return tipo == servicos::kServico ? kServicos : kProdutos;
 }
 
 /// No records after a fault, which has been reported.
@@ -45,10 +45,10 @@ lookup::Selecao Resultado(servicos::ServicoDeNegocio& servico, bool falhou) {
   return {servico.ResultadoDaSelecaoEmRecordSet(), servico.DescricaoDaFalha()};
 }
 
-Orcamento::Item ItemDe(const base::RecordSet& registro, TipoDeItem tipo) {
+Orcamento::Item ItemDe(const base::RecordSet& registro, servicos::TipoDeLancamento tipo) {
   const Fonte& fonte = FonteDe(tipo);
   Orcamento::Item item;
-  item.tipoDeLancamento = static_cast<std::int32_t>(tipo);
+  item.tipoDeLancamento = tipo;
   item.codigo = base::ToInt32(registro.Fields(fonte.codigo));
   item.nome = base::ToText(registro.Fields("Nome"));
   if (!fonte.unidade.empty()) item.unidade = base::ToText(registro.Fields(fonte.unidade));
@@ -63,9 +63,9 @@ bool TemOCodigo(const base::RecordSet& registro, const Fonte& fonte, const std::
          base::ToText(registro.Fields(fonte.codigoDeBarras)) == texto;
 }
 
-lookup::Selecao Selecionar(TipoDeItem tipo, const std::string& texto) {
+lookup::Selecao Selecionar(servicos::TipoDeLancamento tipo, const std::string& texto) {
   constexpr std::int32_t kTodosOsTipos = 0;
-  if (tipo == TipoDeItem::kServico) {
+  if (tipo == servicos::kServico) {
     auto catalogo = frame::CriarServicoComSessao<clsServicos>();
     return Resultado(*catalogo, consultas::ServicosDaLista(*catalogo, texto, kTodosOsTipos));
   }
@@ -82,9 +82,9 @@ std::string Escolher(lookup::frmPesquisa& lista, const lookup::Selecao& encontra
   return escolhido;
 }
 
-std::string Escolher(const lookup::Selecao& encontrados, TipoDeItem tipo) {
+std::string Escolher(const lookup::Selecao& encontrados, servicos::TipoDeLancamento tipo) {
   const std::string_view codigo = FonteDe(tipo).codigo;
-  if (tipo == TipoDeItem::kProduto) {
+  if (tipo == servicos::kProduto) {
     lookup::frmPesquisaDeProdutos produtos;
     return Escolher(produtos, encontrados, codigo);
   }
@@ -95,7 +95,7 @@ std::string Escolher(const lookup::Selecao& encontrados, TipoDeItem tipo) {
 
 }  // namespace
 
-std::optional<Orcamento::Item> EscolherItem(platform::Form& tela, TipoDeItem tipo,
+std::optional<Orcamento::Item> EscolherItem(platform::Form& tela, servicos::TipoDeLancamento tipo,
                                             const std::string& texto) {
   const Fonte& fonte = FonteDe(tipo);
   if (base::Length(texto) < kMenorPesquisa && !base::IsNumeric(texto)) {

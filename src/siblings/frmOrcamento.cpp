@@ -120,7 +120,7 @@ void frmOrcamento::zvfItem_Click() {
       return;
     }
     ponto = 2;
-    item_ = EscolherItem(*this, optServico.Value() ? TipoDeItem::kServico : TipoDeItem::kProduto,
+    item_ = EscolherItem(*this, optServico.Value() ? servicos::kServico : servicos::kProduto,
                          base::Trim(zvfItem.Text()));
     if (!item_) {
       zvfItem.SetFocus();
@@ -186,10 +186,7 @@ void frmOrcamento::MostrarItens() {
       {"Item", "Tipo", "Codigo", "Nome", "Quantidade", "Unidade", "ValorUnitario", "ValorTotal"});
   std::int32_t numero = 0;
   for (const Orcamento::Item& item : orcamento_.itens) {
-    linhas.Append({++numero,
-                   item.tipoDeLancamento == static_cast<std::int32_t>(TipoDeItem::kServico)
-                       ? "Serviço"
-                       : "Produto",
+    linhas.Append({++numero, item.tipoDeLancamento == servicos::kServico ? "Serviço" : "Produto",
                    item.codigo, item.nome, item.quantidade, item.unidade, item.valorUnitario,
                    item.ValorTotal()});
   }

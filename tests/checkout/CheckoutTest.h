@@ -10,9 +10,9 @@
 
 #include "base/Text.h"
 #include "checkout/frmCaixaPagar.h"
-#include "frame/FormasDePagamento.h"
 #include "frame/Mensagens.h"
 #include "frame/servicos/LinhaDeVenda.h"
+#include "frame/servicos/Pagamento.h"
 #include "platform/Screens.h"
 #include "support/ModuleServices.h"
 #include "support/Table.h"

@@ -14,7 +14,8 @@ class TendersTest : public CheckoutTest {
     std::vector<std::string> items;
     for (std::int32_t i = 0; i < form.zvcmbFormaDePagamento.ListCount(); ++i) {
       items.push_back(form.zvcmbFormaDePagamento.List(i));
-      EXPECT_EQ(form.zvcmbFormaDePagamento.ItemData(i), frame::CodigoDaForma(items.back()));
+      EXPECT_EQ(form.zvcmbFormaDePagamento.ItemData(i),
+                servicos::pagamento::CodigoDa(items.back()));
     }
     return items;
   }

@@ -43,8 +43,8 @@ std::vector<std::string> ServiceLine(const std::string& total) {
 
 std::vector<std::string> PreSaleLine(const std::string& total, int number) {
   auto line = ServiceLine(total);
-  line[15] = std::to_string(number);
-  line[18] = "2";
+  line[servicos::linha::kNumeroDeLancamento] = std::to_string(number);
+  line[servicos::linha::kColunaTipoDeVenda] = std::to_string(servicos::kPreVenda);
   return line;
 }
 
@@ -57,12 +57,12 @@ namespace {
 
 /// What the lines come to before their discounts; the net where one of them is no number.
 base::Currency GrossOf(const Sale& sale) {
-  if (sale.lines.Cols() < 9) return sale.net;
+  if (sale.lines.Cols() <= servicos::linha::kValorUnitario) return sale.net;
   try {
     double gross = 0;
     for (std::int32_t row = 1; row < sale.lines.Rows(); ++row) {
-      gross += base::ToDouble(sale.lines.TextMatrix(row, 7)) *
-               base::ToDouble(sale.lines.TextMatrix(row, 8));
+      gross += base::ToDouble(sale.lines.TextMatrix(row, servicos::linha::kQuantidade)) *
+               base::ToDouble(sale.lines.TextMatrix(row, servicos::linha::kValorUnitario));
     }
     return base::ToCurrency(gross);
   } catch (const base::RuntimeError&) {

@@ -11,6 +11,8 @@
 #include "base/GradeLida.h"
 #include "base/Numbers.h"
 #include "base/Record.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/LinhaDeVenda.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
 #include "services/Banco.h"
 #include "services/Preenchimento.h"
@@ -58,7 +60,8 @@ class SessionRecord : public base::Record {
 class Grid : public base::GradeLida {
  public:
   explicit Grid(std::vector<std::vector<std::string>> rows) : rows_(std::move(rows)) {
-    rows_.insert(rows_.begin(), std::vector<std::string>(rows_.empty() ? 20 : rows_[0].size()));
+    rows_.insert(rows_.begin(), std::vector<std::string>(rows_.empty() ? servicos::linha::kColunas
+                                                                       : rows_[0].size()));
   }
   std::int32_t Rows() const override { return static_cast<std::int32_t>(rows_.size()); }
   std::int32_t Cols() const override { return static_cast<std::int32_t>(rows_[0].size()); }
@@ -76,7 +79,7 @@ class Grid : public base::GradeLida {
   std::vector<std::vector<std::string>> rows_;
 };
 
-/// The 20 cells of a line of one unit without discount, as the counter writes them.
+/// The cells of a line of one unit without discount, as the counter writes them.
 std::vector<std::string> ProductLine(const std::string& total);
 std::vector<std::string> ServiceLine(const std::string& total);
 /// A line that came from the open pre-sale with this number.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 /// The numbers by which screens and services tell kinds and states to each other. What an operation
 /// answers, and the failure numbers of a register, stand beside the services themselves
@@ -54,5 +55,8 @@ enum TipoDeMovimento : std::int32_t {
   kRecebimento = 5,  ///< A tender of a sale.
   kTroco = 6,        ///< Change given on a sale.
 };
+
+/// What a sale or a movement is: it stands, or was taken back.
+inline constexpr std::string_view kEfetuada = "F", kCancelada = "C";
 
 }  // namespace servicos

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/GradeLida.h"
+
 /// The sale line: one row of the counter's grid under its header row, every cell a text. The grid
 /// is the sale; it is handed to the services as it stands, and a pre-sale comes as records of the
 /// same fields in the same order.
@@ -35,12 +37,20 @@ enum Coluna : std::int32_t {
   kNumeroDeLancamento = 15,  ///< The ledger entry that the line settles; 0 for a new line.
   kUnidade = 16,             ///< Empty for a service.
   kNumeroDaVendaCancelada = 17,
-  /// This and the next are read as the last two columns of the grid, never by number.
+  /// This and the next are the last two columns of the grid, whatever it has: readers ask for them
+  /// by ColunaDoTipoDeVenda and ColunaDoTipoDeLancamento.
   kColunaTipoDeVenda = 18,
   kColunaTipoDeLancamento = 19,
 };
 
 inline constexpr std::int32_t kColunas = 20;
+
+inline std::int32_t ColunaDoTipoDeVenda(const base::GradeLida& grade) {
+  return grade.Cols() - 2;
+}
+inline std::int32_t ColunaDoTipoDeLancamento(const base::GradeLida& grade) {
+  return grade.Cols() - 1;
+}
 
 /// In characters: what kNomeDoFuncionario is made of.
 inline constexpr std::size_t kLarguraDoNome = 100, kLarguraDaComissao = 50;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -43,5 +44,22 @@ inline constexpr std::array<Forma, 8> kFormas{{
     {kCreditoDoCliente, "7-Crédito do cliente"},
     {kPix, "8-PIX"},
 }};
+
+/// The code that a tender's text begins with; 0 for a text that begins with no digit.
+constexpr std::int16_t CodigoDa(std::string_view texto) {
+  const bool numero = !texto.empty() && texto.front() >= '0' && texto.front() <= '9';
+  return static_cast<std::int16_t>(numero ? texto.front() - '0' : 0);
+}
+constexpr bool Existe(std::int32_t codigo) {
+  return codigo >= kDinheiro && codigo <= kPix;
+}
+/// The name of a kind without its code, as in "Boleto"; empty for no kind.
+constexpr std::string_view NomeDa(std::int32_t codigo) {
+  constexpr std::size_t kCodigoETraco = 2;
+  for (const Forma& forma : kFormas) {
+    if (forma.codigo == codigo) return forma.texto.substr(kCodigoETraco);
+  }
+  return {};
+}
 
 }  // namespace servicos::pagamento

@@ -14,7 +14,7 @@ namespace siblings::dados {
 /// An estimate to be registered. Its date and the day until which it is good are the database's.
 struct Orcamento {
   struct Item {
-    std::int32_t tipoDeLancamento = 0;  ///< 1 a service, 2 a product.
+    std::int32_t tipoDeLancamento = 0;  ///< servicos::TipoDeLancamento.
     std::int32_t codigo = 0;
     std::string nome, unidade;
     base::Currency quantidade, valorUnitario;

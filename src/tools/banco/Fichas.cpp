@@ -2,6 +2,8 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/Pagamento.h"
 #include "tools/banco/Relatorios.h"
 
 namespace banco {
@@ -13,8 +15,8 @@ std::string Dia(base::DateTime quando) {
   return base::Format(quando, base::DateMask::kDayMonthYear);
 }
 
-const char* NomeDoLancamento(services::TipoDeLancamento tipo) {
-  return tipo == services::TipoDeLancamento::kTroco ? "Troco" : "Recebimento";
+const char* NomeDoLancamento(servicos::TipoDeMovimento tipo) {
+  return tipo == servicos::kTroco ? "Troco" : "Recebimento";
 }
 
 void MostrarItens(std::ostream& saida, const services::VendaRegistrada& venda) {
@@ -57,8 +59,9 @@ void MostrarSomas(std::ostream& saida, const services::FichaDaVenda& ficha) {
 
 void MostrarMovimentos(std::ostream& saida, const services::FichaDaVenda& ficha) {
   for (const auto& lancamento : ficha.lancamentos) {
-    saida << NomeDoLancamento(lancamento.tipo) << " em " << services::NomeDaMoeda(lancamento.moeda)
-          << ": " << FormatMoney(lancamento.valor) << '\n';
+    saida << NomeDoLancamento(lancamento.tipo) << " em "
+          << servicos::pagamento::NomeDa(lancamento.moeda) << ": " << FormatMoney(lancamento.valor)
+          << '\n';
   }
   for (const auto& conta : ficha.contas) {
     saida << "A receber: parcela " << conta.parcela << " de " << conta.parcelas << ", vence em "

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/servicos/Pagamento.h"
 
 namespace banco {
 namespace {
@@ -36,7 +37,7 @@ void ShowItem(std::ostream& out, const services::VendaRegistrada::Item& item) {
 }
 
 void ShowTender(std::ostream& out, const services::VendaRegistrada::Recebimento& tender) {
-  std::string name = services::NomeDaMoeda(tender.moeda);
+  std::string name(servicos::pagamento::NomeDa(tender.moeda));
   if (!tender.vencimento.empty()) name += ", vence em " + tender.vencimento;
   Line(out, name, tender.valor);
 }

@@ -63,9 +63,9 @@ TEST_P(ConferenceTest, ADiscountOnTheWholeSaleIsSpreadToTheCent) {
   // 21% of 100,00, each line's share rounded.
   auto spread = [](const char* price, const char* discount, const char* total) {
     auto line = ProductLine(price);
-    line[9] = "21";
-    line[10] = discount;
-    line[11] = total;
+    line[servicos::linha::kDescontoEmPercentual] = "21";
+    line[servicos::linha::kDescontoEmValor] = discount;
+    line[servicos::linha::kValorTotal] = total;
     return line;
   };
   const NewSale sale({.lines = Grid({spread("33,33", "7", "26,33"), spread("33,33", "7", "26,33"),

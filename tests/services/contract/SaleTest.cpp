@@ -5,6 +5,8 @@
 namespace services {
 namespace {
 
+namespace linha = servicos::linha;
+
 /// What RegistrarPagamento writes, read back.
 class SaleTest : public OverDatabase {
  protected:
@@ -275,7 +277,7 @@ TEST_P(SaleTest, RoundTripsDoNotGrowWithTheLines) {
 TEST_P(SaleTest, LongAndOddTextsComeBackAsTheyWere) {
   const std::string odd = "{\"a\",\\n} 100% _ ' -- ção 🐶 \n\t" + std::string(20'000, 'x');
   auto line = ProductLine("100,00");
-  line[2] = odd;
+  line[linha::kNome] = odd;
   Register({.lines = Grid({line}), .note = odd});
   EXPECT_EQ(odd, Read("SELECT nome_do_item FROM itens_de_venda"));
   EXPECT_EQ(odd, OfSale("observacao"));
@@ -312,12 +314,18 @@ TEST_P(SaleTest, RefusalsWriteNothing) {
   const Case cases[] = {
       {"no lines", {.lines = Grid({std::vector<std::string>(20)})}, "não tem itens"},
       {"too few columns", {.lines = columns}, "incompleta"},
-      {"quantity", {.lines = line.With(1, 7, "abc")}, "'abc' em quantidade"},
-      {"negative price", {.lines = line.With(1, 8, "-1,00")}, "'-1,00' em valor unitário"},
-      {"code too large", {.lines = line.With(1, 1, "99999999999")}, "em código,"},
-      {"fraction of a code", {.lines = line.With(1, 15, "1,5")}, "em número do lançamento"},
-      {"kind of line", {.lines = line.With(1, 19, "3")}, "em tipo de lançamento"},
-      {"kind of sale", {.lines = line.With(1, 18, "")}, "em tipo de venda"},
+      {"quantity", {.lines = line.With(1, linha::kQuantidade, "abc")}, "'abc' em quantidade"},
+      {"negative price",
+       {.lines = line.With(1, linha::kValorUnitario, "-1,00")},
+       "'-1,00' em valor unitário"},
+      {"code too large", {.lines = line.With(1, linha::kCodigo, "99999999999")}, "em código,"},
+      {"fraction of a code",
+       {.lines = line.With(1, linha::kNumeroDeLancamento, "1,5")},
+       "em número do lançamento"},
+      {"kind of line",
+       {.lines = line.With(1, linha::kColunaTipoDeLancamento, "3")},
+       "em tipo de lançamento"},
+      {"kind of sale", {.lines = line.With(1, linha::kColunaTipoDeVenda, "")}, "em tipo de venda"},
       {"pre-sale line twice", {.lines = twice}, "está duas vezes na venda"},
       {"unknown tender", {.tenders = Grid({Tender("9-Vale", "100,00")})}, "não é conhecida"},
       {"tender amount", {.tenders = Grid({Tender("8-PIX", "cem")})}, "'cem' não é um valor"},
@@ -326,9 +334,11 @@ TEST_P(SaleTest, RefusalsWriteNothing) {
       {"fraction of a cent", {.tenders = Grid({Tender("8-PIX", "100,005")})}, "'100,005' não é um"},
       {"fraction in a net", {.net = Brl("99,995")}, "(99,995) tem fração de centavo"},
       {"fraction in a credit", {.creditKept = Brl("0,001")}, "(0,001) tem fração de centavo"},
-      {"fraction in a total", {.lines = line.With(1, 11, "9,999")}, "'9,999' em valor total"},
+      {"fraction in a total",
+       {.lines = line.With(1, linha::kValorTotal, "9,999")},
+       "'9,999' em valor total"},
       {"fraction in a discount",
-       {.lines = line.With(1, 10, "-0,005")},
+       {.lines = line.With(1, linha::kDescontoEmValor, "-0,005")},
        "'-0,005' em valor de desc"},
       {"no due date", {.tenders = Grid({Tender("6-Fiado", "100,00")})}, "data de vencimento"},
       {"no such day", {.tenders = Grid({Tender("6-Fiado", "100,00", "29/02/2027")})}, "vencimento"},
