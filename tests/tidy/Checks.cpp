@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <regex>
 #include <set>
 
@@ -263,6 +264,32 @@ Findings CheckWords(const Source& file) {
 Findings CheckGuard(const Source& file) {
   if (!file.IsHeader() || file.text.starts_with("#pragma once\n")) return {};
   return {At(file, 1, "a header begins with #pragma once")};
+}
+
+Findings CheckContract(const Source& file) {
+  static const std::regex kDeclared("virtual [^({]*\\b(\\w+)\\([^{]*\\{\\s*Ausente");
+  static const std::regex kNamed("kMembros =([^;]*);");
+  static const std::regex kWord("\\w+");
+  if (!file.IsUnder("src/frame/servicos/ZOVA_")) return {};
+  using Matches = std::sregex_iterator;
+  std::set<std::string> declared;
+  for (Matches at(file.text.begin(), file.text.end(), kDeclared); at != Matches(); ++at) {
+    declared.insert((*at)[1]);
+  }
+  std::smatch list;
+  std::regex_search(file.text, list, kNamed);
+  const std::string words = list[1];
+  std::set<std::string> named;
+  for (Matches at(words.begin(), words.end(), kWord); at != Matches(); ++at) {
+    named.insert(at->str());
+  }
+  std::vector<std::string> differing;
+  std::ranges::set_symmetric_difference(declared, named, std::back_inserter(differing));
+  Findings findings;
+  for (const std::string& member : differing) {
+    findings.push_back(At(file, 1, member + " is declared or named in kMembros, but not both"));
+  }
+  return findings;
 }
 
 Findings CheckDeadHeaders(const std::vector<Source>& tree) {

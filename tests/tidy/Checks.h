@@ -22,6 +22,9 @@ Findings CheckCalls(const Source& file);
 Findings CheckWords(const Source& file);
 /// Every header begins with its guard.
 Findings CheckGuard(const Source& file);
+/// A class of the service contract names in kMembros just what it declares with a default body that
+/// says that the member is missing.
+Findings CheckContract(const Source& file);
 /// Every header of src is included by some other file.
 Findings CheckDeadHeaders(const std::vector<Source>& tree);
 

@@ -30,6 +30,7 @@ TEST(Tree, KeepsTheHouseRules) {
   EXPECT_EQ(Found(tidy::CheckCalls), "");
   EXPECT_EQ(Found(tidy::CheckWords), "");
   EXPECT_EQ(Found(tidy::CheckGuard), "");
+  EXPECT_EQ(Found(tidy::CheckContract), "");
   EXPECT_EQ(Text(tidy::CheckDeadHeaders(tidy::Tree())), "");
 }
 
@@ -58,6 +59,12 @@ TEST(Checks, FindWhatBreaksThem) {
   for (const std::string& line : words) {
     EXPECT_NE(Text(tidy::CheckWords({"docs/a.md", line})), "") << line;
   }
+  EXPECT_EQ(Text(tidy::CheckContract({"src/frame/servicos/ZOVA_A.h",
+                                      "kMembros = \"A B\";\nvirtual int A() { Ausente(); }\n"
+                                      "virtual void C(int /*a*/,\n int) {\n Ausente();\n}\n"
+                                      "virtual bool D() { return false; }\n"})),
+            "src/frame/servicos/ZOVA_A.h:1: B is declared or named in kMembros, but not both\n"
+            "src/frame/servicos/ZOVA_A.h:1: C is declared or named in kMembros, but not both\n");
   EXPECT_NE(Text(tidy::CheckGuard({"src/base/A.h", "// A.\n#pragma once\n"})), "");
   EXPECT_EQ(Text(tidy::CheckDeadHeaders({{"src/base/A.h", "#include \"base/A.h\"\n"},
                                          {"src/base/B.h", ""},

@@ -33,9 +33,13 @@ enum : std::int16_t {
   kCaixaNaoAberto = 52,
 };
 
-/// A member that a service does not implement is missing from it: run-time error 438.
+/// A member that a service does not implement is missing from it: run-time error 438. Each class
+/// of the contract gives its kIdentificador, and in kMembros the names of its members, parted by
+/// blanks; those that it shares with its family stand in kMembrosDaFamilia.
 class Servico {
  public:
+  static constexpr std::string_view kMembrosDaFamilia = "";
+
   virtual ~Servico() = default;
 
  protected:
@@ -45,6 +49,10 @@ class Servico {
 /// What every business service has that can fail.
 class ServicoDeNegocio : public Servico {
  public:
+  static constexpr std::string_view kMembrosDaFamilia =
+      "DadosDoUsuario NumeroDoErro DescricaoDoErro LocalDoErro DescricaoDaFalha "
+      "ResultadoDaSelecaoEmRecordSet";
+
   /// The session record, or null; it outlives the service.
   virtual void DadosDoUsuario(const base::Record*) { Ausente(); }
   virtual std::int32_t NumeroDoErro() { Ausente(); }
@@ -58,6 +66,8 @@ class ServicoDeNegocio : public Servico {
 /// What every sibling screen is given before it opens; it opens modally.
 class TelaIrma : public Servico {
  public:
+  static constexpr std::string_view kMembrosDaFamilia = "DadosDoUsuario NomeDaAplicacao";
+
   virtual void DadosDoUsuario(const base::Record*) { Ausente(); }
   virtual void NomeDaAplicacao(std::string_view) { Ausente(); }
 };

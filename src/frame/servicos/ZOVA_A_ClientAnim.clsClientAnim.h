@@ -11,6 +11,9 @@ namespace servicos::ZOVA_A_ClientAnim {
 class clsClientAnim : public TelaIrma {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_A_ClientAnim.clsClientAnim";
+  static constexpr std::string_view kMembros =
+      "CodigoDoCliente ApelidoOuNomeFantasiaDoCliente NomeOuRazaoSocialDoCliente "
+      "AbrirFichaDeCadastroDeCodigoIBGEDoMunicipio";
 
   virtual void CodigoDoCliente(double) { Ausente(); }
   virtual void ApelidoOuNomeFantasiaDoCliente(std::string_view) { Ausente(); }

@@ -10,6 +10,9 @@ namespace servicos::ZOVA_A_ClientHist {
 class clsHistDeVendas : public TelaIrma {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_A_ClientHist.clsHistDeVendas";
+  static constexpr std::string_view kMembros =
+      "CodigoDoCliente ApelidoOuNomeFantasiaDoCliente NomeOuRazaoSocialDoCliente "
+      "DataInicialDoHistorico AbrirFichaExibicao";
 
   virtual void CodigoDoCliente(double) { Ausente(); }
   virtual void ApelidoOuNomeFantasiaDoCliente(std::string_view) { Ausente(); }

@@ -11,6 +11,7 @@ namespace servicos::ZOVA_A_MsgErro {
 class clsMensagem : public Servico {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_A_MsgErro.clsMensagem";
+  static constexpr std::string_view kMembros = "Exibir";
 
   virtual void Exibir(std::int32_t /*numero*/, std::string_view /*descricao*/,
                       std::string_view /*local*/, std::string_view /*nomeDaAplicacao*/) {

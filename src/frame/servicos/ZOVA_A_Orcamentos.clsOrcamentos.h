@@ -11,6 +11,9 @@ namespace servicos::ZOVA_A_Orcamentos {
 class clsOrcamentos : public TelaIrma {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_A_Orcamentos.clsOrcamentos";
+  static constexpr std::string_view kMembros =
+      "CodigoDoCliente ApelidoOuNomeFantasiaDoCliente NomeOuRazaoSocialDoCliente CodigoDoAnimal "
+      "NomeDoAnimal AbrirFicha";
 
   virtual void CodigoDoCliente(double) { Ausente(); }
   virtual void ApelidoOuNomeFantasiaDoCliente(std::string_view) { Ausente(); }

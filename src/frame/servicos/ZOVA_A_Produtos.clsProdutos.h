@@ -11,6 +11,7 @@ namespace servicos::ZOVA_A_Produtos {
 class clsProdutos : public TelaIrma {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_A_Produtos.clsProdutos";
+  static constexpr std::string_view kMembros = "CodigoInterno Nome AbrirFichaDeCadastroDeNCM";
 
   virtual void CodigoInterno(double) { Ausente(); }
   virtual void Nome(std::string_view) { Ausente(); }

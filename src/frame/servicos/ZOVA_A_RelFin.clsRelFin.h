@@ -12,6 +12,7 @@ namespace servicos::ZOVA_A_RelFin {
 class clsRelFin : public TelaIrma {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_A_RelFin.clsRelFin";
+  static constexpr std::string_view kMembros = "ImprimirNotaPromissoria";
 
   virtual void ImprimirNotaPromissoria(std::string_view /*hoje*/, base::DateTime /*vencimento*/,
                                        base::Currency /*valor*/, double /*codigoDoCliente*/,

@@ -11,6 +11,9 @@ namespace servicos::ZOVA_N_Administrativo {
 class clsAdministrativo : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Administrativo.clsAdministrativo";
+  static constexpr std::string_view kMembros =
+      "NomeDoComputador SelecionarClientesComTransacoesBloqueadas BloquearCliente "
+      "DesbloquearCliente";
 
   virtual void NomeDoComputador(std::string_view) { Ausente(); }
   /// NomeDoComputador, NomeDoUsuario of who holds the customer.

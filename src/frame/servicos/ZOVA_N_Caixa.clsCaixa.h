@@ -14,6 +14,15 @@ namespace servicos::ZOVA_N_Caixa {
 class clsCaixa : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Caixa.clsCaixa";
+  static constexpr std::string_view kMembros =
+      "NumeroDoCaixa LocalDeAtendimentoDoCaixa Operador Situacao Observacao GradeDeItensDaVenda "
+      "Descricao MOEDA ValorDoLancamento ApelidoOuNomeFantasiaDoCliente NomeOuRazaoSocialDoCliente "
+      "CodigoDoCliente NumeroDaFichaClinica ValorBruto ValorTotalDeDescontos ValorLiquido Custo "
+      "Comissao LucroEmValor LucroEmPercentual CreditoAnteriorDoCliente CreditoParaOCliente Troco "
+      "GradeDePagamentosEfetuados ChaveSAT RegistrarAbertura RegistrarFechamento RegistrarEntrada "
+      "RegistrarSaida RegistrarPagamento AdicionarCreditoParaCliente EstornarCreditoDoCliente "
+      "CancelarVenda DesfazerCancelamento PesquisarVendaDoDia PesquisarItensDaVenda "
+      "SelecionarItensDeVenda NumeroDaVenda";
 
   // Inputs common to all that registers.
   virtual void NumeroDoCaixa(std::int32_t) { Ausente(); }

@@ -11,6 +11,7 @@ namespace servicos::ZOVA_N_Caixa {
 class clsCreditosDoCliente : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Caixa.clsCreditosDoCliente";
+  static constexpr std::string_view kMembros = "Selecionar";
 
   /// DataEHoraDoLancamento, Moeda, NomeDoOperador, Observacao, Valor.
   virtual std::int16_t Selecionar(std::string_view /*codigoDoCliente*/) { Ausente(); }

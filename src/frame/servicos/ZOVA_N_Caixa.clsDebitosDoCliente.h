@@ -13,6 +13,12 @@ namespace servicos::ZOVA_N_Caixa {
 class clsDebitosDoCliente : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Caixa.clsDebitosDoCliente";
+  static constexpr std::string_view kMembros =
+      "Selecionar NumeroDoCaixa LocalDeAtendimentoDoCaixa CodigoDoCliente "
+      "ApelidoOuNomeFantasiaDoCliente NomeOuRazaoSocialDoCliente CreditoAtualDoCliente "
+      "ValorRecebido DescontoAbatimento ValorTotalDePrevisaoDeRecebimento "
+      "GerarInformacoesDePagamento GerarInformacoesDeReparcelamento GradeDeDebitosDoCliente "
+      "GradeDePagamentos GradeDeReparcelamento RegistrarPagamentoEOuReparcelamento";
 
   /// " WHERE [ContasAReceber.CodigoDoCliente]=N": 23 fields in the column order of the debt list.
   virtual std::int16_t Selecionar(std::int16_t, std::string_view /*condicao*/) { Ausente(); }

@@ -11,6 +11,7 @@ namespace servicos::ZOVA_N_Caixa {
 class clsDebitosVencCliente : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Caixa.clsDebitosVencCliente";
+  static constexpr std::string_view kMembros = "Selecionar";
 
   /// " WHERE [ContasAReceber.CodigoDoCliente]=N".
   virtual std::int16_t Selecionar(std::int16_t, std::string_view /*condicao*/) { Ausente(); }

@@ -11,6 +11,9 @@ namespace servicos::ZOVA_N_Caixa {
 class clsServicosEProdutos : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Caixa.clsServicosEProdutos";
+  static constexpr std::string_view kMembros =
+      "ServicosEfetuadosEProdutosReservados SelecionarServicosEfetuados "
+      "SelecionarProdutosReservados";
 
   /// Twenty fields in the column order of a sale line, each already in its text form.
   virtual std::int16_t ServicosEfetuadosEProdutosReservados(double& /*codigoDoCliente*/) {

@@ -11,6 +11,7 @@ namespace servicos::ZOVA_N_ClientAnim {
 class clsAnimais : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_ClientAnim.clsAnimais";
+  static constexpr std::string_view kMembros = "SelecionarParaComboBoxFiltradoPorCliente";
 
   /// Nome, Codigo.
   virtual std::int16_t SelecionarParaComboBoxFiltradoPorCliente(double& /*codigo*/, std::int16_t) {

@@ -13,6 +13,7 @@ namespace servicos::ZOVA_N_ClientAnim {
 class clsClientes : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_ClientAnim.clsClientes";
+  static constexpr std::string_view kMembros = "Selecionar RetornarInformacoesDoLimiteDeCredito";
 
   /// By any of code and names (fourth argument), or by part of a name (fifth), or by code (sixth).
   virtual std::int16_t Selecionar(std::int32_t, std::int16_t, std::int32_t,

@@ -11,6 +11,7 @@ namespace servicos::ZOVA_N_Empresa {
 class clsEmpresa : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Empresa.clsEmpresa";
+  static constexpr std::string_view kMembros = "Selecionar";
 
   virtual std::int16_t Selecionar(std::int32_t, std::int32_t) { Ausente(); }
 };

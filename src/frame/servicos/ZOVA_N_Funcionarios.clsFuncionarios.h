@@ -11,6 +11,7 @@ namespace servicos::ZOVA_N_Funcionarios {
 class clsFuncionarios : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Funcionarios.clsFuncionarios";
+  static constexpr std::string_view kMembros = "Selecionar";
 
   /// All of them, or the one of a code other than 0.
   virtual bool Selecionar(std::int32_t, std::int16_t, std::int32_t, std::string_view,

@@ -11,6 +11,7 @@ namespace servicos::ZOVA_N_Login {
 class clsLogin : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Login.clsLogin";
+  static constexpr std::string_view kMembros = "NomeDeUsuario SenhaDoUsuario Autenticar";
 
   virtual void NomeDeUsuario(std::string_view) { Ausente(); }
   virtual void SenhaDoUsuario(std::string_view) { Ausente(); }

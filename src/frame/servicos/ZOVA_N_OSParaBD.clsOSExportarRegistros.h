@@ -12,6 +12,9 @@ namespace servicos::ZOVA_N_OSParaBD {
 class clsOSExportarRegistros : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_OSParaBD.clsOSExportarRegistros";
+  static constexpr std::string_view kMembros =
+      "ExportarDadosCFeSATParaArquivo ExportarDadosParaCancelarCFeSAT "
+      "NomeCompleDoArquivoDeEnvioComDadosCFeSAT NomeCompleDoArquivoDeRetornoComDadosCFeSAT";
 
   virtual std::int16_t ExportarDadosCFeSATParaArquivo(std::string_view /*cabecalho*/,
                                                       std::string_view /*itens*/,

@@ -12,6 +12,7 @@ namespace servicos::ZOVA_N_Produtos {
 class clsProdutos : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Produtos.clsProdutos";
+  static constexpr std::string_view kMembros = "Selecionar";
 
   /// By internal code, else by exact barcode, else by part of the name.
   virtual bool Selecionar(std::int32_t, std::int16_t, std::int32_t, std::string_view,

@@ -12,6 +12,8 @@ namespace servicos::ZOVA_N_RelFin {
 class clsRelFin : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_RelFin.clsRelFin";
+  static constexpr std::string_view kMembros =
+      "SelecionarResumoDeCaixas SelecionarLancamentosDeCaixas";
 
   virtual std::int16_t SelecionarResumoDeCaixas(std::string& /*condicaoDoCaixa*/,
                                                 std::string& /*condicaoDoPeriodo*/) {

@@ -11,6 +11,7 @@ namespace servicos::ZOVA_N_SO {
 class clsObterVersaoDoSO : public Servico {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_SO.clsObterVersaoDoSO";
+  static constexpr std::string_view kMembros = "ObterversaoDoSO";
 
   virtual std::string ObterversaoDoSO() { Ausente(); }
 };

@@ -12,6 +12,7 @@ namespace servicos::ZOVA_N_Servicos {
 class clsServicos : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_Servicos.clsServicos";
+  static constexpr std::string_view kMembros = "Selecionar";
 
   /// Of a type, by code, else by part of the name.
   virtual bool Selecionar(std::int32_t, std::int16_t, std::int32_t, std::string_view,

@@ -11,6 +11,7 @@ namespace servicos::ZOVA_N_TipoDeServ {
 class clsTiposDeServ : public ServicoDeNegocio {
  public:
   static constexpr std::string_view kIdentificador = "ZOVA_N_TipoDeServ.clsTiposDeServ";
+  static constexpr std::string_view kMembros = "SelecionarParaComboBox";
 
   /// Numero, Nome.
   virtual std::int16_t SelecionarParaComboBox(double&) { Ausente(); }

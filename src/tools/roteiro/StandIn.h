@@ -6,7 +6,7 @@
 
 #include "base/GradeLida.h"
 #include "base/Record.h"
-#include "frame/servicos/Servico.h"
+#include "frame/servicos/Contrato.h"
 #include "tools/roteiro/StandIns.h"
 
 namespace roteiro {
@@ -110,6 +110,12 @@ template <class... Classes>
 void RegisterAll(StandIns& all) {
   (servicos::Registrar(Classes::kIdentificador, [&all] { return std::make_unique<Classes>(all); }),
    ...);
+}
+
+/// The same for each class of a list of the contract; StandInOf tells which stand-in it has.
+template <template <class Contract> class StandInOf, class... Contracts>
+void RegisterEach(StandIns& all, servicos::Lista<Contracts...>) {
+  RegisterAll<StandInOf<Contracts>...>(all);
 }
 
 }  // namespace roteiro

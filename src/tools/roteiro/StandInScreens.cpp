@@ -1,10 +1,3 @@
-#include "frame/servicos/ZOVA_A_ClientAnim.clsClientAnim.h"
-#include "frame/servicos/ZOVA_A_ClientHist.clsHistDeVendas.h"
-#include "frame/servicos/ZOVA_A_EfeitosDeTela.clsFundoEscuro.h"
-#include "frame/servicos/ZOVA_A_MsgErro.clsMensagem.h"
-#include "frame/servicos/ZOVA_A_Orcamentos.clsOrcamentos.h"
-#include "frame/servicos/ZOVA_A_Produtos.clsProdutos.h"
-#include "frame/servicos/ZOVA_A_RelFin.clsRelFin.h"
 #include "platform/Desktop.h"
 #include "tools/roteiro/StandIn.h"
 
@@ -12,6 +5,10 @@ namespace roteiro {
 namespace {
 
 using std::string_view;
+
+/// Each class of the contract has its own.
+template <class Contract>
+class StandInOf;
 
 /// What all screens about one customer are given.
 template <class Contract>
@@ -24,14 +21,17 @@ class CustomerScreenStandIn : public ScreenStandIn<Contract> {
   void NomeOuRazaoSocialDoCliente(string_view v) override { this->Set(__func__, v); }
 };
 
-class ClientAnim final : public CustomerScreenStandIn<servicos::ZOVA_A_ClientAnim::clsClientAnim> {
+template <>
+class StandInOf<servicos::ZOVA_A_ClientAnim::clsClientAnim> final
+    : public CustomerScreenStandIn<servicos::ZOVA_A_ClientAnim::clsClientAnim> {
  public:
   using CustomerScreenStandIn::CustomerScreenStandIn;
 
   std::int16_t AbrirFichaDeCadastroDeCodigoIBGEDoMunicipio() override { return Call(__func__); }
 };
 
-class HistDeVendas final
+template <>
+class StandInOf<servicos::ZOVA_A_ClientHist::clsHistDeVendas> final
     : public CustomerScreenStandIn<servicos::ZOVA_A_ClientHist::clsHistDeVendas> {
  public:
   using CustomerScreenStandIn::CustomerScreenStandIn;
@@ -40,7 +40,9 @@ class HistDeVendas final
   void AbrirFichaExibicao() override { Call(__func__); }
 };
 
-class Orcamentos final : public CustomerScreenStandIn<servicos::ZOVA_A_Orcamentos::clsOrcamentos> {
+template <>
+class StandInOf<servicos::ZOVA_A_Orcamentos::clsOrcamentos> final
+    : public CustomerScreenStandIn<servicos::ZOVA_A_Orcamentos::clsOrcamentos> {
  public:
   using CustomerScreenStandIn::CustomerScreenStandIn;
 
@@ -49,7 +51,9 @@ class Orcamentos final : public CustomerScreenStandIn<servicos::ZOVA_A_Orcamento
   void AbrirFicha() override { Call(__func__); }
 };
 
-class Produtos final : public ScreenStandIn<servicos::ZOVA_A_Produtos::clsProdutos> {
+template <>
+class StandInOf<servicos::ZOVA_A_Produtos::clsProdutos> final
+    : public ScreenStandIn<servicos::ZOVA_A_Produtos::clsProdutos> {
  public:
   using ScreenStandIn::ScreenStandIn;
 
@@ -58,7 +62,9 @@ class Produtos final : public ScreenStandIn<servicos::ZOVA_A_Produtos::clsProdut
   std::int16_t AbrirFichaDeCadastroDeNCM() override { return Call(__func__); }
 };
 
-class RelFin final : public ScreenStandIn<servicos::ZOVA_A_RelFin::clsRelFin> {
+template <>
+class StandInOf<servicos::ZOVA_A_RelFin::clsRelFin> final
+    : public ScreenStandIn<servicos::ZOVA_A_RelFin::clsRelFin> {
  public:
   using ScreenStandIn::ScreenStandIn;
 
@@ -69,7 +75,9 @@ class RelFin final : public ScreenStandIn<servicos::ZOVA_A_RelFin::clsRelFin> {
 };
 
 /// The dimming is told as an event.
-class FundoEscuro final : public StandInFor<servicos::ZOVA_A_EfeitosDeTela::clsFundoEscuro> {
+template <>
+class StandInOf<servicos::ZOVA_A_EfeitosDeTela::clsFundoEscuro> final
+    : public StandInFor<servicos::ZOVA_A_EfeitosDeTela::clsFundoEscuro> {
  public:
   using StandInFor::StandInFor;
 
@@ -84,9 +92,11 @@ class FundoEscuro final : public StandInFor<servicos::ZOVA_A_EfeitosDeTela::clsF
 };
 
 /// The error viewer tells an event and does not keep the operator.
-class Mensagem final : public StandInFor<servicos::ZOVA_A_MsgErro::clsMensagem> {
+template <>
+class StandInOf<servicos::ZOVA_A_MsgErro::clsMensagem> final
+    : public StandInFor<servicos::ZOVA_A_MsgErro::clsMensagem> {
  public:
-  explicit Mensagem(StandIns& all) : StandInFor(all), all_(all) {}
+  explicit StandInOf(StandIns& all) : StandInFor(all), all_(all) {}
 
   void Exibir(std::int32_t number, string_view description, string_view location,
               string_view application) override {
@@ -98,30 +108,25 @@ class Mensagem final : public StandInFor<servicos::ZOVA_A_MsgErro::clsMensagem> 
   StandIns& all_;
 };
 
-/// Some of these classes.
-template <class... Classes>
-struct Family {
-  static void Register(StandIns& all) { RegisterAll<Classes...>(all); }
-  static void RegisterOne(StandIns& all, string_view className) {
-    ((className == Classes::kIdentificador ? RegisterAll<Classes>(all) : void()), ...);
-  }
-};
-using Screens = Family<ClientAnim, HistDeVendas, Orcamentos, Produtos, RelFin>;
-using Effects = Family<FundoEscuro, Mensagem>;
+/// Nothing happens for a class of another list.
+template <class... Contracts>
+void RegisterOne(StandIns& all, string_view className, servicos::Lista<Contracts...>) {
+  ((className == Contracts::kIdentificador ? RegisterAll<StandInOf<Contracts>>(all) : void()), ...);
+}
 
 }  // namespace
 
 void RegisterScreenStandIns(StandIns& all) {
-  Screens::Register(all);
+  RegisterEach<StandInOf>(all, servicos::TelasIrmas());
 }
 
 void RegisterEffectStandIns(StandIns& all) {
-  Effects::Register(all);
+  RegisterEach<StandInOf>(all, servicos::Efeitos());
 }
 
 void RegisterSiblingStandIn(StandIns& all, std::string_view className) {
-  Screens::RegisterOne(all, className);
-  Effects::RegisterOne(all, className);
+  RegisterOne(all, className, servicos::TelasIrmas());
+  RegisterOne(all, className, servicos::Efeitos());
 }
 
 }  // namespace roteiro

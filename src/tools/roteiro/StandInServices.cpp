@@ -1,21 +1,3 @@
-#include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
-#include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
-#include "frame/servicos/ZOVA_N_Caixa.clsCreditosDoCliente.h"
-#include "frame/servicos/ZOVA_N_Caixa.clsDebitosDoCliente.h"
-#include "frame/servicos/ZOVA_N_Caixa.clsDebitosVencCliente.h"
-#include "frame/servicos/ZOVA_N_Caixa.clsServicosEProdutos.h"
-#include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
-#include "frame/servicos/ZOVA_N_ClientAnim.clsAnimais.h"
-#include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
-#include "frame/servicos/ZOVA_N_Empresa.clsEmpresa.h"
-#include "frame/servicos/ZOVA_N_Funcionarios.clsFuncionarios.h"
-#include "frame/servicos/ZOVA_N_Login.clsLogin.h"
-#include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
-#include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
-#include "frame/servicos/ZOVA_N_RelFin.clsRelFin.h"
-#include "frame/servicos/ZOVA_N_SO.clsObterVersaoDoSO.h"
-#include "frame/servicos/ZOVA_N_Servicos.clsServicos.h"
-#include "frame/servicos/ZOVA_N_TipoDeServ.clsTiposDeServ.h"
 #include "tools/roteiro/StandIn.h"
 
 namespace roteiro {
@@ -27,7 +9,12 @@ using std::int32_t;
 using std::string_view;
 using Grade = const base::GradeLida*;
 
-class Administrativo final
+/// Each class of the contract has its own.
+template <class Contract>
+class StandInOf;
+
+template <>
+class StandInOf<servicos::ZOVA_N_Administrativo::clsAdministrativo> final
     : public BusinessStandIn<servicos::ZOVA_N_Administrativo::clsAdministrativo> {
  public:
   using BusinessStandIn::BusinessStandIn;
@@ -45,7 +32,9 @@ class Administrativo final
   }
 };
 
-class Caixa final : public BusinessStandIn<servicos::ZOVA_N_Caixa::clsCaixa> {
+template <>
+class StandInOf<servicos::ZOVA_N_Caixa::clsCaixa> final
+    : public BusinessStandIn<servicos::ZOVA_N_Caixa::clsCaixa> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -94,7 +83,8 @@ class Caixa final : public BusinessStandIn<servicos::ZOVA_N_Caixa::clsCaixa> {
   int32_t NumeroDaVenda() override { return Get(__func__); }
 };
 
-class CreditosDoCliente final
+template <>
+class StandInOf<servicos::ZOVA_N_Caixa::clsCreditosDoCliente> final
     : public BusinessStandIn<servicos::ZOVA_N_Caixa::clsCreditosDoCliente> {
  public:
   using BusinessStandIn::BusinessStandIn;
@@ -102,7 +92,9 @@ class CreditosDoCliente final
   int16_t Selecionar(string_view a) override { return Call(__func__, a); }
 };
 
-class DebitosDoCliente final : public BusinessStandIn<servicos::ZOVA_N_Caixa::clsDebitosDoCliente> {
+template <>
+class StandInOf<servicos::ZOVA_N_Caixa::clsDebitosDoCliente> final
+    : public BusinessStandIn<servicos::ZOVA_N_Caixa::clsDebitosDoCliente> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -124,7 +116,8 @@ class DebitosDoCliente final : public BusinessStandIn<servicos::ZOVA_N_Caixa::cl
   int16_t RegistrarPagamentoEOuReparcelamento() override { return Call(__func__); }
 };
 
-class DebitosVencCliente final
+template <>
+class StandInOf<servicos::ZOVA_N_Caixa::clsDebitosVencCliente> final
     : public BusinessStandIn<servicos::ZOVA_N_Caixa::clsDebitosVencCliente> {
  public:
   using BusinessStandIn::BusinessStandIn;
@@ -132,7 +125,8 @@ class DebitosVencCliente final
   int16_t Selecionar(int16_t a, string_view b) override { return Call(__func__, a, b); }
 };
 
-class ServicosEProdutos final
+template <>
+class StandInOf<servicos::ZOVA_N_Caixa::clsServicosEProdutos> final
     : public BusinessStandIn<servicos::ZOVA_N_Caixa::clsServicosEProdutos> {
  public:
   using BusinessStandIn::BusinessStandIn;
@@ -146,14 +140,18 @@ class ServicosEProdutos final
   }
 };
 
-class Caixas final : public BusinessStandIn<servicos::ZOVA_N_Caixas::clsCaixas> {
+template <>
+class StandInOf<servicos::ZOVA_N_Caixas::clsCaixas> final
+    : public BusinessStandIn<servicos::ZOVA_N_Caixas::clsCaixas> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
   int16_t SelecionarParaComboBox() override { return Call(__func__); }
 };
 
-class Animais final : public BusinessStandIn<servicos::ZOVA_N_ClientAnim::clsAnimais> {
+template <>
+class StandInOf<servicos::ZOVA_N_ClientAnim::clsAnimais> final
+    : public BusinessStandIn<servicos::ZOVA_N_ClientAnim::clsAnimais> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -162,7 +160,9 @@ class Animais final : public BusinessStandIn<servicos::ZOVA_N_ClientAnim::clsAni
   }
 };
 
-class Clientes final : public BusinessStandIn<servicos::ZOVA_N_ClientAnim::clsClientes> {
+template <>
+class StandInOf<servicos::ZOVA_N_ClientAnim::clsClientes> final
+    : public BusinessStandIn<servicos::ZOVA_N_ClientAnim::clsClientes> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -177,14 +177,18 @@ class Clientes final : public BusinessStandIn<servicos::ZOVA_N_ClientAnim::clsCl
   }
 };
 
-class Empresa final : public BusinessStandIn<servicos::ZOVA_N_Empresa::clsEmpresa> {
+template <>
+class StandInOf<servicos::ZOVA_N_Empresa::clsEmpresa> final
+    : public BusinessStandIn<servicos::ZOVA_N_Empresa::clsEmpresa> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
   int16_t Selecionar(int32_t a, int32_t b) override { return Call(__func__, a, b); }
 };
 
-class Funcionarios final : public BusinessStandIn<servicos::ZOVA_N_Funcionarios::clsFuncionarios> {
+template <>
+class StandInOf<servicos::ZOVA_N_Funcionarios::clsFuncionarios> final
+    : public BusinessStandIn<servicos::ZOVA_N_Funcionarios::clsFuncionarios> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -194,7 +198,9 @@ class Funcionarios final : public BusinessStandIn<servicos::ZOVA_N_Funcionarios:
   }
 };
 
-class Login final : public BusinessStandIn<servicos::ZOVA_N_Login::clsLogin> {
+template <>
+class StandInOf<servicos::ZOVA_N_Login::clsLogin> final
+    : public BusinessStandIn<servicos::ZOVA_N_Login::clsLogin> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -203,7 +209,8 @@ class Login final : public BusinessStandIn<servicos::ZOVA_N_Login::clsLogin> {
   int16_t Autenticar() override { return Call(__func__); }
 };
 
-class OSExportarRegistros final
+template <>
+class StandInOf<servicos::ZOVA_N_OSParaBD::clsOSExportarRegistros> final
     : public BusinessStandIn<servicos::ZOVA_N_OSParaBD::clsOSExportarRegistros> {
  public:
   using BusinessStandIn::BusinessStandIn;
@@ -216,7 +223,9 @@ class OSExportarRegistros final
   std::string NomeCompleDoArquivoDeRetornoComDadosCFeSAT() override { return Get(__func__); }
 };
 
-class Produtos final : public BusinessStandIn<servicos::ZOVA_N_Produtos::clsProdutos> {
+template <>
+class StandInOf<servicos::ZOVA_N_Produtos::clsProdutos> final
+    : public BusinessStandIn<servicos::ZOVA_N_Produtos::clsProdutos> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -229,7 +238,9 @@ class Produtos final : public BusinessStandIn<servicos::ZOVA_N_Produtos::clsProd
   }
 };
 
-class RelFin final : public BusinessStandIn<servicos::ZOVA_N_RelFin::clsRelFin> {
+template <>
+class StandInOf<servicos::ZOVA_N_RelFin::clsRelFin> final
+    : public BusinessStandIn<servicos::ZOVA_N_RelFin::clsRelFin> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -241,14 +252,18 @@ class RelFin final : public BusinessStandIn<servicos::ZOVA_N_RelFin::clsRelFin> 
   }
 };
 
-class ObterVersaoDoSO final : public StandInFor<servicos::ZOVA_N_SO::clsObterVersaoDoSO> {
+template <>
+class StandInOf<servicos::ZOVA_N_SO::clsObterVersaoDoSO> final
+    : public StandInFor<servicos::ZOVA_N_SO::clsObterVersaoDoSO> {
  public:
   using StandInFor::StandInFor;
 
   std::string ObterversaoDoSO() override { return Call(__func__); }
 };
 
-class Servicos final : public BusinessStandIn<servicos::ZOVA_N_Servicos::clsServicos> {
+template <>
+class StandInOf<servicos::ZOVA_N_Servicos::clsServicos> final
+    : public BusinessStandIn<servicos::ZOVA_N_Servicos::clsServicos> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -261,7 +276,9 @@ class Servicos final : public BusinessStandIn<servicos::ZOVA_N_Servicos::clsServ
   }
 };
 
-class TiposDeServ final : public BusinessStandIn<servicos::ZOVA_N_TipoDeServ::clsTiposDeServ> {
+template <>
+class StandInOf<servicos::ZOVA_N_TipoDeServ::clsTiposDeServ> final
+    : public BusinessStandIn<servicos::ZOVA_N_TipoDeServ::clsTiposDeServ> {
  public:
   using BusinessStandIn::BusinessStandIn;
 
@@ -271,9 +288,7 @@ class TiposDeServ final : public BusinessStandIn<servicos::ZOVA_N_TipoDeServ::cl
 }  // namespace
 
 void RegisterBusinessStandIns(StandIns& all) {
-  RegisterAll<Administrativo, Caixa, CreditosDoCliente, DebitosDoCliente, DebitosVencCliente,
-              ServicosEProdutos, Caixas, Animais, Clientes, Empresa, Funcionarios, Login,
-              OSExportarRegistros, Produtos, RelFin, ObterVersaoDoSO, Servicos, TiposDeServ>(all);
+  RegisterEach<StandInOf>(all, servicos::ServicosDeNegocio());
 }
 
 }  // namespace roteiro
