@@ -39,11 +39,9 @@ std::string ComCodigos(std::string_view sql) {
   for (const Codigo& each : kCodigos) {
     texto = base::Replace(texto, each.nome, std::to_string(each.numero));
   }
-  texto = base::Replace(texto, "{qualquerMovimento}",
-                        Lista(servicos::kAbertura, servicos::kTroco));
-  texto = base::Replace(
-      texto, "{qualquerMoeda}",
-      Lista(servicos::pagamento::kDinheiro, servicos::pagamento::kPix));
+  texto = base::Replace(texto, "{qualquerMovimento}", Lista(servicos::kAbertura, servicos::kTroco));
+  texto = base::Replace(texto, "{qualquerMoeda}",
+                        Lista(servicos::pagamento::kDinheiro, servicos::pagamento::kPix));
   return base::Replace(texto, "{cancelada}", "'" + std::string(servicos::kCancelada) + "'");
 }
 
