@@ -39,8 +39,8 @@ std::int16_t AnimaisDoCliente(clsAnimais& animais, double cliente) {
 }
 
 std::int16_t DebitosVencidos(clsDebitosVencCliente& debitos, double cliente) {
-  return debitos.Selecionar(
-      2, std::string(servicos::debito::kCondicaoDoCliente) + base::ToText(cliente));
+  return debitos.Selecionar(2, " WHERE [" + std::string(servicos::debito::kColunaDoCliente) +
+                                   "]=" + base::ToText(cliente));
 }
 
 bool Produtos(clsProdutos& produtos, std::string nome, std::string codigoDeBarras,

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "base/Text.h"
+#include "frame/servicos/Codigos.h"
 #include "services/ClinicaDeDemonstracao.h"
 #include "services/DadosDeDemonstracao.h"
 #include "services/Preenchimento.h"
@@ -19,7 +20,9 @@ struct Peculiarity {
   std::int32_t code, value;
 };
 
-constexpr Peculiarity kSituations[] = {{7, 2}, {17, 3}, {27, 4}};  // inactive, blocked, excluded
+constexpr Peculiarity kSituations[] = {{7, servicos::kClienteInativo},
+                                       {17, servicos::kClienteBloqueado},
+                                       {27, servicos::kClienteExcluido}};
 constexpr Peculiarity kCredits[] = {{5, 150}, {13, 45}, {18, 300}, {30, 120}, {40, 8}};
 constexpr Peculiarity kLimits[] = {{3, 500},   {5, 1000}, {8, 3000},
                                    {16, 5000}, {24, 200}, {32, 800}};

@@ -1,8 +1,11 @@
+#include "frame/servicos/Codigos.h"
 #include "services/ClinicaDeDemonstracao.h"
 #include "services/Preenchimento.h"
 
 namespace services::demonstracao {
 namespace {
+
+using enum servicos::TipoDeLancamento;
 
 /// A line by the kind and code of its item; its price is the item's own.
 struct Line {
@@ -17,9 +20,15 @@ struct Estimate {
 };
 
 constexpr Estimate kEstimates[] = {
-    {2, 40, 15, 0, false, "Retorno incluído.", {{1, 1, 1}, {1, 5, 1}, {}}},
-    {2, 10, 30, 0, true, "O tutor preferiu outra data.", {{1, 18, 1}, {1, 1, 1}, {}}},
-    {2, 2, 15, 10, false, "Exames não incluídos.", {{1, 1, 1}, {1, 18, 1}, {2, 3, 2}}},
+    {2, 40, 15, 0, false, "Retorno incluído.", {{kServico, 1, 1}, {kServico, 5, 1}, {}}},
+    {2, 10, 30, 0, true, "O tutor preferiu outra data.", {{kServico, 18, 1}, {kServico, 1, 1}, {}}},
+    {2,
+     2,
+     15,
+     10,
+     false,
+     "Exames não incluídos.",
+     {{kServico, 1, 1}, {kServico, 18, 1}, {kProduto, 3, 2}}},
 };
 
 struct Item {
@@ -32,7 +41,7 @@ Item ItemOf(Session& session, const Line& line) {
   static const Statement product(
       "SELECT nome, unidade_de_venda, valor_de_venda FROM produtos WHERE codigo_interno = $1");
   Item item;
-  session.Select(line.kind == 1 ? service : product, {line.item}, [&](const Row& row) {
+  session.Select(line.kind == kServico ? service : product, {line.item}, [&](const Row& row) {
     item = {row.Text(0), row.Text(1), row.Integer(2)};
   });
   return item;

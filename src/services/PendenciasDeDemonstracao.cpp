@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "frame/servicos/Codigos.h"
 #include "services/ClinicaDeDemonstracao.h"
 #include "services/DadosDeDemonstracao.h"
 #include "services/Preenchimento.h"
@@ -8,19 +9,24 @@
 namespace services::demonstracao {
 namespace {
 
+using enum servicos::TipoDeLancamento;
+
 constexpr std::int64_t kReal = base::Currency::kScale;
 constexpr std::int64_t kCentavo = base::Currency::kScale / 100;
 constexpr std::int64_t kPercent = base::Currency::kScale;
 
 /// Lines of work done or goods set aside, by the codes of customer, item, animal and employee.
 struct PreSale {
-  std::int32_t kind, customer, item, animalAt, employee, quantity, discountPercent, daysAgo;
+  servicos::TipoDeLancamento kind;
+  std::int32_t customer, item, animalAt, employee, quantity, discountPercent, daysAgo;
 };
 
 constexpr PreSale kPreSales[] = {
-    {1, 5, 1, 0, 1, 1, 0, 1},   {1, 5, 5, 0, 1, 1, 0, 1},    {1, 5, 6, 1, 1, 1, 0, 1},
-    {2, 5, 3, 0, 0, 1, 0, 0},   {1, 14, 30, 0, 3, 1, 10, 0}, {1, 14, 33, 0, 3, 1, 10, 0},
-    {1, 39, 39, 1, 5, 2, 0, 2}, {2, 39, 85, 0, 4, 3, 5, 0},  {1, 20, 18, 0, 2, 1, 0, 3},
+    {kServico, 5, 1, 0, 1, 1, 0, 1},    {kServico, 5, 5, 0, 1, 1, 0, 1},
+    {kServico, 5, 6, 1, 1, 1, 0, 1},    {kProduto, 5, 3, 0, 0, 1, 0, 0},
+    {kServico, 14, 30, 0, 3, 1, 10, 0}, {kServico, 14, 33, 0, 3, 1, 10, 0},
+    {kServico, 39, 39, 1, 5, 2, 0, 2},  {kProduto, 39, 85, 0, 4, 3, 5, 0},
+    {kServico, 20, 18, 0, 2, 1, 0, 3},
 };
 
 /// Receivables, by days from today to the due date.
@@ -53,8 +59,8 @@ Params ItemOf(Session& session, const PreSale& line) {
       "SELECT 0, codigo_de_barras, nome, unidade_de_venda, valor_de_venda, valor_de_custo,"
       " percentual_de_comissao FROM produtos WHERE codigo_interno = $1");
   Params item;
-  session.Select(line.kind == 1 ? service : product, {line.item}, [&](const Row& row) {
-    item = {line.kind == 1 ? Param(row.Integer(0)) : Param(),
+  session.Select(line.kind == kServico ? service : product, {line.item}, [&](const Row& row) {
+    item = {line.kind == kServico ? Param(row.Integer(0)) : Param(),
             row.Text(1),
             row.Text(2),
             row.Text(3),
@@ -69,9 +75,9 @@ Params ItemOf(Session& session, const PreSale& line) {
 /// by its type.
 std::int64_t Commission(const PreSale& line, const Params& item) {
   if (line.employee == 0) return 0;
-  if (line.kind == 2) return *item[6].Integer();
+  if (line.kind == kProduto) return *item[6].Integer();
   const Funcionario& employee = Funcionarios()[line.employee - 1];
-  // The last share is for the other types, whose number is 99.
+  // The last share is for the other types, whose number stands apart.
   const auto last = std::ssize(employee.percentuais);
   const std::int32_t share = employee.percentuais[std::min(*item[0].Integer(), last) - 1];
   return (employee.unica ? employee.percentualUnico : share) * kPercent;
@@ -80,7 +86,7 @@ std::int64_t Commission(const PreSale& line, const Params& item) {
 Params PreSaleRow(Session& session, const PreSale& line, base::DateTime now) {
   const Params item = ItemOf(session, line);
   const Params animal =
-      line.kind == 1 ? AnimalOf(session, line.customer, line.animalAt) : Params{Param(), ""};
+      line.kind == kServico ? AnimalOf(session, line.customer, line.animalAt) : Params{Param(), ""};
   const base::DateTime when = now.PlusDays(-line.daysAgo);
   const std::int64_t gross = *item[4].Integer() * line.quantity;
   const std::int64_t discount = gross * line.discountPercent / 100 / kCentavo * kCentavo;
@@ -88,7 +94,7 @@ Params PreSaleRow(Session& session, const PreSale& line, base::DateTime now) {
   const Param employee = line.employee == 0 ? Param() : Param(line.employee);
   const std::string_view name =
       line.employee == 0 ? std::string_view() : Funcionarios()[line.employee - 1].apelido;
-  return {line.kind,
+  return {std::int32_t{line.kind},
           line.customer,
           Param::Date(when),
           item[0],

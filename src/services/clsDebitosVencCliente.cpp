@@ -1,3 +1,4 @@
+#include "frame/servicos/Debito.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsDebitosVencCliente.h"
 #include "services/Fabricas.h"
 #include "services/Fields.h"
@@ -26,7 +27,7 @@ class clsDebitosVencCliente : public SobreBanco<Contrato> {
           "SELECT " + ColumnsOf(kFields) +
           " FROM contas_a_receber WHERE codigo_do_cliente = $1 AND data_de_recebimento IS NULL"
           " AND data_de_vencimento < $2 ORDER BY data_de_vencimento, numero LIMIT 200");
-      const std::int32_t codigo = CodeInCondition(condicao, "ContasAReceber.CodigoDoCliente");
+      const std::int32_t codigo = CodeInCondition(condicao, servicos::debito::kColunaDoCliente);
       const Params params{codigo, Param::Date(banco().Agora())};
       outcome_.rows = SelectRows(sessao(), kFields, overdue, params).rows;
     });

@@ -8,8 +8,8 @@
 /// are settled or renegotiated.
 namespace servicos::debito {
 
-/// What the services of a customer's debts are asked for: followed by the customer's code.
-inline constexpr std::string_view kCondicaoDoCliente = " WHERE [ContasAReceber.CodigoDoCliente]=";
+/// The column that the services of a customer's debts are asked by: " WHERE [column]=code".
+inline constexpr std::string_view kColunaDoCliente = "ContasAReceber.CodigoDoCliente";
 
 enum Coluna : std::int32_t {
   kPagar = 0,  ///< kMarcado or kDesmarcado.
