@@ -4,6 +4,8 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/Consultas.h"
+#include "frame/CriarServico.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
 #include "frame/Valores.h"
@@ -21,8 +23,7 @@ std::int16_t VerificarBloqueioDoClienteParaOperacoesNosCaixas(double codigo) {
   std::int16_t resultado = 0;
   Procedimento(
       ", modFuncoes, VerificarBloqueioDoClienteParaOperacoesNosCaixas, Ponto: ", [&](Ponto& ponto) {
-        auto administrativo = servicos::CriarServico<clsAdministrativo>();
-        administrativo->DadosDoUsuario(valores().DadosDoUsuario);
+        auto administrativo = CriarServicoComSessao<clsAdministrativo>();
         ponto = 2;
         if (administrativo->SelecionarClientesComTransacoesBloqueadas(2, 0, codigo, 1) != 0) return;
         ponto = 3;
@@ -58,11 +59,9 @@ void BloquearOuDesbloquearClienteParaOperacoesNosCaixas(double codigo, std::int1
 bool RetornarCreditoDoCliente(double codigo, base::Currency& credito) {
   bool lido = false;
   Procedimento(", frmFichaClinica, RetornarCreditoDoCliente, Ponto: ", [&](Ponto& ponto) {
-    auto clientes = servicos::CriarServico<clsClientes>();
-    clientes->DadosDoUsuario(valores().DadosDoUsuario);
+    auto clientes = CriarServicoComSessao<clsClientes>();
     ponto = 2;
-    std::string semNome;
-    if (clientes->Selecionar(2, 0, 0, "", semNome, codigo, "", "", "", 0, "") != 0) {
+    if (consultas::Cliente(*clientes, codigo) != servicos::kSucesso) {
       ExibirErroDoServico(*clientes);
       return;
     }
@@ -80,8 +79,7 @@ bool RetornarCreditoDoCliente(double codigo, base::Currency& credito) {
 bool InformacoesDoLimiteDeCredito(double codigo, base::Currency valor) {
   bool permitido = false;
   Procedimento(", frmFichaClinica, InformacoesDoLimiteDeCredito, Ponto: ", [&](Ponto& ponto) {
-    auto clientes = servicos::CriarServico<clsClientes>();
-    clientes->DadosDoUsuario(valores().DadosDoUsuario);
+    auto clientes = CriarServicoComSessao<clsClientes>();
     ponto = 2;
     base::Currency limite, utilizado, disponivel;
     if (clientes->RetornarInformacoesDoLimiteDeCredito(codigo, limite, utilizado, disponivel) !=
