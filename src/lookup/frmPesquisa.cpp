@@ -232,4 +232,15 @@ bool frmPesquisa::Pesquisar() {
   return encontrou;
 }
 
+std::optional<ItemEncontrado> EscolherItem(frmPesquisa& lista, const Selecao& encontrados,
+                                           const std::function<ItemEncontrado()>& ler) {
+  std::optional<ItemEncontrado> item;
+  {
+    const frame::FundoEscuro fundo;
+    if (lista.Escolher(encontrados)) item = ler();
+  }
+  lista.Unload();
+  return item;
+}
+
 }  // namespace lookup

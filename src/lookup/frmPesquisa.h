@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,6 +12,7 @@
 #include "frame/Lista.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/servicos/Servico.h"
+#include "lookup/ItemEncontrado.h"
 #include "platform/Form.h"
 #include "platform/Label.h"
 #include "platform/Layout.h"
@@ -122,5 +125,10 @@ class frmPesquisa : public platform::Form {
   /// Keeps the find field from searching while the dialog itself writes.
   bool suprimirProximoClick_ = false;
 };
+
+/// The item that the operator picks from a list over the darkened host, which is unloaded then;
+/// nothing when they leave it. `ler` gives the item of the chosen row.
+std::optional<ItemEncontrado> EscolherItem(frmPesquisa& lista, const Selecao& encontrados,
+                                           const std::function<ItemEncontrado()>& ler);
 
 }  // namespace lookup

@@ -49,13 +49,7 @@ ItemEncontrado frmPesquisaDeProdutos::Produto() const {
 
 std::optional<ItemEncontrado> EscolherProduto(const Selecao& produtos) {
   frmPesquisaDeProdutos lista;
-  std::optional<ItemEncontrado> produto;
-  {
-    const frame::FundoEscuro fundo;
-    if (lista.Escolher(produtos)) produto = lista.Produto();
-  }
-  lista.Unload();
-  return produto;
+  return EscolherItem(lista, produtos, [&] { return lista.Produto(); });
 }
 
 Selecao frmPesquisaDeProdutos::Selecionar(const std::string& texto, frame::Espera& espera) {

@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "lookup/ItemEncontrado.h"
 #include "lookup/frmPesquisa.h"
 
 namespace lookup {

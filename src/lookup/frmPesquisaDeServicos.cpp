@@ -126,13 +126,7 @@ std::optional<ItemEncontrado> EscolherServico(const Selecao& servicos,
                                               const platform::ZVComboBox& tipos) {
   frmPesquisaDeServicos lista;
   lista.CopiarTiposDeServicos(tipos);
-  std::optional<ItemEncontrado> servico;
-  {
-    const frame::FundoEscuro fundo;
-    if (lista.Escolher(servicos)) servico = lista.Servico();
-  }
-  lista.Unload();
-  return servico;
+  return EscolherItem(lista, servicos, [&] { return lista.Servico(); });
 }
 
 }  // namespace lookup

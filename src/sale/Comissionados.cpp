@@ -30,9 +30,13 @@ constexpr ComissaoDoTipo kComissoes[] = {
     {servicos::kAdestramento, "PercentualDeComissaoEmAdestramentos"},
     {servicos::kOutros, "PercentualDeComissaoEmOutros"}};
 
+bool EhSim(const base::Value& valor) {
+  return base::Upper(base::ToText(valor)) == "SIM";
+}
+
 /// What an employee earns on a service of the type; 0 without a type.
 Currency ComissaoEmServico(const base::RecordSet& funcionario, std::int32_t tipo) {
-  if (base::Upper(base::ToText(funcionario.Fields("ComissaoUnica"))) == "SIM") {
+  if (EhSim(funcionario.Fields("ComissaoUnica"))) {
     return base::ToCurrency(funcionario.Fields("PercentualDeComissaoUnica"));
   }
   for (const ComissaoDoTipo& comissao : kComissoes) {
@@ -95,7 +99,7 @@ bool frmCaixaOperar::PreencherComboboxComissionados(std::int16_t tipo) {
     zvcmbComissionado.Clear();
     zvcmbComissionado.AddItem("", 0);
     base::ForEachRow(*linhas, [&] {
-      if (base::Upper(base::ToText(linhas->Fields("Comissionado"))) != "SIM") return;
+      if (!EhSim(linhas->Fields("Comissionado"))) return;
       const Currency percentual = tipo == kProduto
                                       ? item_.PercentualDeComissaoDoProduto()
                                       : ComissaoEmServico(*linhas, item_.TipoDeServico());

@@ -76,6 +76,11 @@ void ItemEmEdicao::Esvaziar(ZVFind& campo) {
 
 void ItemEmEdicao::Receber(const ItemEncontrado& item) {
   const frame::SupressaoDePesquisa supressao;
+  Mostrar(item);
+  if (item.tipo == kServico) Escolher(tela_.zvcmbTiposDeServicos, item.tipoDeServico);
+}
+
+void ItemEmEdicao::Mostrar(const ItemEncontrado& item) {
   const bool servico = item.tipo == kServico;
   (servico ? servico_ : produto_) = item;
   ZVFind& nome = servico ? tela_.zvfNomeDoServico : tela_.zvfNomeDoProduto;
@@ -85,15 +90,13 @@ void ItemEmEdicao::Receber(const ItemEncontrado& item) {
   codigo.Text = item.codigo;
   nome.Text = item.nome;
   nome.Tag = item.custo;
-  if (servico) {
-    Escolher(tela_.zvcmbTiposDeServicos, item.tipoDeServico);
-  } else {
-    tela_.zvfCodigoDeBarrasDoProduto.Status = ZVFind::kFound;
-    tela_.zvfCodigoDeBarrasDoProduto.Text = item.codigoDeBarras;
-  }
+  if (servico) return;
+  tela_.zvfCodigoDeBarrasDoProduto.Status = ZVFind::kFound;
+  tela_.zvfCodigoDeBarrasDoProduto.Text = item.codigoDeBarras;
 }
 
 void ItemEmEdicao::Devolver(const base::GradeLida& grade, std::int32_t linha) {
+  frame::SupressaoDePesquisa supressao;
   const auto celula = [&](std::int32_t coluna) { return grade.TextMatrix(linha, coluna); };
   ItemEncontrado item{.codigo = celula(kCodigo), .nome = celula(kNome), .custo = celula(kCusto)};
   if (TipoDeLancamentoDa(grade, linha) == kProduto) {
@@ -101,11 +104,12 @@ void ItemEmEdicao::Devolver(const base::GradeLida& grade, std::int32_t linha) {
     item.codigoDeBarras = celula(kTipoOuCodigoDeBarras);
     item.unidade = celula(kUnidade);
     item.percentualDeComissao = base::ToCurrency(celula(kPercentualDeComissao));
-    Receber(item);
+    Mostrar(item);
     return;
   }
   item.tipoDeServico = base::ToInt32(base::Val(celula(kTipoOuCodigoDeBarras)));
-  Receber(item);
+  Escolher(tela_.zvcmbTiposDeServicos, item.tipoDeServico);
+  Mostrar(item);
   Escolher(tela_.zvcmbAnimal, base::ToInt32(base::Val(celula(kCodigoDoAnimal))));
 }
 

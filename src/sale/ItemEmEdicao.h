@@ -56,6 +56,8 @@ class ItemEmEdicao {
   void Encerrar();
 
  private:
+  void Mostrar(const lookup::ItemEncontrado& item);
+
   TelaDoBalcao& tela_;
   lookup::ItemEncontrado servico_, produto_{.tipo = kProduto};
   /// The ledger entry that the next line takes; 0 for a new line.

@@ -86,9 +86,12 @@ void frmCaixaOperar::zvfCodigoDeBarrasDoProduto_Click() {
       VoltarAoCampo(campo);
       return;
     }
-    if (daBalanca ? !PesarNaBalanca() : !PreencherComboboxComissionados(kProduto)) return;
+    if (!daBalanca) {
+      AbrirCamposDoProdutoEncontrado();
+      return;
+    }
+    if (!PesarNaBalanca()) return;
     HabilitarDesabilitarCampos(true);
-    if (!daBalanca) optServico.Enabled = zvcmbAnimal.ListCount() > 0;
     zvcmbComissionado.SetFocus();
   });
 }
@@ -141,7 +144,11 @@ void frmCaixaOperar::PesquisarOuLimparItem(ZVFind& campo) {
     campo.Status = ZVFind::kFound;
     return;
   }
-  if (deServico || !PreencherComboboxComissionados(kProduto)) return;
+  if (!deServico) AbrirCamposDoProdutoEncontrado();
+}
+
+void frmCaixaOperar::AbrirCamposDoProdutoEncontrado() {
+  if (!PreencherComboboxComissionados(kProduto)) return;
   HabilitarDesabilitarCampos(true);
   optServico.Enabled = zvcmbAnimal.ListCount() > 0;
   zvcmbComissionado.SetFocus();

@@ -126,6 +126,7 @@ class frmCaixaOperar final : public TelaDoBalcao {
   void RecomecarItem(platform::ZVFind& campo);
   void VoltarAoCampo(platform::ZVFind& campo);
   bool PesarNaBalanca();
+  void AbrirCamposDoProdutoEncontrado();
   lookup::Selecao SelecionarProdutos(const std::string& nome, const std::string& codigoDeBarras,
                                      double codigoInterno);
 

@@ -19,8 +19,8 @@ enum class Of { kMoney, kCount };
 /// not farther apart than the column t.
 struct Rule {
   Of what;
-  const char*
-      selection;  ///< With {wide} for a number that products of amounts fit into, and ComCodigos.
+  /// With the names of ComCodigos, and {wide} for a number that products of amounts fit into.
+  const char* selection;
   const char* sentence;  ///< With {n}, {a} and {b}.
   const char* tolerance = "0";
 };
@@ -57,20 +57,19 @@ constexpr Rule kRules[] = {
      "Venda {n}: há {a} vendas com o número de operação dela."},
     {Of::kCount,
      "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN lancamentos_de_caixa l"
-     " ON l.numero_da_venda = v.numero WHERE l.tipo IN ({recebimento}, {troco}) AND l.operacao <> "
-     "v.operacao"
-     " AND v.operacao <> -4611686018427387904 - v.numero GROUP BY v.numero",
+     " ON l.numero_da_venda = v.numero WHERE l.tipo IN ({recebimento}, {troco})"
+     " AND l.operacao <> v.operacao AND v.operacao <> -4611686018427387904 - v.numero GROUP BY "
+     "v.numero",
      "Venda {n}: {a} lançamentos têm outro número de operação."},
     {Of::kCount,
      "SELECT numero_da_venda AS n, count(*) AS a, 0 AS b FROM itens_de_venda"
-     " WHERE tipo_de_lancamento NOT IN ({servico}, {produto}) OR tipo_de_venda NOT IN ({balcao}, "
-     "{preVenda})"
-     " GROUP BY numero_da_venda",
+     " WHERE tipo_de_lancamento NOT IN ({servico}, {produto})"
+     " OR tipo_de_venda NOT IN ({balcao}, {preVenda}) GROUP BY numero_da_venda",
      "Venda {n}: {a} itens são de um tipo que não existe."},
     {Of::kCount,
      "SELECT numero_do_caixa AS n, count(*) AS a, 0 AS b FROM lancamentos_de_caixa"
-     " WHERE tipo NOT IN ({qualquerMovimento}) OR moeda NOT IN ({qualquerMoeda}) GROUP BY "
-     "numero_do_caixa",
+     " WHERE tipo NOT IN ({qualquerMovimento}) OR moeda NOT IN ({qualquerMoeda})"
+     " GROUP BY numero_do_caixa",
      "Caixa {n}: {a} lançamentos são de um tipo ou uma moeda que não existe."},
     {Of::kCount,
      "SELECT min(numero_do_caixa) AS n, count(*) AS a, 1 AS b FROM lancamentos_de_caixa"
@@ -78,9 +77,9 @@ constexpr Rule kRules[] = {
      "Caixa {n}: há {a} lançamentos com o mesmo número de operação."},
     {Of::kCount,
      "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN lancamentos_de_caixa l"
-     " ON l.numero_da_venda = v.numero WHERE l.tipo IN ({recebimento}, {troco}) AND (l.data_e_hora "
-     "<> v.data_e_hora"
-     " OR l.numero_do_caixa <> v.numero_do_caixa OR l.operador <> v.operador) GROUP BY v.numero",
+     " ON l.numero_da_venda = v.numero WHERE l.tipo IN ({recebimento}, {troco})"
+     " AND (l.data_e_hora <> v.data_e_hora OR l.numero_do_caixa <> v.numero_do_caixa OR l.operador "
+     "<> v.operador) GROUP BY v.numero",
      "Venda {n}: {a} lançamentos não são do caixa, do operador ou da hora dela."},
     {Of::kCount,
      "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN contas_a_receber c"
@@ -113,9 +112,8 @@ constexpr Rule kRules[] = {
      " LEFT JOIN (SELECT numero_da_venda, CAST(sum(valor_do_documento) AS bigint) AS soma"
      " FROM contas_a_receber GROUP BY numero_da_venda) r ON r.numero_da_venda = v.numero"
      " LEFT JOIN (SELECT numero_da_venda, CAST(sum(valor) AS bigint) AS soma"
-     " FROM lancamentos_de_caixa WHERE tipo = {recebimento} AND moeda = {aCredito} GROUP BY "
-     "numero_da_venda) l"
-     " ON l.numero_da_venda = v.numero",
+     " FROM lancamentos_de_caixa WHERE tipo = {recebimento} AND moeda = {aCredito}"
+     " GROUP BY numero_da_venda) l ON l.numero_da_venda = v.numero",
      "Venda {n}: as contas a receber somam {a}, e o pagamento a crédito (fiado) é {b}."},
     {Of::kMoney,
      "SELECT v.numero AS n, coalesce(c.soma, 0) AS a, v.credito_mantido - v.credito_usado AS b"

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "base/Record.h"
-#include "base/RuntimeError.h"
 #include "frame/servicos/ArquivoDeRetorno.h"
 #include "services/Banco.h"
 #include "services/DatabaseError.h"
+#include "services/Registros.h"
 #include "services/RespostasDaTroca.h"
 #include "services/Session.h"
 #include "services/Venda.h"
@@ -210,12 +210,9 @@ void MarcarRetirado(Banco& banco, std::int32_t numero) {
 void GuardandoCupom(Banco& banco, const Venda& venda, const std::function<void()>& registrar) {
   try {
     registrar();
-  } catch (const base::RuntimeError& erro) {
-    // Of a sale in doubt nobody may be told yet that its coupon is without one.
-    if (erro.Number() != static_cast<std::int32_t>(Trouble::kInDoubt)) SalvarChave(banco, venda);
-    throw;
   } catch (...) {
-    SalvarChave(banco, venda);
+    // While a sale is in doubt nobody may be told that its coupon is without one.
+    if (!banco.Registros().HaDuvida()) SalvarChave(banco, venda);
     throw;
   }
   banco.CupomEmAndamento(0);

@@ -20,6 +20,7 @@ constexpr Type kTypes[] = {
     {"{moment}", "TEXT", "timestamp(0)"},
     {"{date}", "TEXT", "date"},
     {"{table}", " STRICT", ""},
+    {"{hashed}", "", "USING hash "},
     {"{keyed}", " STRICT, WITHOUT ROWID", ""},
 };
 
@@ -412,6 +413,12 @@ CREATE INDEX cupons_da_estacao ON cupons (marca, computador, criado_em);
 CREATE INDEX cupons_por_chave ON cupons (chave);
 )sql";
 
+/// A key is kept as it came, however long: the entries of PostgreSQL's usual index have a limit.
+constexpr std::string_view kKeysOfAnyLength = R"sql(
+DROP INDEX cupons_por_chave;
+CREATE INDEX cupons_por_chave ON cupons {hashed}(chave);
+)sql";
+
 /// The index of a table's names keeps no copy of them: it follows its table through triggers.
 constexpr std::string_view kSearchOnSqlite = R"sql(
 CREATE VIRTUAL TABLE {t}_busca USING fts5(nome_busca, content='{t}', content_rowid='{k}',
@@ -445,6 +452,7 @@ constexpr Migration kMigrations[] = {
     {3, kSignInAttempts, {}},
     {4, kMarksAndOperations, {}},
     {5, kCoupons, {}},
+    {6, kKeysOfAnyLength, {}},
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
 #include "services/ConsultaDeCupons.h"
@@ -99,6 +100,19 @@ TEST_P(CouponTest, ServesTheSaleThatWasRefusedWhenItIsTriedAgain) {
   EXPECT_NE(first, Export()) << "the next sale of the same has a coupon of its own";
   EXPECT_EQ("vendido with key of 1; enviado; ", Coupons());
   ExpectBooksBalance();
+}
+
+TEST_P(CouponTest, KeepsAKeyAsItCame) {
+  std::mt19937 draw(7);  // So mixed that no engine makes it short.
+  std::string key;
+  while (key.size() < 9000) key += std::to_string(draw());
+  Export();
+  Write("UPDATE caixas SET aberto = 0 WHERE numero = 1");
+  EXPECT_EQ(2, Sell(key));
+  EXPECT_EQ(key, Read("SELECT chave FROM cupons"));
+  Write("UPDATE caixas SET aberto = 1 WHERE numero = 1");
+  EXPECT_EQ(0, Sell(key));
+  EXPECT_EQ(key, Read("SELECT chave_sat FROM vendas"));
 }
 
 TEST_P(CouponTest, IsAskedForAgainOnlyWhereTheFirstCannotCome) {

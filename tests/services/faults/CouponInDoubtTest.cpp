@@ -57,6 +57,7 @@ TEST_P(CouponInDoubtTest, TheSameSaleHasTheSameCouponWhateverBecameOfTheFirstTry
     std::string news;
     banco_->AoAvisar([&](const std::string& sentence) { news += sentence; });
     EXPECT_EQ(servicos::kErro, NewSale({.key = "KEY"})->RegistrarPagamento());
+    EXPECT_EQ(servicos::kRecusa, NewSale({.key = "KEY"})->RegistrarPagamento());
     EXPECT_EQ("", news) << "nobody is to cancel the coupon of a sale that may stand";
     proxy.LetIn();
     EXPECT_TRUE(session().TryToReconnect());
