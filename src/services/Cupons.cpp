@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Record.h"
+#include "base/RuntimeError.h"
 #include "frame/servicos/ArquivoDeRetorno.h"
 #include "services/Banco.h"
 #include "services/DatabaseError.h"
@@ -209,8 +210,9 @@ void MarcarRetirado(Banco& banco, std::int32_t numero) {
 void GuardandoCupom(Banco& banco, const Venda& venda, const std::function<void()>& registrar) {
   try {
     registrar();
-  } catch (const DatabaseError& erro) {
-    if (erro.What() != Trouble::kInDoubt) SalvarChave(banco, venda);
+  } catch (const base::RuntimeError& erro) {
+    // Of a sale in doubt nobody may be told yet that its coupon is without one.
+    if (erro.Number() != static_cast<std::int32_t>(Trouble::kInDoubt)) SalvarChave(banco, venda);
     throw;
   } catch (...) {
     SalvarChave(banco, venda);

@@ -54,7 +54,10 @@ TEST_P(CouponInDoubtTest, TheSameSaleHasTheSameCouponWhateverBecameOfTheFirstTry
     banco_->CupomEmAndamento(coupon);
     session().KeepTo(
         {.writing = std::chrono::milliseconds(800), .findingOut = std::chrono::milliseconds(800)});
+    std::string news;
+    banco_->AoAvisar([&](const std::string& sentence) { news += sentence; });
     EXPECT_EQ(servicos::kErro, NewSale({.key = "KEY"})->RegistrarPagamento());
+    EXPECT_EQ("", news) << "nobody is to cancel the coupon of a sale that may stand";
     proxy.LetIn();
     EXPECT_TRUE(session().TryToReconnect());
     EXPECT_EQ(state, Read("SELECT situacao FROM cupons WHERE chave = 'KEY'")) << "at once";
