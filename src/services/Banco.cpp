@@ -46,6 +46,13 @@ void Banco::CuidarDoPendente() noexcept {
   if (sessao_->IsConnected() || sessao_->TryToReconnect()) TratarPendente();
 }
 
+void Banco::CuidarPelaUltimaVez() noexcept {
+  aoAvisar_ = {};
+  correrEventos_ = {};
+  sessao_->WhileWaiting({});
+  CuidarDoPendente();
+}
+
 void Banco::TratarPendente() noexcept {
   if (tratando_ || !TemPendente()) return;
   tratando_ = true;

@@ -101,6 +101,9 @@ class Banco {
   /// was made again. For a host's timer, every few seconds, and at rest alone: within an operation
   /// of a service it does nothing. It may take 10 s, and keeps the screens alive meanwhile.
   void CuidarDoPendente() noexcept;
+  /// The same once more, for a host that goes: what waits is forgotten with this program. Nothing
+  /// of the host is called any more, and nobody is told.
+  void CuidarPelaUltimaVez() noexcept;
 
   /// One operation of a service.
   class Uso {

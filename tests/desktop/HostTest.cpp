@@ -116,6 +116,19 @@ TEST_F(HostTest, WhoCouldNotBeFreedIsFreedAtRest) {
   });
 }
 
+TEST_F(HostTest, WhoCouldNotBeFreedIsFreedAtTheLatestAtTheEnd) {
+  {
+    const host::PendingCare care(desktop, bank, std::chrono::hours(1));
+    Play(kUpToCustomer, [&] {
+      services::TravarCliente(*bank, 3, bank->Estacao(), "ana");
+      bank->LiberarDepois(3, bank->Estacao());
+      window->close();
+    });
+    EXPECT_EQ(1U, services::ListarTravas(*bank).size());
+  }
+  EXPECT_TRUE(services::ListarTravas(*bank).empty());
+}
+
 TEST_F(HostTest, ClosingInMidWorkUnwindsFirstAndThenFreesTheCustomer) {
   std::vector<Step> script = kUpToCustomer;
   script.push_back({Act::kPick, "zvcmbTiposDeServicos", "Cl"});

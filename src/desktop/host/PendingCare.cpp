@@ -9,12 +9,17 @@
 namespace host {
 
 PendingCare::PendingCare(desktop::DesktopQt& desktop, std::shared_ptr<services::Banco> bank,
-                         std::chrono::milliseconds interval) {
-  QObject::connect(&timer_, &QTimer::timeout, [&desktop, bank = std::move(bank)] {
+                         std::chrono::milliseconds interval)
+    : bank_(std::move(bank)) {
+  QObject::connect(&timer_, &QTimer::timeout, [&desktop, bank = bank_.get()] {
     if (!bank->TemPendente() || !desktop.IsResting()) return;
-    platform::input::Run([&bank] { bank->CuidarDoPendente(); });
+    platform::input::Run([bank] { bank->CuidarDoPendente(); });
   });
   timer_.start(interval);
+}
+
+PendingCare::~PendingCare() {
+  bank_->CuidarPelaUltimaVez();
 }
 
 }  // namespace host

@@ -21,8 +21,13 @@ class PendingCare {
   /// What is left is looked at every `interval`; where there is nothing, that costs nothing.
   PendingCare(desktop::DesktopQt& desktop, std::shared_ptr<services::Banco> bank,
               std::chrono::milliseconds interval = std::chrono::seconds(3));
+  /// Looks once more: who is still held then stays held for every other workstation.
+  ~PendingCare();
+  PendingCare(const PendingCare&) = delete;
+  PendingCare& operator=(const PendingCare&) = delete;
 
  private:
+  std::shared_ptr<services::Banco> bank_;
   QTimer timer_;
 };
 

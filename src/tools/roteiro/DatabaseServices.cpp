@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 #include "frame/Valores.h"
 #include "frame/modMensagemDeErro.h"
@@ -60,11 +61,23 @@ void UseSuite(StandIns& standIns) {
   });
 }
 
+/// Looks once more at what waits for the database when the host goes.
+class LastCare {
+ public:
+  explicit LastCare(std::shared_ptr<services::Banco> bank) : bank_(std::move(bank)) {}
+  ~LastCare() { bank_->CuidarPelaUltimaVez(); }
+  LastCare(const LastCare&) = delete;
+  LastCare& operator=(const LastCare&) = delete;
+
+ private:
+  std::shared_ptr<services::Banco> bank_;
+};
+
 std::function<void()> CareOf(const std::shared_ptr<services::Banco>& bank,
                              platform::Desktop& desktop) {
   const auto news = std::make_shared<std::deque<std::string>>();
   bank->AoAvisar([news](const std::string& sentence) { news->push_back(sentence); });
-  return [bank, news, &desktop] {
+  return [bank, news, &desktop, last = std::make_shared<LastCare>(bank)] {
     bank->CuidarDoPendente();
     while (!news->empty()) {
       const std::string sentence = news->front();

@@ -248,7 +248,7 @@ TEST_P(CutDoubtTest, AFaultAfterARegistrationBeginsWithWhatStands) {
 }
 
 TEST_P(CutDoubtTest, WhoCouldNotBeFreedIsFreedWhenTheServerIsBack) {
-  for (const char* how : {"timer", "use", "taken again"}) {
+  for (const char* how : {"timer", "use", "taken again", "end"}) {
     CuttingProxy proxy(Port(), Moment::kClientBytes, Deed::kGone);
     OpenThrough(proxy);
     Lock(true);
@@ -264,6 +264,7 @@ TEST_P(CutDoubtTest, WhoCouldNotBeFreedIsFreedWhenTheServerIsBack) {
       if (takes) Lock(true);
       if (how == std::string("timer")) banco_->CuidarDoPendente();
       if (how == std::string("use")) List();
+      if (how == std::string("end")) banco_->CuidarPelaUltimaVez();
     }
     EXPECT_FALSE(banco_->TemPendente()) << how;
     EXPECT_EQ(takes ? 1 : 0, Count("travas_de_clientes")) << how;
