@@ -35,12 +35,18 @@ void Banco::NaoLiberar(std::int32_t codigo) {
   std::erase_if(liberacoes_, [codigo](const Liberacao& each) { return each.codigo == codigo; });
 }
 
+void Banco::LembrarRegistros(const std::string& pasta, std::string_view endereco) {
+  registros_->Lembrar(pasta, endereco);
+}
+
 bool Banco::TemPendente() const {
-  return !liberacoes_.empty() || registros_->HaDuvida();
+  return !liberacoes_.empty() || registros_->HaDuvida() || registros_->HaNotaVista();
 }
 
 void Banco::CuidarDoPendente() noexcept {
-  if (usos_ > 0 || !TemPendente()) return;
+  if (usos_ > 0) return;
+  registros_->ApagarNotaVista();
+  if (!TemPendente()) return;
   const Uso uso(*this);
   // A connection that is made again does the work by itself.
   if (sessao_->IsConnected() || sessao_->TryToReconnect()) TratarPendente();

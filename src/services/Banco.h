@@ -91,11 +91,16 @@ class Banco {
 
   /// What became of what this program registered.
   services::Registros& Registros() { return *registros_; }
+  /// Notes in the settings folder what is being registered, and takes up what a program that was
+  /// killed or closed in doubt has left there for the database of this address: it waits to be
+  /// looked at, like what is in doubt now.
+  void LembrarRegistros(const std::string& pasta, std::string_view endereco);
   /// A customer could not be freed for now: it is done as soon as the database is there, unless
   /// this computer takes him again before.
   void LiberarDepois(std::int32_t codigo, const services::Estacao& estacao);
   void NaoLiberar(std::int32_t codigo);
-  /// Whether something waits for the database: a customer to be freed, a registration in doubt.
+  /// Whether something waits: a customer to be freed, a registration in doubt, the note of one that
+  /// the operator has seen by now.
   bool TemPendente() const;
   /// Takes up what waits, as soon as the database is there; it is also done whenever a connection
   /// was made again. For a host's timer, every few seconds, and at rest alone: within an operation

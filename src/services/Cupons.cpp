@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Record.h"
+#include "base/RuntimeError.h"
 #include "frame/servicos/ArquivoDeRetorno.h"
 #include "services/Banco.h"
 #include "services/DatabaseError.h"

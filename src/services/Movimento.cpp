@@ -64,7 +64,8 @@ void Write(Session& session, const Movimento& movement, Transaction& transaction
 Registro Told(const Movimento& movement) {
   const std::string drawer = "caixa " + std::to_string(movement.numeroDoCaixa);
   const std::string value = base::FormatMoney(base::Abs(movement.valor));
-  Registro told{.oQue = "", .quando = movement.quando, .conteudo = {}};
+  Registro told{
+      .oQue = "", .quando = movement.quando, .operacao = movement.operacao, .conteudo = {}};
   switch (movement.tipo) {
     case servicos::kAbertura:
       told.oQue = "abertura do " + drawer + " com " + value;

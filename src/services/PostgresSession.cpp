@@ -80,8 +80,8 @@ const Params& NoParams() {
   return none;
 }
 
-/// Tells this connection from every other one. The server keeps no more than 63 characters of it,
-/// so the number stands in front of the computer's name.
+/// Tells this session's connections from all others. The server keeps no more than 63 characters of
+/// it, so the number stands in front of the computer's name.
 std::string RandomLabel(const std::string& computer) {
   return "caixa " + std::to_string(randombytes_random()) + ' ' + computer;
 }
@@ -105,8 +105,9 @@ bool Greet(PostgresLink& link, const Waiting& waiting) {
 }  // namespace
 
 PostgresSession::PostgresSession(std::string connection, std::string computer)
-    : text_(std::move(connection)), computer_(std::move(computer)) {
+    : text_(std::move(connection)) {
   if (sodium_init() < 0) throw DatabaseError(Trouble::kOther, "libsodium");
+  label_ = RandomLabel(computer);
   Connect(Start() + kConnecting);
 }
 
@@ -154,9 +155,10 @@ void PostgresSession::Connect(Clock::time_point end) {
     const auto now = Clock::now();
     const Waiting waiting(whole, now + (whole.End() - now) / left--);
     try {
-      auto fresh = std::make_unique<PostgresLink>(host, RandomLabel(computer_), waiting);
+      auto fresh = std::make_unique<PostgresLink>(host, label_, waiting);
       isSetReadOnly_ = Greet(*fresh, waiting);
       link_ = std::move(fresh);
+      name_ = link_->Label();
       lastHost_ = host.name;
       if (wasConnected_) NoteReconnection();
       wasConnected_ = true;
@@ -335,7 +337,7 @@ std::optional<Standing> PostgresSession::Seen(const Doubt& doubt, Clock::time_po
   // The server may still be at the commit whose client it has lost, or yet to be told of it.
   static const Statement lingering(
       "SELECT pg_terminate_backend(pid) FROM pg_stat_activity"
-      " WHERE application_name = $1 AND usename = current_user");
+      " WHERE application_name = $1 AND usename = current_user AND pid <> pg_backend_pid()");
   static const Statement follows("SELECT 1 WHERE pg_is_in_recovery()");
   if (doubt.proof.statement == nullptr) return Standing::kUnknown;
   EnsureConnected(end);

@@ -23,6 +23,7 @@ class PostgresSession : public Session {
   ~PostgresSession() override;
 
   Engine Kind() const override { return Engine::kPostgres; }
+  std::string Name() const override { return name_; }
   bool IsConnected() const override { return link_ != nullptr && !link_->HasNews(); }
   bool TryToReconnect() noexcept override;
 
@@ -63,7 +64,7 @@ class PostgresSession : public Session {
   std::optional<Standing> Seen(const Doubt& doubt, Clock::time_point end);
 
   std::string text_;
-  std::string computer_;
+  std::string label_, name_;  ///< As it is asked for, and as the server lists it.
   std::string lastHost_;
   std::unique_ptr<PostgresLink> link_;
   bool wasConnected_ = false;

@@ -126,6 +126,7 @@ std::int32_t RegistrarVenda(Banco& banco, const Venda& venda) {
       .oQue = "venda de " + base::FormatMoney(venda.valorLiquido) + " para " + name,
       .temNumero = true,
       .quando = venda.quando,
+      .operacao = venda.operacao,
       .conteudo = [&] { return ContentOf(venda); }};
   return banco.Registros().Registrar(registro, [&](std::int32_t& number) {
     Write(banco.Sessao(), venda, banco.Estacao(), number);

@@ -9,11 +9,21 @@
 #include "services/Banco.h"
 #include "services/DatabaseError.h"
 #include "services/Outcome.h"
+#include "services/Senhas.h"
 
 namespace services {
 namespace {
 
 constexpr double kSegundosParaRepetir = 15 * 60;
+
+/// What an earlier run of the program asked for, by its operation: the number of a sale, if it
+/// stands.
+const Statement& ProvaDe(bool temNumero) {
+  static const Statement sale("SELECT numero FROM vendas WHERE operacao = $1");
+  static const Statement movement(
+      "SELECT 1 FROM lancamentos_de_caixa WHERE operacao = $1 AND numero_da_venda IS NULL");
+  return temNumero ? sale : movement;
+}
 
 std::string Hora(base::DateTime quando) {
   std::array<char, 6> texto{};
@@ -88,6 +98,50 @@ std::string ConteudoDe(const std::vector<Params>& linhas) {
   return conteudo;
 }
 
+void Registros::Lembrar(const std::string& pasta, std::string_view banco) {
+  lembrete_.emplace(pasta, banco);
+  const auto& deixada = lembrete_->Deixada();
+  if (!deixada) return;
+  // The same sale again finds the coupon that it had.
+  banco_.CupomEmAndamento(deixada->cupom);
+  duvida_ = Duvida{.registro = {.oQue = deixada->oQue,
+                                .artigo = deixada->artigo,
+                                .temNumero = deixada->temNumero,
+                                .quando = deixada->quando,
+                                .operacao = deixada->operacao,
+                                .conteudo = nullptr},
+                   .conteudo = deixada->conteudo,
+                   .numero = 0,
+                   .doubt = {.label = deixada->sessao,
+                             .proof = {&ProvaDe(deixada->temNumero), {deixada->operacao}}}};
+}
+
+void Registros::Anotar(const Registro& novo) {
+  concluido_ = false;
+  if (!lembrete_) return;
+  lembrete_->Anotar({.sessao = banco_.Sessao().Name(),
+                     .operacao = novo.operacao,
+                     .cupom = novo.temNumero ? banco_.CupomEmAndamento() : 0,
+                     .temNumero = novo.temNumero,
+                     .artigo = novo.artigo,
+                     .quando = novo.quando,
+                     .conteudo = Resumo(novo.conteudo()),
+                     .oQue = novo.oQue});
+}
+
+void Registros::ApagarNotaVista() {
+  if (std::exchange(concluido_, false)) lembrete_->Apagar();
+}
+
+Standing Registros::Procurar() {
+  const Standing standing = banco_.Sessao().FindOut(duvida_->doubt);
+  if (standing == Standing::kStands && duvida_->registro.temNumero && duvida_->numero == 0) {
+    banco_.Sessao().Select(ProvaDe(duvida_->registro.temNumero), {duvida_->registro.operacao},
+                           [&](const Row& row) { duvida_->numero = row.Number(0); });
+  }
+  return standing;
+}
+
 std::int32_t Registros::Registrar(const Registro& novo, const Gravar& gravar) {
   ultimo_.clear();
   if (const auto numero = JaRegistrado(novo)) {
@@ -95,15 +149,23 @@ std::int32_t Registros::Registrar(const Registro& novo, const Gravar& gravar) {
     return *numero;
   }
   std::int32_t numero = 0;
+  Anotar(novo);
   try {
     gravar(numero);
   } catch (const InDoubt& error) {
-    duvida_ = Duvida{
-        .registro = novo, .conteudo = novo.conteudo(), .numero = numero, .doubt = error.Which()};
+    duvida_ = Duvida{.registro = novo,
+                     .conteudo = Resumo(novo.conteudo()),
+                     .numero = numero,
+                     .doubt = error.Which()};
     duvida_->registro.conteudo = nullptr;
+    if (lembrete_) lembrete_->Firmar();
     throw base::RuntimeError(static_cast<std::int32_t>(Trouble::kInDoubt),
                              Palavras(novo, numero).EmDuvida() + " (" + error.Detail() + ")");
+  } catch (...) {
+    Concluir();
+    throw;
   }
+  Concluir();
   ultimo_ = Palavras(novo, numero).Esta();
   return numero;
 }
@@ -117,26 +179,27 @@ std::string Registros::AposUltimo(const std::string& falha) const {
 
 void Registros::Apurar() {
   if (!HaDuvida()) return;
-  const Standing standing = banco_.Sessao().FindOut(duvida_->doubt);
+  const Standing standing = Procurar();
   if (standing == Standing::kUnknown) return;
   const Palavras palavras(duvida_->registro, duvida_->numero);
   const bool ficou = standing == Standing::kStands;
   const std::string frase = ficou ? palavras.Ficou() : palavras.NaoFicou();
   if (ficou) duvida_->achadaEm = banco_.Decorridos();
   if (!ficou) duvida_.reset();
+  Concluir();
   banco_.Avisar(frase);
 }
 
 std::optional<std::int32_t> Registros::JaRegistrado(const Registro& novo) {
   if (!duvida_) return std::nullopt;
-  const Standing standing =
-      HaDuvida() ? banco_.Sessao().FindOut(duvida_->doubt) : Standing::kStands;
+  const Standing standing = HaDuvida() ? Procurar() : Standing::kStands;
   if (standing == Standing::kUnknown) {
     throw Refusal{.sentence = Palavras(duvida_->registro, duvida_->numero).NaoSeSabe()};
   }
   const Duvida antiga = *std::exchange(duvida_, std::nullopt);
+  Concluir();
   const Palavras palavras(antiga.registro, antiga.numero);
-  const bool mesma = antiga.conteudo == novo.conteudo();
+  const bool mesma = antiga.conteudo == Resumo(novo.conteudo());
   const bool avisada = antiga.achadaEm.has_value();
   if (standing == Standing::kDoesNotStand) {
     if (!mesma) banco_.Avisar(palavras.NaoFicou());

@@ -51,4 +51,14 @@ long long NumeroUnico() {
   return number;
 }
 
+std::string Resumo(std::string_view bytes) {
+  std::array<unsigned char, crypto_generichash_BYTES> resumo{};
+  crypto_generichash(resumo.data(), resumo.size(),
+                     reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size(), nullptr,
+                     0);
+  std::array<char, 2 * crypto_generichash_BYTES + 1> texto{};
+  sodium_bin2hex(texto.data(), texto.size(), resumo.data(), resumo.size());
+  return texto.data();
+}
+
 }  // namespace services

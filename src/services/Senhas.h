@@ -33,4 +33,7 @@ class Segredo {
 /// A number that no other operation of any computer has.
 long long NumeroUnico();
 
+/// A digest in hexadecimal: the same for the same bytes alone.
+std::string Resumo(std::string_view bytes);
+
 }  // namespace services

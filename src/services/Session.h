@@ -48,7 +48,7 @@ struct Proof {
 /// A transaction whose commit got no answer: all that is needed to find out later whether it
 /// stands.
 struct Doubt {
-  std::string label;  ///< Of the connection that was lost; empty where there is no server.
+  std::string label;  ///< Session::Name of the one that lost its connection.
   Proof proof;
 };
 
@@ -94,6 +94,9 @@ class Session {
   Session& operator=(const Session&) = delete;
 
   virtual Engine Kind() const = 0;
+  /// What the server knows this session by, the same over all its connections; empty where there is
+  /// no server.
+  virtual std::string Name() const { return {}; }
 
   /// Runs a statement of a transaction; the count of rows that it wrote.
   std::int64_t Run(const Statement& statement, const Params& params = {});

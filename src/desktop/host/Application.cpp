@@ -250,6 +250,7 @@ class Application {
     // A script leaves nothing but its pictures.
     const std::string mark = IsScripted() ? "" : services::MarcaDaEstacao(desktop_.ModuleFolder());
     bank_ = services::AbrirBanco(address, desktop_, desktop_.ComputerName(), mark);
+    if (!IsScripted()) bank_->LembrarRegistros(desktop_.ModuleFolder(), address);
     bank_->Sessao().WhileWaiting([this] { desktop_.Paint(); });
     services::RegistrarServicos(bank_, [this] { desktop_.ProcessEvents(); });
     care_.emplace(desktop_, bank_);

@@ -96,6 +96,7 @@ std::function<void()> UseDatabase(const Options& options, StandIns& standIns,
                                   platform::Desktop& desktop) {
   const auto bank = services::AbrirBanco(options.database, desktop, desktop.ComputerName(),
                                          services::MarcaDaEstacao(desktop.ModuleFolder()));
+  bank->LembrarRegistros(desktop.ModuleFolder(), options.database);
   services::RegistrarServicos(bank);
   const std::string exchange = ExchangeFolder(options, desktop);
   services::RegistrarExportacaoFiscal(bank, exchange, frame::ExibirRelato);

@@ -7,6 +7,7 @@
 #include "services/Database.h"
 #include "services/DatabaseError.h"
 #include "services/faults/CuttingProxy.h"
+#include "support/TemporaryFolder.h"
 
 namespace services {
 namespace {
@@ -161,6 +162,31 @@ TEST_P(DoubtTest, AMovementGetsTheSameProof) {
                     : "",
               News());
     Forget();
+  }
+}
+
+TEST_P(DoubtTest, WhatIsInDoubtAtTheEndIsFoundOutByTheNextProgram) {
+  const support::TemporaryFolder folder;
+  for (const bool lands : {false, true}) {
+    banco_->LembrarRegistros(folder.Path(), address_);
+    LoseNextAnswer(lands);
+    Sell();
+    const auto beside = Another("LOJA");
+    beside->LembrarRegistros(folder.Path(), address_);
+    EXPECT_FALSE(beside->TemPendente()) << "of a program that is there";
+    servicos::EsquecerTodos();
+    banco_.reset();
+    Open();
+    Listen();
+    banco_->LembrarRegistros(folder.Path(), address_);
+    EXPECT_TRUE(banco_->TemPendente());
+    EXPECT_EQ(0, Sell().status);
+    EXPECT_EQ(1, Count("vendas"));
+    EXPECT_EQ(lands, News().find("já estava registrada") != std::string::npos);
+    banco_->CuidarDoPendente();
+    banco_->LembrarRegistros(folder.Path(), address_);
+    EXPECT_FALSE(banco_->TemPendente()) << "it is known";
+    Write("DELETE FROM itens_de_venda; DELETE FROM lancamentos_de_caixa; DELETE FROM vendas");
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "services/Database.h"
 #include "services/VendasRegistradas.h"
+#include "support/TemporaryFolder.h"
 
 namespace services {
 namespace {
@@ -78,6 +79,49 @@ TEST_P(KillTest, AtEveryStepOfASale) {
         if (survived) before = now;
       });
   EXPECT_GE(steps, GetParam() == Engine::kSqlite ? 20 : 6);
+}
+
+TEST_P(KillTest, TheNextProgramTellsWhatBecameOfTheSaleAndDoesNotDoubleIt) {
+  const support::TemporaryFolder folder;
+  std::int64_t before = 0;
+  int found = 0;
+  int missed = 0;
+  KillAtEveryStep(
+      [&] {
+        banco_->LembrarRegistros(folder.Path(), address_);
+        const NewSale sale(EverySide(false));
+        const int status = sale->RegistrarPagamento();
+        banco_->CuidarDoPendente();
+        return status;
+      },
+      [&](bool survived) {
+        std::string told;
+        banco_->AoAvisar([&](const std::string& sentence) { told += sentence; });
+        banco_->LembrarRegistros(folder.Path(), "another database");
+        EXPECT_FALSE(banco_->TemPendente());
+        banco_->LembrarRegistros(folder.Path(), address_);
+        const auto now = Count("vendas");
+        const bool stands = now > before && !survived;
+        EXPECT_FALSE(survived && banco_->TemPendente());
+        EXPECT_TRUE(banco_->TemPendente() || !stands);
+        missed += banco_->TemPendente() && !stands ? 1 : 0;
+        for (int looks = 0; banco_->TemPendente() && looks < 100; ++looks) {
+          banco_->CuidarDoPendente();
+        }
+        EXPECT_EQ(stands, told.find("ficou registrada com o número " +
+                                    Read("SELECT max(numero) FROM vendas")) != std::string::npos &&
+                              told.find("não ficou") == std::string::npos)
+            << told;
+        if (stands) {
+          ++found;
+          const NewSale again(EverySide(false));
+          EXPECT_EQ(0, again->RegistrarPagamento());
+          EXPECT_EQ(now, Count("vendas"));
+        }
+        before = now;
+      });
+  EXPECT_GT(found, 0);
+  EXPECT_GT(missed, 0);
 }
 
 TEST_P(KillTest, AtEveryStepOfAnOpening) {
