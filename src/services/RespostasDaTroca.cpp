@@ -32,12 +32,13 @@ std::optional<fs::path> Onde(const fs::path& retorno) {
 }
 
 /// An application may write its answer piece by piece: it counts once it has been left alone for a
-/// moment.
+/// moment. A date to come is that of another computer's clock, and says nothing.
 bool EstaQuieto(const fs::path& arquivo) {
   constexpr auto kMomento = std::chrono::seconds(2);
   std::error_code falha;
   const auto gravado = fs::last_write_time(arquivo, falha);
-  return !falha && fs::file_time_type::clock::now() - gravado >= kMomento;
+  const auto idade = fs::file_time_type::clock::now() - gravado;
+  return !falha && (idade >= kMomento || idade <= -kMomento);
 }
 
 }  // namespace

@@ -42,11 +42,12 @@ class CouponTest : public OverDatabase {
     return {service->NomeCompleDoArquivoDeEnvioComDadosCFeSAT(),
             service->NomeCompleDoArquivoDeRetornoComDadosCFeSAT()};
   }
-  /// The application's part: written a minute ago.
-  static void Answer(const Files& files, const std::string& line) {
+  /// The application's part: written a minute ago, or to come by another computer's clock.
+  static void Answer(const Files& files, const std::string& line,
+                     std::chrono::minutes age = std::chrono::minutes(1)) {
     fs::remove(files.sent);
     std::ofstream(files.answer) << line;
-    fs::last_write_time(files.answer, fs::file_time_type::clock::now() - std::chrono::minutes(1));
+    fs::last_write_time(files.answer, fs::file_time_type::clock::now() - age);
   }
   /// The module's part, once it has read the answer or given up.
   void Delete(const Files& files) const {
@@ -132,7 +133,8 @@ TEST_P(CouponTest, IsAskedForAgainOnlyWhereTheFirstCannotCome) {
       {"taken long ago", taken, 10, false, "enviado; enviado; "},
       {"refused", [](const Files& files) { Answer(files, "|ERRO|NCM|"); }, 1, false,
        "recusado; enviado; "},
-      {"answered late", [](const Files& files) { Answer(files, "|OK||123|"); }, 60, true,
+      {"answered late",
+       [](const Files& files) { Answer(files, "|OK||123|", std::chrono::minutes(-9)); }, 60, true,
        "emitido with key; "},
       {"answered and deleted unread",
        [&](const Files& files) {
