@@ -9,6 +9,7 @@
 #include "frame/servicos/Servico.h"
 #include "services/Banco.h"
 #include "services/RegistrarServicos.h"
+#include "support/TemporaryFolder.h"
 
 namespace bench {
 
@@ -17,6 +18,8 @@ class Opened {
  public:
   explicit Opened(const Database& database, const std::string& computer = "BALCAO-1") {
     banco_ = services::AbrirBanco(database.Address(), clock_, computer);
+    // As the program does it: what is being registered is noted on this workstation's disk.
+    banco_->LembrarRegistros(settings_.Path().string(), database.Address());
     services::RegistrarServicos(banco_);
   }
   ~Opened() { servicos::EsquecerTodos(); }
@@ -28,6 +31,7 @@ class Opened {
 
  private:
   StandingClock clock_;
+  support::TemporaryFolder settings_;
   std::shared_ptr<services::Banco> banco_;
 };
 

@@ -129,10 +129,13 @@ Lembrete::Achado Lembrete::Tomar(const std::string& arquivo) {
 void Lembrete::Anotar(const Lembranca& lembranca) noexcept {
   if (numero_ < 0) return;
   try {
-    const std::string texto = Escrita(banco_, lembranca);
-    const bool inteira =
-        pwrite(numero_, texto.data(), texto.size(), 0) == static_cast<ssize_t>(texto.size());
-    if (!inteira || ftruncate(numero_, static_cast<off_t>(texto.size())) != 0) Apagar();
+    // Whole blocks, so that the file seldom grows or shrinks; what lies behind the end is nothing.
+    constexpr std::size_t kBloco = 1024;
+    std::string texto = Escrita(banco_, lembranca);
+    texto.resize((texto.size() / kBloco + 1) * kBloco, '\n');
+    if (pwrite(numero_, texto.data(), texto.size(), 0) != static_cast<ssize_t>(texto.size())) {
+      Apagar();
+    }
   } catch (const std::exception&) {
     Apagar();
   }

@@ -2,10 +2,10 @@
 
 namespace services {
 
-std::string Places(std::size_t count) {
+std::string Places(std::size_t count, std::size_t first) {
   std::string places;
-  for (std::size_t place = 1; place <= count; ++place) {
-    if (place > 1) places += ", ";
+  for (std::size_t place = first; place < first + count; ++place) {
+    if (place > first) places += ", ";
     places.append("$").append(std::to_string(place));
   }
   return places;

@@ -9,7 +9,7 @@
 namespace services {
 
 /// "$1, $2, $3" and so on, for a row of `count` values.
-std::string Places(std::size_t count);
+std::string Places(std::size_t count, std::size_t first = 1);
 
 /// Inserts rows into a table, given the names of their columns parted by commas and one value a
 /// column. For filling a database: the statement is made anew at each call.

@@ -1,5 +1,11 @@
 #include "services/RegistroDeVenda.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+#include <utility>
+#include <vector>
+
 #include "base/Numbers.h"
 #include "services/Banco.h"
 #include "services/Caixas.h"
@@ -105,14 +111,20 @@ void Write(Session& session, const Venda& venda, const Estacao& estacao, std::in
 
 /// All that the checkout hands over but what differs when the same sale is confirmed again: the
 /// moment and number of the attempt, the credit that the database leaves, the coupon's key.
-std::string ContentOf(Venda venda) {
-  venda.operacao = 0;
-  venda.quando = {};
-  venda.creditoAnterior = {};
-  venda.chaveSat.clear();
-  std::vector<Params> rows{{venda.numeroDoCaixa, venda.codigoDoCliente}, LinhaDaVenda(venda)};
-  for (const TabelaDaVenda& table : TabelasDaVenda()) {
-    for (Params& row : table.linhas(venda)) rows.push_back(std::move(row));
+std::string ContentOf(const Venda& venda) {
+  constexpr std::string_view kDrawnAnew[] = {"operacao", "data_e_hora", "credito_anterior",
+                                             "chave_sat"};
+  std::vector<Params> rows = ItensDaVenda(venda);
+  Params own = LinhaDaVenda(venda);
+  const auto columns = ColunasDaVenda();
+  for (std::size_t i = 0; i < own.size(); ++i) {
+    if (std::ranges::find(kDrawnAnew, columns[i].nome) != std::end(kDrawnAnew)) own[i] = Param();
+  }
+  rows.push_back(std::move(own));
+  rows.push_back({venda.numeroDoCaixa, venda.codigoDoCliente});
+  for (const Venda::Recebimento& each : venda.recebimentos) {
+    rows.push_back(
+        {each.moeda, each.valor, each.vencimento ? Param::Date(*each.vencimento) : Param()});
   }
   return ConteudoDe(rows);
 }

@@ -82,13 +82,19 @@ class Palavras {
 }  // namespace
 
 std::string ConteudoDe(const std::vector<Params>& linhas) {
+  // The bytes of a number, and of a text its length and its own.
   std::string conteudo;
+  const auto anexar = [&](char tipo, std::int64_t numero) {
+    conteudo += tipo;
+    conteudo.append(reinterpret_cast<const char*>(&numero), sizeof numero);
+  };
   for (const Params& linha : linhas) {
     for (const Param& valor : linha) {
       if (const auto* numero = valor.Integer()) {
-        conteudo += 'n' + std::to_string(*numero);
+        anexar('n', *numero);
       } else if (const auto* texto = valor.Text()) {
-        conteudo += 't' + std::to_string(texto->size()) + ':' + *texto;
+        anexar('t', static_cast<std::int64_t>(texto->size()));
+        conteudo += *texto;
       } else {
         conteudo += '-';
       }
@@ -125,7 +131,7 @@ void Registros::Anotar(const Registro& novo) {
                      .temNumero = novo.temNumero,
                      .artigo = novo.artigo,
                      .quando = novo.quando,
-                     .conteudo = Resumo(novo.conteudo()),
+                     .conteudo = Impressao(novo.conteudo()),
                      .oQue = novo.oQue});
 }
 
@@ -154,7 +160,7 @@ std::int32_t Registros::Registrar(const Registro& novo, const Gravar& gravar) {
     gravar(numero);
   } catch (const InDoubt& error) {
     duvida_ = Duvida{.registro = novo,
-                     .conteudo = Resumo(novo.conteudo()),
+                     .conteudo = Impressao(novo.conteudo()),
                      .numero = numero,
                      .doubt = error.Which()};
     duvida_->registro.conteudo = nullptr;
@@ -199,7 +205,7 @@ std::optional<std::int32_t> Registros::JaRegistrado(const Registro& novo) {
   const Duvida antiga = *std::exchange(duvida_, std::nullopt);
   Concluir();
   const Palavras palavras(antiga.registro, antiga.numero);
-  const bool mesma = antiga.conteudo == Resumo(novo.conteudo());
+  const bool mesma = antiga.conteudo == Impressao(novo.conteudo());
   const bool avisada = antiga.achadaEm.has_value();
   if (standing == Standing::kDoesNotStand) {
     if (!mesma) banco_.Avisar(palavras.NaoFicou());

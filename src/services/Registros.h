@@ -69,7 +69,7 @@ class Registros {
  private:
   struct Duvida {
     Registro registro;
-    std::string conteudo;  ///< A digest.
+    std::string conteudo;  ///< Its fingerprint.
     std::int32_t numero = 0;
     Doubt doubt;
     std::optional<double> achadaEm = {};  ///< When it was found to stand, by the clock.

@@ -51,14 +51,32 @@ long long NumeroUnico() {
   return number;
 }
 
+namespace {
+
+template <std::size_t kBytes>
+std::string Hexadecimal(const std::array<unsigned char, kBytes>& bytes) {
+  std::array<char, 2 * kBytes + 1> texto{};
+  sodium_bin2hex(texto.data(), texto.size(), bytes.data(), bytes.size());
+  return texto.data();
+}
+
+}  // namespace
+
 std::string Resumo(std::string_view bytes) {
   std::array<unsigned char, crypto_generichash_BYTES> resumo{};
   crypto_generichash(resumo.data(), resumo.size(),
                      reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size(), nullptr,
                      0);
-  std::array<char, 2 * crypto_generichash_BYTES + 1> texto{};
-  sodium_bin2hex(texto.data(), texto.size(), resumo.data(), resumo.size());
-  return texto.data();
+  return Hexadecimal(resumo);
+}
+
+std::string Impressao(std::string_view bytes) {
+  constexpr std::array<unsigned char, crypto_shorthash_siphashx24_KEYBYTES> kSemSegredo{};
+  std::array<unsigned char, crypto_shorthash_siphashx24_BYTES> impressao{};
+  crypto_shorthash_siphashx24(impressao.data(),
+                              reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size(),
+                              kSemSegredo.data());
+  return Hexadecimal(impressao);
 }
 
 }  // namespace services

@@ -62,36 +62,6 @@ Param CodeOrNull(std::int32_t code) {
   return code == 0 ? Param() : Param(code);
 }
 
-std::vector<Params> Itens(const Venda& venda) {
-  std::vector<Params> rows;
-  rows.reserve(venda.itens.size());
-  for (const Venda::Item& item : venda.itens) {
-    rows.push_back({rows.size() + 1,
-                    item.tipoDeLancamento,
-                    item.tipoDeVenda,
-                    CodeOrNull(item.tipoDeServico),
-                    item.codigoDeBarras,
-                    item.codigo,
-                    item.nome,
-                    CodeOrNull(item.codigoDoAnimal),
-                    item.nomeDoAnimal,
-                    CodeOrNull(item.codigoDoFuncionario),
-                    item.nomeDoFuncionario,
-                    item.quantidade,
-                    item.valorUnitario,
-                    item.descontoEmPercentual,
-                    item.descontoEmValor,
-                    item.valorTotal,
-                    item.custo,
-                    item.percentualDeComissao,
-                    item.valorDaComissao,
-                    item.numeroDeLancamento,
-                    item.unidade,
-                    item.numeroDaVendaCancelada});
-  }
-  return rows;
-}
-
 constexpr Coluna kLancamentos[] = {
     {"operacao", "bigint"}, {"numero_do_caixa", "integer"}, {"data_e_hora", "timestamp"},
     {"tipo", "integer"},    {"moeda", "integer"},           {"valor", "bigint"},
@@ -184,7 +154,7 @@ std::vector<Params> Creditos(const Venda& venda) {
 }
 
 constexpr TabelaDaVenda kTabelas[] = {
-    {"itens_de_venda", kItens, Itens},
+    {"itens_de_venda", kItens, ItensDaVenda},
     {"lancamentos_de_caixa", kLancamentos, Lancamentos},
     {"contas_a_receber", kContas, Contas},
     {"creditos_do_cliente", kCreditos, Creditos},
@@ -197,17 +167,27 @@ std::span<const Coluna> ColunasDaVenda() {
 }
 
 Params LinhaDaVenda(const Venda& venda) {
-  return {venda.operacao,      venda.quando,
-          venda.operador,      venda.apelidoDoCliente,
-          venda.nomeDoCliente, venda.numeroDaFichaClinica,
-          venda.valorBruto,    venda.totalDeDescontos,
-          venda.valorLiquido,  venda.totalRecebido,
-          venda.troco,         venda.creditoAnterior,
-          venda.creditoUsado,  venda.creditoMantido,
-          venda.custo,         venda.comissao,
-          venda.lucroEmValor,  venda.lucroEmPercentual,
-          venda.itens.size(),  servicos::kEfetuada,
-          venda.observacao,    venda.chaveSat};
+  return ParamsOf(venda.operacao, venda.quando, venda.operador, venda.apelidoDoCliente,
+                  venda.nomeDoCliente, venda.numeroDaFichaClinica, venda.valorBruto,
+                  venda.totalDeDescontos, venda.valorLiquido, venda.totalRecebido, venda.troco,
+                  venda.creditoAnterior, venda.creditoUsado, venda.creditoMantido, venda.custo,
+                  venda.comissao, venda.lucroEmValor, venda.lucroEmPercentual, venda.itens.size(),
+                  servicos::kEfetuada, venda.observacao, venda.chaveSat);
+}
+
+std::vector<Params> ItensDaVenda(const Venda& venda) {
+  std::vector<Params> rows;
+  rows.reserve(venda.itens.size());
+  for (const Venda::Item& item : venda.itens) {
+    rows.push_back(ParamsOf(
+        rows.size() + 1, item.tipoDeLancamento, item.tipoDeVenda, CodeOrNull(item.tipoDeServico),
+        item.codigoDeBarras, item.codigo, item.nome, CodeOrNull(item.codigoDoAnimal),
+        item.nomeDoAnimal, CodeOrNull(item.codigoDoFuncionario), item.nomeDoFuncionario,
+        item.quantidade, item.valorUnitario, item.descontoEmPercentual, item.descontoEmValor,
+        item.valorTotal, item.custo, item.percentualDeComissao, item.valorDaComissao,
+        item.numeroDeLancamento, item.unidade, item.numeroDaVendaCancelada));
+  }
+  return rows;
 }
 
 std::span<const TabelaDaVenda> TabelasDaVenda() {

@@ -20,6 +20,7 @@ struct Coluna {
 /// and count of pre-sale lines are not among them: they depend on what the database holds.
 std::span<const Coluna> ColunasDaVenda();
 Params LinhaDaVenda(const Venda& venda);
+std::vector<Params> ItensDaVenda(const Venda& venda);
 
 /// One of the tables whose rows belong to a sale; the sale's number is not among the columns.
 struct TabelaDaVenda {

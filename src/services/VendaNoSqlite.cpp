@@ -1,4 +1,7 @@
+#include <algorithm>
 #include <deque>
+#include <iterator>
+#include <utility>
 
 #include "services/DatabaseError.h"
 #include "services/EscritaDeVenda.h"
@@ -9,18 +12,24 @@
 namespace services {
 namespace {
 
-/// INSERT of a row whose first columns are `guarded`, and then those of the table.
+/// INSERT of so many rows whose first columns are `guarded`, and then those of the table.
 std::string InsertText(std::string_view table, const std::string& guarded,
-                       std::size_t countOfGuarded, std::span<const Coluna> columns) {
-  return "INSERT INTO " + std::string(table) + " (" + guarded + ", " + Nomes(columns) +
-         ") VALUES (" + Places(countOfGuarded + columns.size()) + ")";
+                       std::size_t countOfGuarded, std::span<const Coluna> columns,
+                       std::size_t rows = 1) {
+  const std::size_t width = countOfGuarded + columns.size();
+  std::string text =
+      "INSERT INTO " + std::string(table) + " (" + guarded + ", " + Nomes(columns) + ") VALUES ";
+  for (std::size_t row = 0; row < rows; ++row) {
+    text += (row == 0 ? "(" : ", (") + Places(width, row * width + 1) + ")";
+  }
+  return text;
 }
 
-Params Joined(const Params& first, const Params& rest) {
+Params Joined(const Params& first, Params rest) {
   Params all;
   all.reserve(first.size() + rest.size());
   all.insert(all.end(), first.begin(), first.end());
-  all.insert(all.end(), rest.begin(), rest.end());
+  std::ranges::move(rest, std::back_inserter(all));
   return all;
 }
 
@@ -55,16 +64,36 @@ std::int32_t InsertSale(Session& session, const Venda& venda) {
   return number;
 }
 
+/// A long sale writes its rows several at a time: most of a row's cost is that of its statement.
+constexpr std::size_t kTogether = 8;
+
 /// One statement for each table, made at the first sale.
-const Statement& InsertInto(std::size_t table) {
+const Statement& InsertInto(std::size_t table, bool together) {
   static const auto statements = [] {
     std::deque<Statement> all;
-    for (const TabelaDaVenda& each : TabelasDaVenda()) {
-      all.emplace_back(InsertText(each.nome, "numero_da_venda", 1, each.colunas));
+    for (const std::size_t rows : {std::size_t{1}, kTogether}) {
+      for (const TabelaDaVenda& each : TabelasDaVenda()) {
+        all.emplace_back(InsertText(each.nome, "numero_da_venda", 1, each.colunas, rows));
+      }
     }
     return all;
   }();
-  return statements[table];
+  return statements[table + (together ? TabelasDaVenda().size() : 0)];
+}
+
+void InsertRows(Session& session, std::size_t table, std::vector<Params> rows,
+                std::int32_t number) {
+  for (std::size_t done = 0; done < rows.size();) {
+    const bool together = rows.size() - done >= kTogether;
+    const std::size_t end = done + (together ? kTogether : 1);
+    Params values;
+    values.reserve((end - done) * (rows[done].size() + 1));
+    for (; done < end; ++done) {
+      values.emplace_back(number);
+      std::ranges::move(rows[done], std::back_inserter(values));
+    }
+    session.Run(InsertInto(table, together), values);
+  }
 }
 
 bool SettlePreSales(Session& session, const Venda& venda, std::int32_t number) {
@@ -85,11 +114,8 @@ std::optional<std::int32_t> EscreverNoSqlite(Session& session, const Venda& vend
     if (!MayBuy(session, venda, estacao)) return std::nullopt;
     if (!TakeMoney(session, venda)) return std::nullopt;
     const std::int32_t number = InsertSale(session, venda);
-    const Params ofThisSale(1, Param(number));
     for (std::size_t table = 0; table < TabelasDaVenda().size(); ++table) {
-      for (const Params& row : TabelasDaVenda()[table].linhas(venda)) {
-        session.Run(InsertInto(table), Joined(ofThisSale, row));
-      }
+      InsertRows(session, table, TabelasDaVenda()[table].linhas(venda), number);
     }
     if (!SettlePreSales(session, venda, number)) return std::nullopt;
     return number;
