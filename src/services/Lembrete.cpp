@@ -97,7 +97,7 @@ Lembrete::Lembrete(const std::string& pasta, std::string_view banco) : banco_(Re
     if (achado == Achado::kVazio && vazio.empty()) vazio = arquivo;
     if (!existe) break;
   }
-  if (!vazio.empty() && Tomar(vazio) == Achado::kNada) Soltar();
+  if (!vazio.empty()) Tomar(vazio);
 }
 
 Lembrete::~Lembrete() {

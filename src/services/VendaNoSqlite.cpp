@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <deque>
 #include <iterator>
-#include <utility>
 
 #include "services/DatabaseError.h"
 #include "services/EscritaDeVenda.h"
@@ -23,14 +22,6 @@ std::string InsertText(std::string_view table, const std::string& guarded,
     text += (row == 0 ? "(" : ", (") + Places(width, row * width + 1) + ")";
   }
   return text;
-}
-
-Params Joined(const Params& first, Params rest) {
-  Params all;
-  all.reserve(first.size() + rest.size());
-  all.insert(all.end(), first.begin(), first.end());
-  std::ranges::move(rest, std::back_inserter(all));
-  return all;
 }
 
 /// The file is this transaction's alone: what is found stays so until it ends.
@@ -57,10 +48,11 @@ std::int32_t InsertSale(Session& session, const Venda& venda) {
                                            "numero_do_caixa, codigo_do_cliente, itens_de_pre_venda",
                                            3, ColunasDaVenda()) +
                                 " RETURNING numero");
-  const Params guarded{venda.numeroDoCaixa, venda.codigoDoCliente, venda.PreVendas().size()};
+  Params values{venda.numeroDoCaixa, venda.codigoDoCliente, venda.PreVendas().size()};
+  Params own = LinhaDaVenda(venda);
+  std::ranges::move(own, std::back_inserter(values));
   std::int32_t number = 0;
-  session.Select(insert, Joined(guarded, LinhaDaVenda(venda)),
-                 [&](const Row& row) { number = row.Number(0); });
+  session.Select(insert, values, [&](const Row& row) { number = row.Number(0); });
   return number;
 }
 
@@ -81,8 +73,7 @@ const Statement& InsertInto(std::size_t table, bool together) {
   return statements[table + (together ? TabelasDaVenda().size() : 0)];
 }
 
-void InsertRows(Session& session, std::size_t table, std::vector<Params> rows,
-                std::int32_t number) {
+void WriteRows(Session& session, std::size_t table, std::vector<Params> rows, std::int32_t number) {
   for (std::size_t done = 0; done < rows.size();) {
     const bool together = rows.size() - done >= kTogether;
     const std::size_t end = done + (together ? kTogether : 1);
@@ -115,7 +106,7 @@ std::optional<std::int32_t> EscreverNoSqlite(Session& session, const Venda& vend
     if (!TakeMoney(session, venda)) return std::nullopt;
     const std::int32_t number = InsertSale(session, venda);
     for (std::size_t table = 0; table < TabelasDaVenda().size(); ++table) {
-      InsertRows(session, table, TabelasDaVenda()[table].linhas(venda), number);
+      WriteRows(session, table, TabelasDaVenda()[table].linhas(venda), number);
     }
     if (!SettlePreSales(session, venda, number)) return std::nullopt;
     return number;
