@@ -59,7 +59,7 @@ std::string RareFamily(std::uint64_t number) {
 }
 
 /// How many rare families there are.
-constexpr std::uint64_t kRareFamilies = 16 * 16 * 16 * 16;
+constexpr std::uint64_t kRareFamilies = std::uint64_t{16} * 16 * 16 * 16;
 
 }  // namespace
 

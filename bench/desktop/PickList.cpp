@@ -61,14 +61,15 @@ base::RecordSetPtr Customers() {
     const People::Person person = people.Next();
     // A prime that shares no factor with the count: each code once.
     const std::int32_t code = (i + 17) * 4'219 % kHits + 1;
-    const base::Currency percentage = base::Currency::FromTenThousandths(i % 10 * 12'500);
+    const base::Currency percentage =
+        base::Currency::FromTenThousandths(std::int64_t{i} % 10 * 12'500);
     std::vector<base::Value> row{code,
                                  person.nickname,
                                  person.name,
                                  1,
                                  "Rua das Palmeiras, " + std::to_string(code) + " - Centro",
                                  "Celular (11) 90000-" + std::to_string(10'000 + i).substr(1),
-                                 base::Currency::FromTenThousandths(i % 7 * 99'900),
+                                 base::Currency::FromTenThousandths(std::int64_t{i} % 7 * 99'900),
                                  "Não"};
     row.insert(row.end(), 9, percentage);
     for (const char* text : {"Não", "B", "999.000.124-37", "3550308"}) row.emplace_back(text);

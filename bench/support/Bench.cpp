@@ -1,6 +1,7 @@
 #include "support/Bench.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <numeric>
 
@@ -24,7 +25,7 @@ double Times::At(double part) const {
   if (seconds_.empty()) return 0;
   std::vector<double> sorted = seconds_;
   const auto last = static_cast<double>(sorted.size() - 1);
-  const auto at = sorted.begin() + static_cast<std::ptrdiff_t>(last * part + 0.5);
+  const auto at = sorted.begin() + std::lround(last * part);
   std::ranges::nth_element(sorted, at);
   return *at;
 }
