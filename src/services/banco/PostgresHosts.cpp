@@ -49,7 +49,7 @@ struct LookedUp {
 
 /// Takes half of the time that is left at most: another host may be known without asking.
 std::vector<std::string> LookUpWithin(const std::string& name, const Waiting& whole) {
-  const auto numeric = LookUp(name, AI_NUMERICHOST);
+  auto numeric = LookUp(name, AI_NUMERICHOST);
   if (!numeric.empty()) return numeric;
   const auto now = Waiting::Clock::now();
   Waiting waiting(whole, now + (whole.End() - now) / 2);

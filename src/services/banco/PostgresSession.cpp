@@ -104,7 +104,7 @@ bool Greet(PostgresLink& link, const Waiting& waiting) {
 
 }  // namespace
 
-PostgresSession::PostgresSession(std::string connection, std::string computer)
+PostgresSession::PostgresSession(std::string connection, const std::string& computer)
     : text_(std::move(connection)) {
   if (sodium_init() < 0) throw DatabaseError(Trouble::kOther, "libsodium");
   label_ = RandomLabel(computer);
@@ -147,7 +147,8 @@ void PostgresSession::Connect(Clock::time_point end) {
   link_.reset();
   const Waiting whole = Until(std::min(end, Clock::now() + kConnecting));
   auto hosts = HostsOf(text_, whole);
-  std::ranges::stable_partition(hosts, [this](const auto& each) { return each.name == lastHost_; });
+  std::stable_partition(hosts.begin(), hosts.end(),
+                        [this](const auto& each) { return each.name == lastHost_; });
   std::string words = "PostgreSQL: o nome do servidor não foi encontrado";
   auto left = static_cast<int>(hosts.size());
   for (const PostgresHost& host : hosts) {

@@ -19,7 +19,7 @@ class PostgresSession : public Session {
  public:
   /// Connects. `connection` is a connection text or address of libpq; `computer` is shown behind
   /// the name of this program in the server's list of sessions.
-  PostgresSession(std::string connection, std::string computer);
+  PostgresSession(std::string connection, const std::string& computer);
   ~PostgresSession() override;
 
   Engine Kind() const override { return Engine::kPostgres; }

@@ -114,6 +114,7 @@ class clsHistorico : public SobreBanco<Contrato> {
   static base::RecordSetPtr WithTenders(base::RecordSet& sales,
                                         const std::map<std::int32_t, std::string>& tenders) {
     std::vector<std::string> names;
+    names.reserve(sales.FieldCount());
     for (std::int32_t i = 0; i < sales.FieldCount(); ++i) names.push_back(sales.FieldName(i));
     const auto rows = std::make_shared<base::RecordSet>(std::move(names));
     base::ForEachRow(sales, [&] {

@@ -16,7 +16,7 @@ namespace {
 
 /// For how long a coupon without a sale may serve another try for it. Past that the customer has
 /// gone, and the same lines are another sale.
-constexpr std::int64_t kSegundosDeUmaVenda = 12 * 3600;
+constexpr std::int64_t kSegundosDeUmaVenda = std::int64_t{12} * 3600;
 /// For how long an application that has taken the file may take to answer it.
 constexpr std::int64_t kSegundosDeEspera = 600;
 
