@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "services/Statement.h"
+#include "services/banco/Statement.h"
 
 namespace bench {
 

@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "clinic/Clock.h"
-#include "services/Preenchimento.h"
-#include "services/Session.h"
+#include "services/Abertura.h"
+#include "services/banco/Preenchimento.h"
+#include "services/banco/Session.h"
 #include "support/RawPostgres.h"
 
 namespace bench {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "services/Banco.h"
-#include "services/Param.h"
+#include "services/banco/Param.h"
 
 namespace bench {
 

@@ -7,8 +7,9 @@
 #include "clinic/Clinic.h"
 #include "clinic/Clock.h"
 #include "frame/servicos/Servico.h"
+#include "services/Abertura.h"
 #include "services/Banco.h"
-#include "services/RegistrarServicos.h"
+#include "services/contrato/RegistrarServicos.h"
 #include "support/TemporaryFolder.h"
 
 namespace bench {

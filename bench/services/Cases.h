@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/Statement.h"
+#include "services/banco/Statement.h"
 
 namespace bench {
 

@@ -7,7 +7,7 @@
 #include "frame/servicos/ZOVA_N_ClientAnim.clsClientes.h"
 #include "services/Cases.h"
 #include "services/RawRows.h"
-#include "services/Search.h"
+#include "services/banco/Search.h"
 #include "support/Bench.h"
 
 namespace bench {

@@ -4,7 +4,7 @@
 #include "services/Cases.h"
 #include "services/Checkout.h"
 #include "services/RawSale.h"
-#include "services/Session.h"
+#include "services/banco/Session.h"
 #include "support/Bench.h"
 
 namespace bench {

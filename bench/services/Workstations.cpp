@@ -7,10 +7,10 @@
 #include "clinic/Opened.h"
 #include "services/Cases.h"
 #include "services/Checkout.h"
-#include "services/Preenchimento.h"
 #include "services/RawSale.h"
-#include "services/Session.h"
-#include "services/VendasRegistradas.h"
+#include "services/banco/Preenchimento.h"
+#include "services/banco/Session.h"
+#include "services/venda/VendasRegistradas.h"
 #include "support/Bench.h"
 #include "support/Crowd.h"
 

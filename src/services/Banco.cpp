@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <exception>
 
-#include "services/DatabaseError.h"
-#include "services/Outcome.h"
-#include "services/Registros.h"
-#include "services/Session.h"
-#include "services/Travas.h"
+#include "services/banco/DatabaseError.h"
+#include "services/banco/Outcome.h"
+#include "services/banco/Session.h"
+#include "services/venda/Registros.h"
+#include "services/venda/Travas.h"
 
 namespace services {
 

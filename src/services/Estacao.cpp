@@ -61,7 +61,7 @@ std::optional<std::string> Lida(const fs::path& arquivo) {
 
 /// A whole file under a name of its own, on the disk before it gets the one that others read.
 fs::path Gravada(const fs::path& arquivo, const std::string& marca) {
-  const fs::path nova = arquivo.string() + '.' + marca;
+  fs::path nova = arquivo.string() + '.' + marca;
   const int numero = open(nova.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
   if (numero < 0) Falhar(arquivo, errno);
   const std::string linha = marca + '\n';

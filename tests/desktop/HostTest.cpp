@@ -21,12 +21,13 @@
 #include "frame/servicos/Servico.h"
 #include "platform/Input.h"
 #include "platform/Screens.h"
-#include "services/AjustesDaEmpresa.h"
+#include "services/Abertura.h"
 #include "services/Banco.h"
-#include "services/Demonstracao.h"
-#include "services/RegistrarServicos.h"
-#include "services/Travas.h"
-#include "services/VendasRegistradas.h"
+#include "services/contrato/AjustesDaEmpresa.h"
+#include "services/contrato/RegistrarServicos.h"
+#include "services/demonstracao/Demonstracao.h"
+#include "services/venda/Travas.h"
+#include "services/venda/VendasRegistradas.h"
 #include "siblings/RegistrarTelas.h"
 
 namespace {

@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "desktop/host/Settings.h"
-#include "services/Banco.h"
+#include "services/Abertura.h"
 
 namespace {
 

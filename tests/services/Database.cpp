@@ -8,7 +8,8 @@
 #include <cstdio>
 
 #include "base/Numbers.h"
-#include "services/VendasRegistradas.h"
+#include "services/Abertura.h"
+#include "services/venda/VendasRegistradas.h"
 #include "support/PrivatePostgres.h"
 
 namespace services {

@@ -15,9 +15,9 @@
 #include "frame/servicos/LinhaDeVenda.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
 #include "services/Banco.h"
-#include "services/Preenchimento.h"
-#include "services/RegistrarServicos.h"
-#include "services/Session.h"
+#include "services/banco/Preenchimento.h"
+#include "services/banco/Session.h"
+#include "services/contrato/RegistrarServicos.h"
 #include "support/TemporaryFolder.h"
 
 namespace services {

@@ -41,8 +41,18 @@ std::vector<Floor> Building() {
       above.push_back("siblings/dados");
     }
   }
-  floors.push_back({"services", {"base", "frame/servicos", "siblings/dados"}, false});
+  // What hosts open stands at the top of services and sees every room; a room sees those before it.
+  const std::vector<std::string_view> kRooms{"services/banco", "services/troca", "services/venda",
+                                             "services/contrato", "services/demonstracao"};
+  std::vector<std::string_view> seen{"base", "frame/servicos", "siblings/dados"};
+  for (const std::string_view room : kRooms) {
+    floors.push_back({room, seen, false});
+    seen.push_back(room);
+    if (room == "services/banco") seen.push_back("services");
+  }
+  floors.push_back({"services", seen, false});
   above.push_back("services");
+  above.insert(above.end(), kRooms.begin(), kRooms.end());
   floors.push_back({"desktop", above, false});
   floors.push_back({"tools", above, false});
   return floors;

@@ -42,6 +42,8 @@ TEST(Checks, FindWhatBreaksThem) {
       {"src/frame/servicos/X.cpp", "#include \"frame/Sessao.h\"\n"},
       {"src/register/Movimento.cpp", "#include \"sale/Venda.h\"\n"},
       {"src/services/Caixa.cpp", "#include \"platform/Form.h\"\n"},
+      {"src/services/venda/A.cpp", "#include \"services/contrato/Fabricas.h\"\n"},
+      {"src/services/banco/A.cpp", "#include \"services/Banco.h\"\n"},
       {"src/tools/roteiro/Main.cpp", "#include <QString>\n"},
       {"src/siblings/Ncm.cpp", "#include <SQLiteCpp/Database.h>\n"},
       {"src/frame/Ini.cpp", "#include <fstream>\n"},

@@ -9,9 +9,10 @@
 #include "base/Clock.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "services/Abertura.h"
 #include "services/Banco.h"
-#include "services/Cupons.h"
-#include "services/Search.h"
+#include "services/banco/Search.h"
+#include "services/venda/Cupons.h"
 #include "tools/banco/Relatorios.h"
 
 namespace banco {

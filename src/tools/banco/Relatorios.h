@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "services/AjustesDaEmpresa.h"
-#include "services/ConsultaDeCupons.h"
-#include "services/Demonstracao.h"
-#include "services/FichaDaVenda.h"
-#include "services/FichaDoCliente.h"
-#include "services/Travas.h"
-#include "services/VendasRegistradas.h"
+#include "services/contrato/AjustesDaEmpresa.h"
+#include "services/demonstracao/Demonstracao.h"
+#include "services/venda/ConsultaDeCupons.h"
+#include "services/venda/FichaDaVenda.h"
+#include "services/venda/FichaDoCliente.h"
+#include "services/venda/Travas.h"
+#include "services/venda/VendasRegistradas.h"
 
 /// What the command prints, for people to read.
 namespace banco {

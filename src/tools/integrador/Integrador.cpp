@@ -59,6 +59,7 @@ std::vector<fs::path> Pendentes(const fs::path& pasta) {
   if (falha) throw std::runtime_error("Não é possível ler a pasta '" + pasta.string() + "'.");
   std::ranges::sort(achados);
   std::vector<fs::path> pendentes;
+  pendentes.reserve(achados.size());
   for (auto& [quando, caminho] : achados) pendentes.push_back(std::move(caminho));
   return pendentes;
 }

@@ -13,10 +13,11 @@
 #include "tools/roteiro/Options.h"
 #include "tools/roteiro/StandIns.h"
 #ifdef CAIXA_SERVICES
+#include "services/Abertura.h"
 #include "services/Banco.h"
 #include "services/Estacao.h"
-#include "services/ExportacaoFiscal.h"
-#include "services/RegistrarServicos.h"
+#include "services/contrato/RegistrarServicos.h"
+#include "services/troca/ExportacaoFiscal.h"
 #endif
 #ifdef CAIXA_SIBLINGS
 #include "siblings/RegistrarTelas.h"

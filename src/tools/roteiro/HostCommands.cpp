@@ -86,7 +86,7 @@ std::optional<Json> At(Stage& stage, const Arguments& arguments) {
   }
   if (runs == arguments.Has("file")) throw CannotDo("\"file\" goes with \"write\" or \"delete\"");
   if (runs) {
-    const Json act = arguments.Any("run");
+    const Json& act = arguments.Any("run");
     RequireAct(act);
     stage.timeline.At(seconds, Timeline::Cause::kOperator,
                       [&stage, act] { CarryOutScheduled(stage, act); });

@@ -47,7 +47,7 @@ QJsonObject Operator::Look() const {
 QJsonObject Operator::Await(const QString& what,
                             const std::function<bool(const QJsonObject&)>& seen, bool atRest) {
   for (int look = 0; look < kLooks; ++look) {
-    const QJsonObject now = Look();
+    QJsonObject now = Look();
     if ((!atRest || now[u"resting"].toBool()) && seen(now)) return now;
     if (program_.waitForFinished(0)) throw std::runtime_error("the program ended");
     QThread::msleep(kLookEveryMilliseconds);

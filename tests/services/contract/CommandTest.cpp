@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "services/Database.h"
-#include "services/VendasRegistradas.h"
+#include "services/venda/VendasRegistradas.h"
 
 #ifdef CAIXA_BANCO
 namespace services {
@@ -111,10 +111,10 @@ TEST_P(CommandTest, FindsAKeyThatTwoSalesHave) {
       " VALUES ('vendido', '2026-11-22 08:00:00', 'LOJA', '', 1, '', 0, '', 0, '', '', '', '1',"
       " 2);"
       "UPDATE vendas SET chave_sat = '1'");
-  EXPECT_TRUE(OnDatabase("conferir").ends_with(
-      "Venda 1: a chave do seu cupom está em 2 vendas.\n"
-      "Venda 1: a chave do seu cupom foi pedida para a venda 2.\n"
-      "As contas não fecham. Avise o suporte.\n"));
+  EXPECT_TRUE(OnDatabase("conferir")
+                  .ends_with("Venda 1: a chave do seu cupom está em 2 vendas.\n"
+                             "Venda 1: a chave do seu cupom foi pedida para a venda 2.\n"
+                             "As contas não fecham. Avise o suporte.\n"));
 }
 
 TEST_P(CommandTest, RefusesTheDemonstrationWhereThereAreData) {

@@ -5,9 +5,9 @@
 #include <random>
 
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
-#include "services/ConsultaDeCupons.h"
 #include "services/Database.h"
-#include "services/ExportacaoFiscal.h"
+#include "services/troca/ExportacaoFiscal.h"
+#include "services/venda/ConsultaDeCupons.h"
 
 namespace services {
 namespace {

@@ -1,6 +1,7 @@
 #include "frame/servicos/ZOVA_N_Login.clsLogin.h"
+#include "services/Abertura.h"
 #include "services/Database.h"
-#include "services/Demonstracao.h"
+#include "services/demonstracao/Demonstracao.h"
 
 namespace services {
 namespace {

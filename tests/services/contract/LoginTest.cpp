@@ -4,10 +4,10 @@
 
 #include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "services/Database.h"
-#include "services/DatabaseError.h"
-#include "services/Search.h"
-#include "services/Senhas.h"
-#include "services/SqliteSession.h"
+#include "services/banco/DatabaseError.h"
+#include "services/banco/Search.h"
+#include "services/banco/Senhas.h"
+#include "services/banco/SqliteSession.h"
 
 namespace services {
 namespace {
@@ -21,7 +21,7 @@ class LoginTest : public OverDatabase {
  protected:
   void User(const std::string& name, const std::string& password, bool isActive, bool isAdmin) {
     Fill("usuarios", "nome, nome_busca, senha, ativo, administrador",
-               {{name, SearchForm(name), HashDaSenha(password), isActive, isAdmin}});
+         {{name, SearchForm(name), HashDaSenha(password), isActive, isAdmin}});
   }
   static std::unique_ptr<Login> Try(const std::string& name, const std::string& password,
                                     std::int16_t expected) {

@@ -3,7 +3,7 @@
 #include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
 #include "frame/servicos/ZOVA_N_Servicos.clsServicos.h"
 #include "services/Database.h"
-#include "services/Search.h"
+#include "services/banco/Search.h"
 
 namespace services {
 namespace {
@@ -28,16 +28,14 @@ class LookupTest : public OverDatabase {
  protected:
   void Customer(std::int32_t code, const std::string& nickname, const std::string& name) {
     Fill("clientes", "codigo, apelido, nome, nome_busca",
-               {{code, nickname, name, SearchForm(nickname, name)}});
+         {{code, nickname, name, SearchForm(nickname, name)}});
   }
   void Product(std::int32_t code, const std::string& barcode, const std::string& name) {
-    Fill("produtos",
-               "codigo_interno, codigo_de_barras, nome, nome_busca, valor_de_venda",
-               {{code, barcode, name, SearchForm(name), 30_brl}});
+    Fill("produtos", "codigo_interno, codigo_de_barras, nome, nome_busca, valor_de_venda",
+         {{code, barcode, name, SearchForm(name), 30_brl}});
   }
   void Service(std::int32_t code, std::int32_t type, const std::string& name) {
-    Fill("servicos", "codigo, tipo, nome, nome_busca",
-               {{code, type, name, SearchForm(name)}});
+    Fill("servicos", "codigo, tipo, nome, nome_busca", {{code, type, name, SearchForm(name)}});
   }
 
   /// Rows of a table in one statement, one more than a search shows, coded from 10000 on: `values`

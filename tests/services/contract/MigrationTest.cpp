@@ -1,9 +1,10 @@
+#include "services/Abertura.h"
 #include "services/Database.h"
-#include "services/DatabaseError.h"
-#include "services/Migrations.h"
-#include "services/PostgresSession.h"
-#include "services/Schema.h"
-#include "services/SqliteSession.h"
+#include "services/banco/DatabaseError.h"
+#include "services/banco/Migrations.h"
+#include "services/banco/PostgresSession.h"
+#include "services/banco/Schema.h"
+#include "services/banco/SqliteSession.h"
 
 namespace services {
 namespace {

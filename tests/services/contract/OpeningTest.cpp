@@ -7,9 +7,10 @@
 #include <fstream>
 
 #include "base/Text.h"
+#include "services/Abertura.h"
 #include "services/Database.h"
-#include "services/Schema.h"
-#include "services/SqliteSession.h"
+#include "services/banco/Schema.h"
+#include "services/banco/SqliteSession.h"
 
 namespace services {
 namespace {

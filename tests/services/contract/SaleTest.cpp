@@ -1,6 +1,6 @@
 #include "base/Text.h"
 #include "services/Database.h"
-#include "services/VendasRegistradas.h"
+#include "services/venda/VendasRegistradas.h"
 
 namespace services {
 namespace {

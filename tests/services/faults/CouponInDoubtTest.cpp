@@ -3,9 +3,10 @@
 
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
+#include "services/Abertura.h"
 #include "services/Database.h"
-#include "services/ExportacaoFiscal.h"
 #include "services/faults/CuttingProxy.h"
+#include "services/troca/ExportacaoFiscal.h"
 #include "support/PrivatePostgres.h"
 
 namespace services {

@@ -8,8 +8,8 @@
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
 #include "services/Database.h"
-#include "services/DatabaseError.h"
-#include "services/SqliteSession.h"
+#include "services/banco/DatabaseError.h"
+#include "services/banco/SqliteSession.h"
 #include "services/faults/Shared.h"
 #include "services/faults/SqliteShim.h"
 

@@ -2,7 +2,7 @@
 #include <thread>
 
 #include "services/Database.h"
-#include "services/VendasRegistradas.h"
+#include "services/venda/VendasRegistradas.h"
 #include "support/TemporaryFolder.h"
 
 namespace services {

@@ -7,8 +7,9 @@
 
 #include "base/Text.h"
 #include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
+#include "services/Abertura.h"
 #include "services/Database.h"
-#include "services/DatabaseError.h"
+#include "services/banco/DatabaseError.h"
 #include "services/faults/CuttingProxy.h"
 #include "support/PrivatePostgres.h"
 

@@ -7,8 +7,8 @@
 #include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
 #include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "services/Database.h"
-#include "services/DatabaseError.h"
-#include "services/SqliteSession.h"
+#include "services/banco/DatabaseError.h"
+#include "services/banco/SqliteSession.h"
 #include "services/faults/Shared.h"
 
 namespace services {

@@ -25,9 +25,10 @@
 #include "base/Clock.h"
 #include "base/RuntimeError.h"
 #include "frame/servicos/ZOVA_N_OSParaBD.clsOSExportarRegistros.h"
+#include "services/Abertura.h"
 #include "services/Banco.h"
-#include "services/ExportacaoFiscal.h"
-#include "services/PastaDeTroca.h"
+#include "services/troca/ExportacaoFiscal.h"
+#include "services/troca/PastaDeTroca.h"
 #include "support/TemporaryFolder.h"
 
 namespace {

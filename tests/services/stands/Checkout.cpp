@@ -9,7 +9,7 @@
 #include "frame/Valores.h"
 #include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
 #include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
-#include "services/ExportacaoFiscal.h"
+#include "services/troca/ExportacaoFiscal.h"
 
 namespace services {
 namespace {

@@ -16,6 +16,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "roteiro/Program.h"
+#include "services/Abertura.h"
 #include "services/Database.h"
 #include "services/faults/CuttingProxy.h"
 #include "services/faults/Shared.h"

@@ -1,0 +1,48 @@
+#include "services/venda/CodigosNoSql.h"
+
+#include "base/Text.h"
+#include "frame/servicos/Codigos.h"
+#include "frame/servicos/Pagamento.h"
+
+namespace services {
+namespace {
+
+struct Codigo {
+  std::string_view nome;
+  std::int32_t numero = 0;
+};
+
+constexpr Codigo kCodigos[] = {
+    {"{servico}", servicos::kServico},
+    {"{produto}", servicos::kProduto},
+    {"{balcao}", servicos::kVendaDeBalcao},
+    {"{preVenda}", servicos::kPreVenda},
+    {"{recebimento}", servicos::kRecebimento},
+    {"{troco}", servicos::kTroco},
+    {"{dinheiro}", servicos::pagamento::kDinheiro},
+    {"{aCredito}", servicos::pagamento::kACredito},
+    {"{aberto}", servicos::kCaixaAberto},
+    {"{fechado}", servicos::kCaixaFechado},
+    {"{foraDeOperacao}", servicos::kCaixaForaDeOperacao},
+};
+
+std::string Lista(std::int32_t primeiro, std::int32_t ultimo) {
+  std::string lista = std::to_string(primeiro);
+  while (primeiro < ultimo) lista += ", " + std::to_string(++primeiro);
+  return lista;
+}
+
+}  // namespace
+
+std::string ComCodigos(std::string_view sql) {
+  std::string texto(sql);
+  for (const Codigo& each : kCodigos) {
+    texto = base::Replace(texto, each.nome, std::to_string(each.numero));
+  }
+  texto = base::Replace(texto, "{qualquerMovimento}", Lista(servicos::kAbertura, servicos::kTroco));
+  texto = base::Replace(texto, "{qualquerMoeda}",
+                        Lista(servicos::pagamento::kDinheiro, servicos::pagamento::kPix));
+  return base::Replace(texto, "{cancelada}", "'" + std::string(servicos::kCancelada) + "'");
+}
+
+}  // namespace services
