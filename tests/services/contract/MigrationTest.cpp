@@ -25,7 +25,8 @@ constexpr Written kWritten[] = {
 INSERT INTO empresa (codigo, nome_fantasia, formato_de_codigo_de_barras_para_balanca,
   codigo_do_documento_com_emissao_permitida) VALUES (1, 'Bicho Contente', '2', '11');
 INSERT INTO usuarios (codigo, nome, nome_busca, senha) VALUES (1, 'Renata', 'renata', 'x');
-INSERT INTO caixas (numero, local_de_atendimento, aberto, dinheiro) VALUES (1, 'Recepção', 1, 100000);
+INSERT INTO caixas (numero, local_de_atendimento, aberto, dinheiro) VALUES
+  (1, 'Recepção', 1, 100000);
 INSERT INTO clientes (codigo, apelido, nome, nome_busca, credito) VALUES
   (5, 'Dudu', 'Eduardo', 'dudu', 300000);
 INSERT INTO animais (codigo, codigo_do_cliente, nome) VALUES (7, 5, 'Rex');
