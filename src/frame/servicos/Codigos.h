@@ -54,9 +54,29 @@ enum TipoDeMovimento : std::int32_t {
   kSaida = 4,
   kRecebimento = 5,  ///< A tender of a sale.
   kTroco = 6,        ///< Change given on a sale.
+  kEstorno = 7,      ///< Takes another movement of a sale back: cancelled, or restored.
+  kAcerto = 8,       ///< A tender for debts that are settled, or the change given on it.
+  kCreditoAdicionado = 9,
+  kCreditoDevolvido = 10,
 };
 
 /// What a sale or a movement is: it stands, or was taken back.
 inline constexpr std::string_view kEfetuada = "F", kCancelada = "C";
+
+/// What moved a customer's credit.
+enum TipoDeCredito : std::int32_t {
+  kCreditoInicial = 0,    ///< Brought in by no operation of the cash desk.
+  kCreditoUsado = 1,      ///< Paid a sale.
+  kCreditoMantido = 2,    ///< Change of a sale that the customer left.
+  kCreditoAcrescido = 3,  ///< Paid in.
+  kCreditoRetirado = 4,   ///< Paid out.
+  kCreditoRevertido = 5,  ///< Given back or taken back with a sale that was cancelled or restored.
+  kCreditoEmAcerto = 6,   ///< Settled debts.
+};
+
+/// What became of a receivable, and where it comes from.
+inline constexpr std::string_view kContaAberta = "aberta", kContaRecebida = "recebida",
+                                  kContaCancelada = "cancelada", kContaRenegociada = "renegociada";
+inline constexpr std::string_view kDeVenda = "venda", kDeAcerto = "acerto", kDeFora = "fora";
 
 }  // namespace servicos

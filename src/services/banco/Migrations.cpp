@@ -419,6 +419,56 @@ DROP INDEX cupons_por_chave;
 CREATE INDEX cupons_por_chave ON cupons {hashed}(chave);
 )sql";
 
+/// What takes a sale, a tender or a debt back is a row of its own, so that nothing that was written
+/// changes: who asked and consented, which movement an entry reverses (each once), where a
+/// receivable comes from and what became of it. A receivable that was cancelled or renegotiated has
+/// a date of receipt and nothing received, so whoever looks for open ones by the date goes on
+/// finding those alone.
+constexpr std::string_view kReversals = R"sql(
+ALTER TABLE vendas ADD COLUMN consentida_por {text} NOT NULL DEFAULT '';
+ALTER TABLE lancamentos_de_caixa ADD COLUMN consentido_por {text} NOT NULL DEFAULT '';
+ALTER TABLE lancamentos_de_caixa ADD COLUMN estorna {int} REFERENCES lancamentos_de_caixa (numero);
+CREATE UNIQUE INDEX lancamentos_estornados ON lancamentos_de_caixa (estorna)
+  WHERE estorna IS NOT NULL;
+
+ALTER TABLE creditos_do_cliente ADD COLUMN tipo {int} NOT NULL DEFAULT 0
+  CHECK (tipo BETWEEN 0 AND 6);
+ALTER TABLE creditos_do_cliente ADD COLUMN operacao {money};
+UPDATE creditos_do_cliente SET tipo = CASE WHEN valor < 0 THEN 1 ELSE 2 END,
+  operacao = (SELECT v.operacao FROM vendas v WHERE v.numero = numero_da_venda)
+  WHERE numero_da_venda IS NOT NULL;
+CREATE INDEX creditos_por_venda ON creditos_do_cliente (numero_da_venda)
+  WHERE numero_da_venda IS NOT NULL;
+
+ALTER TABLE contas_a_receber ADD COLUMN situacao {text} NOT NULL DEFAULT 'aberta'
+  CHECK (situacao IN ('aberta', 'recebida', 'cancelada', 'renegociada'));
+ALTER TABLE contas_a_receber ADD COLUMN origem {text} NOT NULL DEFAULT 'fora'
+  CHECK (origem IN ('venda', 'acerto', 'fora'));
+ALTER TABLE contas_a_receber ADD COLUMN operacao {money};
+ALTER TABLE contas_a_receber ADD COLUMN operacao_de_baixa {money};
+UPDATE contas_a_receber SET situacao = 'recebida' WHERE data_de_recebimento IS NOT NULL;
+UPDATE contas_a_receber SET origem = 'venda',
+  operacao = (SELECT v.operacao FROM vendas v WHERE v.numero = numero_da_venda)
+  WHERE numero_da_venda IS NOT NULL;
+CREATE INDEX contas_por_venda ON contas_a_receber (numero_da_venda)
+  WHERE numero_da_venda IS NOT NULL;
+CREATE INDEX contas_por_baixa ON contas_a_receber (operacao_de_baixa)
+  WHERE operacao_de_baixa IS NOT NULL;
+
+CREATE TABLE cancelamentos_de_venda (
+  numero {key},
+  numero_da_venda {int} NOT NULL REFERENCES vendas (numero),
+  operacao {money} NOT NULL UNIQUE,
+  situacao {text} NOT NULL CHECK (situacao IN ('C', 'F')),
+  data_e_hora {moment} NOT NULL,
+  numero_do_caixa {int} NOT NULL REFERENCES caixas (numero),
+  operador {text} NOT NULL,
+  consentido_por {text} NOT NULL,
+  motivo {text} NOT NULL
+){table};
+CREATE INDEX cancelamentos_por_venda ON cancelamentos_de_venda (numero_da_venda, numero);
+)sql";
+
 /// The index of a table's names keeps no copy of them: it follows its table through triggers.
 constexpr std::string_view kSearchOnSqlite = R"sql(
 CREATE VIRTUAL TABLE {t}_busca USING fts5(nome_busca, content='{t}', content_rowid='{k}',
@@ -453,6 +503,7 @@ constexpr Migration kMigrations[] = {
     {4, kMarksAndOperations, {}},
     {5, kCoupons, {}},
     {6, kKeysOfAnyLength, {}},
+    {7, kReversals, {}},
 };
 
 }  // namespace

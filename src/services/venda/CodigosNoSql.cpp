@@ -19,6 +19,9 @@ constexpr Codigo kCodigos[] = {
     {"{preVenda}", servicos::kPreVenda},
     {"{recebimento}", servicos::kRecebimento},
     {"{troco}", servicos::kTroco},
+    {"{estorno}", servicos::kEstorno},
+    {"{creditoUsado}", servicos::kCreditoUsado},
+    {"{creditoMantido}", servicos::kCreditoMantido},
     {"{dinheiro}", servicos::pagamento::kDinheiro},
     {"{aCredito}", servicos::pagamento::kACredito},
     {"{aberto}", servicos::kCaixaAberto},
@@ -39,7 +42,8 @@ std::string ComCodigos(std::string_view sql) {
   for (const Codigo& each : kCodigos) {
     texto = base::Replace(texto, each.nome, std::to_string(each.numero));
   }
-  texto = base::Replace(texto, "{qualquerMovimento}", Lista(servicos::kAbertura, servicos::kTroco));
+  texto = base::Replace(texto, "{qualquerMovimento}",
+                        Lista(servicos::kAbertura, servicos::kCreditoDevolvido));
   texto = base::Replace(texto, "{qualquerMoeda}",
                         Lista(servicos::pagamento::kDinheiro, servicos::pagamento::kPix));
   return base::Replace(texto, "{cancelada}", "'" + std::string(servicos::kCancelada) + "'");

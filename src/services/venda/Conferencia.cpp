@@ -89,7 +89,8 @@ constexpr Rule kRules[] = {
     {Of::kCount,
      "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN creditos_do_cliente c"
      " ON c.numero_da_venda = v.numero WHERE c.codigo_do_cliente <> v.codigo_do_cliente"
-     " OR c.data_e_hora <> v.data_e_hora GROUP BY v.numero",
+     " OR (c.tipo IN ({creditoUsado}, {creditoMantido}) AND c.data_e_hora <> v.data_e_hora)"
+     " GROUP BY v.numero",
      "Venda {n}: {a} movimentos de crédito não são do cliente ou da hora dela."},
     {Of::kMoney,
      "SELECT numero AS n, total_recebido - troco - credito_mantido AS a, valor_liquido AS b"
@@ -116,8 +117,9 @@ constexpr Rule kRules[] = {
      " GROUP BY numero_da_venda) l ON l.numero_da_venda = v.numero",
      "Venda {n}: as contas a receber somam {a}, e o pagamento a crédito (fiado) é {b}."},
     {Of::kMoney,
-     "SELECT v.numero AS n, coalesce(c.soma, 0) AS a, v.credito_mantido - v.credito_usado AS b"
-     " FROM vendas v LEFT JOIN (SELECT numero_da_venda, CAST(sum(valor) AS bigint) AS soma"
+     "SELECT v.numero AS n, coalesce(c.soma, 0) AS a, CASE WHEN v.situacao = {cancelada} THEN 0"
+     " ELSE v.credito_mantido - v.credito_usado END AS b FROM vendas v LEFT JOIN (SELECT "
+     "numero_da_venda, CAST(sum(valor) AS bigint) AS soma"
      " FROM creditos_do_cliente GROUP BY numero_da_venda) c ON c.numero_da_venda = v.numero",
      "Venda {n}: o crédito do cliente mudou {a}, e deveria mudar {b}."},
     {Of::kCount,
@@ -126,10 +128,44 @@ constexpr Rule kRules[] = {
      " GROUP BY numero_da_venda) i ON i.numero_da_venda = v.numero",
      "Venda {n}: há {a} itens gravados, e a venda tem {b}."},
     {Of::kCount,
-     "SELECT v.numero AS n, coalesce(p.soma, 0) AS a, v.itens_de_pre_venda AS b FROM vendas v"
-     " LEFT JOIN (SELECT numero_da_venda, count(*) AS soma FROM pre_vendas"
+     "SELECT v.numero AS n, coalesce(p.soma, 0) AS a, CASE WHEN v.situacao = {cancelada} THEN 0"
+     " ELSE v.itens_de_pre_venda END AS b FROM vendas v LEFT JOIN (SELECT numero_da_venda, "
+     "count(*) AS soma FROM pre_vendas"
      " GROUP BY numero_da_venda) p ON p.numero_da_venda = v.numero",
      "Venda {n}: há {a} itens de pré-venda baixados, e a venda tem {b}."},
+    {Of::kCount,
+     "SELECT numero AS n, CASE WHEN situacao = {cancelada} THEN 1 ELSE 0 END AS a,"
+     " CASE WHEN ultima = {cancelada} THEN 1 ELSE 0 END AS b FROM (SELECT v.numero, v.situacao,"
+     " (SELECT c.situacao FROM cancelamentos_de_venda c WHERE c.numero_da_venda = v.numero"
+     " ORDER BY c.numero DESC LIMIT 1) AS ultima FROM vendas v) s",
+     "Venda {n}: a situação dela não é a do seu último cancelamento."},
+    {Of::kMoney,
+     "SELECT v.numero AS n, coalesce(l.estornos, 0) AS a,"
+     " CASE WHEN v.situacao = {cancelada} THEN -coalesce(l.soma, 0) ELSE 0 END AS b FROM vendas v"
+     " LEFT JOIN (SELECT numero_da_venda,"
+     " CAST(sum(CASE WHEN tipo = {estorno} THEN valor ELSE 0 END) AS bigint) AS estornos,"
+     " CAST(sum(CASE WHEN tipo IN ({recebimento}, {troco}) THEN valor ELSE 0 END) AS bigint)"
+     " AS soma FROM lancamentos_de_caixa WHERE numero_da_venda IS NOT NULL"
+     " GROUP BY numero_da_venda) l ON l.numero_da_venda = v.numero",
+     "Venda {n}: os estornos somam {a}, e deveriam somar {b}."},
+    {Of::kCount,
+     "SELECT e.numero_da_venda AS n, count(*) AS a, 0 AS b FROM lancamentos_de_caixa e"
+     " LEFT JOIN lancamentos_de_caixa l ON l.numero = e.estorna WHERE e.tipo = {estorno}"
+     " AND (l.numero IS NULL OR l.numero_da_venda <> e.numero_da_venda OR l.moeda <> e.moeda"
+     " OR l.valor <> -e.valor OR l.numero_do_caixa <> e.numero_do_caixa) GROUP BY"
+     " e.numero_da_venda",
+     "Venda {n}: {a} estornos não são o contrário do lançamento que estornam."},
+    {Of::kCount,
+     "SELECT codigo_do_cliente AS n, count(*) AS a, 0 AS b FROM contas_a_receber"
+     " WHERE (situacao = 'aberta') <> (data_de_recebimento IS NULL)"
+     " OR (situacao IN ('cancelada', 'renegociada') AND valor_recebido <> 0)"
+     " GROUP BY codigo_do_cliente",
+     "Cliente {n}: {a} contas a receber têm uma situação que o recebimento delas desmente."},
+    {Of::kCount,
+     "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN contas_a_receber c"
+     " ON c.numero_da_venda = v.numero AND c.origem = 'venda'"
+     " WHERE (v.situacao = {cancelada}) <> (c.situacao = 'cancelada') GROUP BY v.numero",
+     "Venda {n}: {a} contas a receber não seguem o cancelamento dela."},
     {Of::kMoney,
      "SELECT x.numero AS n, x.dinheiro AS a, coalesce(l.soma, 0) AS b FROM caixas x"
      " LEFT JOIN (SELECT numero_do_caixa, CAST(sum(valor) AS bigint) AS soma"

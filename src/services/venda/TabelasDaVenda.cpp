@@ -101,6 +101,8 @@ constexpr Coluna kContas[] = {
     {"valor_do_documento", "bigint"},
     {"incluido_em", "timestamp"},
     {"incluido_por", "text"},
+    {"origem", "text"},
+    {"operacao", "bigint"},
 };
 
 /// The lines of a receivable's history are parted by no-break spaces.
@@ -128,7 +130,8 @@ std::vector<Params> Contas(const Venda& venda) {
     rows.push_back({venda.codigoDoCliente, venda.apelidoDoCliente, venda.nomeDoCliente,
                     Param::Date(venda.quando), venda.valorLiquido, aVista, percentual,
                     rows.size() + 1, parcelas, parcelas, Historico(venda),
-                    Param::Date(*tender.vencimento), tender.valor, venda.quando, venda.operador});
+                    Param::Date(*tender.vencimento), tender.valor, venda.quando, venda.operador,
+                    servicos::kDeVenda, venda.operacao});
   }
   return rows;
 }
@@ -140,16 +143,22 @@ constexpr Coluna kCreditos[] = {
     {"valor", "bigint"},
     {"operador", "text"},
     {"observacao", "text"},
+    {"tipo", "integer"},
+    {"operacao", "bigint"},
 };
 
 std::vector<Params> Creditos(const Venda& venda) {
   std::vector<Params> rows;
-  const auto add = [&](std::int32_t moeda, base::Currency valor, const std::string& what) {
+  const auto add = [&](servicos::TipoDeCredito tipo, std::int32_t moeda, base::Currency valor,
+                       const std::string& what) {
     if (valor.IsZero()) return;
-    rows.push_back({venda.codigoDoCliente, venda.quando, moeda, valor, venda.operador, what});
+    rows.push_back({venda.codigoDoCliente, venda.quando, moeda, valor, venda.operador, what,
+                    std::int32_t{tipo}, venda.operacao});
   };
-  add(pagamento::kCreditoDoCliente, -venda.creditoUsado, "Crédito usado em venda");
-  add(pagamento::kDinheiro, venda.creditoMantido, "Troco de venda deixado como crédito");
+  add(servicos::kCreditoUsado, pagamento::kCreditoDoCliente, -venda.creditoUsado,
+      "Crédito usado em venda");
+  add(servicos::kCreditoMantido, pagamento::kDinheiro, venda.creditoMantido,
+      "Troco de venda deixado como crédito");
   return rows;
 }
 

@@ -50,6 +50,15 @@ TEST_P(ConferenceTest, ASaleAndItsRowsTellTheSame) {
       {"lancamentos_de_caixa SET operador = 'rfnata'",
        "lancamentos_de_caixa SET operador = 'renata'",
        "Venda 1: 1 lançamentos não são do caixa, do operador ou da hora dela."},
+      {"vendas SET situacao = 'C'", "vendas SET situacao = 'F'",
+       "Venda 1: a situação dela não é a do seu último cancelamento."},
+      {"vendas SET situacao = 'C'", "vendas SET situacao = 'F'",
+       "Venda 1: os estornos somam 0,00, e deveriam somar -100,00."},
+      {"lancamentos_de_caixa SET tipo = 7", "lancamentos_de_caixa SET tipo = 5",
+       "Venda 1: 1 estornos não são o contrário do lançamento que estornam."},
+      {"creditos_do_cliente SET numero_da_venda = 1",
+       "creditos_do_cliente SET numero_da_venda = NULL",
+       "Venda 1: o crédito do cliente mudou 50,00, e deveria mudar 0,00."},
   };
   for (const auto& each : cases) {
     Write(std::string("UPDATE ") + each.damage);
