@@ -15,8 +15,6 @@
 #include "desktop/host/MainWindow.h"
 #include "desktop/host/Options.h"
 #include "desktop/host/PendingCare.h"
-#include "desktop/host/Player.h"
-#include "desktop/host/Scripts.h"
 #include "desktop/views/View.h"
 #include "frame/servicos/Servico.h"
 #include "platform/Input.h"
@@ -29,10 +27,13 @@
 #include "services/venda/Travas.h"
 #include "services/venda/VendasRegistradas.h"
 #include "siblings/RegistrarTelas.h"
+#include "tools/vitrine/Options.h"
+#include "tools/vitrine/Player.h"
+#include "tools/vitrine/Scripts.h"
 
 namespace {
 
-using host::Step;
+using vitrine::Step;
 using Act = Step::Act;
 
 /// The host application in this process, over a demonstration clinic of its own.
@@ -63,7 +64,7 @@ class HostTest : public testing::Test {
 
   /// Plays the script, then `next` within the loops that it left open; until the window closes.
   void Play(std::vector<Step> script, const std::function<void()>& next) {
-    host::Player player(desktop, *window, std::move(script));
+    vitrine::Player player(desktop, *window, std::move(script));
     player.words = {{"usuario", users.front().nome}, {"senha", users.front().senha}};
     player.tell = [](const std::string&) {};
     player.folder = folder.path().toStdString();
@@ -287,7 +288,7 @@ class ProgramTest : public testing::Test {
     int status = -1;
     std::string said, complained;
   };
-  Ended Run(const QStringList& arguments, bool display = true) {
+  Ended Run(const QStringList& arguments, bool display = true, const char* name = CAIXA_PROGRAM) {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_DATA_HOME"), folder.filePath(QStringLiteral("dados")));
@@ -298,7 +299,7 @@ class ProgramTest : public testing::Test {
       environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     }
     program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(CAIXA_PROGRAM), arguments);
+    program.start(QString::fromUtf8(name), arguments);
     EXPECT_TRUE(program.waitForFinished(60'000)) << "it did not end";
     return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1,
             program.readAllStandardOutput().toStdString(),
@@ -318,9 +319,10 @@ TEST_F(ProgramTest, WhatItDoesNotUnderstandEndsWithTwo) {
   EXPECT_EQ(Run({QStringLiteral("--bano"), QStringLiteral("x")}).status, 2);
   EXPECT_EQ(Run({QStringLiteral("--banco")}).status, 2);
   const Ended both = Run({QStringLiteral("--retratos"), Path("a"), QStringLiteral("--banco"),
-                          QStringLiteral("sqlite:x.db")});
+                          QStringLiteral("sqlite:x.db")},
+                         true, VITRINE_PROGRAM);
   EXPECT_EQ(both.status, 2);
-  EXPECT_NE(both.complained.find("Uso: caixa"), std::string::npos);
+  EXPECT_NE(both.complained.find("Uso: caixa-vitrine"), std::string::npos);
   EXPECT_EQ(Run({QStringLiteral("--ajuda")}, false).status, 0);
 }
 
@@ -348,7 +350,7 @@ TEST_F(ProgramTest, TheDemonstrationSellsThroughTheWindowsWithCouponAndReceipt) 
   QProcess integrator;
   ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("demo/cfe")));
   integrator.start(QStringLiteral(INTEGRATOR_PROGRAM), {Path("demo/cfe")});
-  const Ended ended = Run({QStringLiteral("--demonstracao"), Path("demo")}, false);
+  const Ended ended = Run({QStringLiteral("--demonstracao"), Path("demo")}, false, VITRINE_PROGRAM);
   integrator.kill();
   integrator.waitForFinished();
   const QString answered = QString::fromUtf8(integrator.readAllStandardOutput());

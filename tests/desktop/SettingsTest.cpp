@@ -93,7 +93,7 @@ TEST_F(SettingsTest, TheProgramMakesFileAndFolderAndStopsAtASettingThatItDoesNot
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("XDG_DATA_HOME"), folder.path());
     program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(CAIXA_PROGRAM),
+    program.start(QStringLiteral(VITRINE_PROGRAM),
                   {QStringLiteral("--medir-inicio"), QStringLiteral("--pasta"), folder.path(),
                    QStringLiteral("--banco"), database});
     EXPECT_TRUE(program.waitForFinished(60'000));

@@ -35,7 +35,6 @@ TEST_P(Protocolo, Played) {
 }
 INSTANTIATE_TEST_SUITE_P(, Protocolo, testing::ValuesIn(FilesIn("protocolo")), NameOf);
 
-#ifdef ROTEIRO_OF_CAIXA
 /// Whole scenarios on the cash desk.
 class Cenarios : public testing::TestWithParam<std::string> {};
 TEST_P(Cenarios, Played) {
@@ -61,7 +60,6 @@ TEST_P(Vendas, Played) {
   Play(ROTEIRO_OF_CAIXA, GetParam(), "sqlite:${DIR}/clinica.db");
 }
 INSTANTIATE_TEST_SUITE_P(, Vendas, testing::ValuesIn(FilesIn("vendas")), NameOf);
-#endif
 
 }  // namespace
 }  // namespace roteiro_tests

@@ -55,6 +55,8 @@ std::vector<Floor> Building() {
   above.insert(above.end(), kRooms.begin(), kRooms.end());
   floors.push_back({"desktop", above, false});
   floors.push_back({"tools", above, false});
+  above.push_back("desktop");
+  floors.push_back({"tools/vitrine", above, false});
   return floors;
 }
 
@@ -84,7 +86,7 @@ const std::vector<Library>& Libraries() {
   static const std::vector<Library> kLibraries{
       {"Qt",
        std::regex("Q[A-Z].*|Qt[A-Z].*/.*"),
-       {"src/desktop/", "tests/desktop/", "bench/desktop/"}},
+       {"src/desktop/", "src/tools/vitrine/", "tests/desktop/", "bench/desktop/"}},
       {"SQL",
        std::regex("sqlite3\\.h|SQLiteCpp/.*|libpq-fe\\.h"),
        {"src/services/", "src/tools/banco/", "bench/", "tests/"}},

@@ -10,23 +10,18 @@
 #include "frame/modMensagemDeErro.h"
 #include "frame/servicos/ZOVA_A_MsgErro.clsMensagem.h"
 #include "platform/Desktop.h"
-#include "tools/roteiro/Options.h"
-#include "tools/roteiro/StandIns.h"
-#ifdef CAIXA_SERVICES
 #include "services/Abertura.h"
 #include "services/Banco.h"
 #include "services/Estacao.h"
 #include "services/contrato/RegistrarServicos.h"
 #include "services/troca/ExportacaoFiscal.h"
-#endif
-#ifdef CAIXA_SIBLINGS
 #include "siblings/RegistrarTelas.h"
-#endif
+#include "tools/roteiro/Options.h"
+#include "tools/roteiro/StandIns.h"
 
 namespace roteiro {
 namespace {
 
-#if defined(CAIXA_SERVICES) && defined(CAIXA_SIBLINGS)
 using servicos::ZOVA_A_MsgErro::clsMensagem;
 
 /// The suite's error viewer, which keeps the operator; what it shows is told as an event as well.
@@ -88,11 +83,9 @@ std::function<void()> CareOf(const std::shared_ptr<services::Banco>& bank,
     }
   };
 }
-#endif
 
 }  // namespace
 
-#if defined(CAIXA_SERVICES) && defined(CAIXA_SIBLINGS)
 std::function<void()> UseDatabase(const Options& options, StandIns& standIns,
                                   platform::Desktop& desktop) {
   const auto bank = services::AbrirBanco(options.database, desktop, desktop.ComputerName(),
@@ -106,10 +99,5 @@ std::function<void()> UseDatabase(const Options& options, StandIns& standIns,
   UseSuite(standIns);
   return CareOf(bank, desktop);
 }
-#else
-std::function<void()> UseDatabase(const Options&, StandIns&, platform::Desktop&) {
-  throw std::runtime_error("this build has no database services; use --services stub");
-}
-#endif
 
 }  // namespace roteiro

@@ -24,7 +24,7 @@ Operator::Operator(const XScreen& screen, const QString& folder, const QString& 
   TieToUs(program_);
   program_.setProcessEnvironment(screen.Environment());
   program_.setProcessChannelMode(QProcess::ForwardedChannels);
-  program_.start(QStringLiteral(CAIXA_PROGRAM),
+  program_.start(QStringLiteral(VITRINE_PROGRAM),
                  {QStringLiteral("--banco"), database, QStringLiteral("--pasta"), folder,
                   QStringLiteral("--contar-tela"), file_});
 }

@@ -7,7 +7,6 @@
 #include "services/Database.h"
 #include "services/venda/VendasRegistradas.h"
 
-#ifdef CAIXA_BANCO
 namespace services {
 namespace {
 
@@ -184,4 +183,3 @@ TEST(CommandLineTest, WhatIsNotUnderstoodExitsWithTwo) {
 
 }  // namespace
 }  // namespace services
-#endif

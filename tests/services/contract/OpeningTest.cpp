@@ -208,7 +208,6 @@ TEST_F(OpeningFilesTest, NobodyElseReadsANewDatabase) {
   umask(before);
 }
 
-#ifdef CAIXA_BANCO
 TEST_F(OpeningFilesTest, TwoDemonstrationClinicsAtOnceAreOne) {
   const std::string create = "cd '" CAIXA_SOURCE
                              "' && . scripts/clinic.sh && CAIXA_PROGRAMS=$(dirname '" CAIXA_BANCO
@@ -222,7 +221,6 @@ TEST_F(OpeningFilesTest, TwoDemonstrationClinicsAtOnceAreOne) {
   static const Statement users("SELECT 1 FROM usuarios");
   EXPECT_EQ(4, banco->Sessao().Select(users, {}, [](const Row&) {}));
 }
-#endif
 
 TEST(OpeningServerTest, AServerThatIsNotThere) {
   const auto [why, words] =

@@ -22,7 +22,7 @@ namespace platform {
 class Control;
 }  // namespace platform
 
-namespace host {
+namespace vitrine {
 
 /// One act of a script. `target` names a control of the screen in front, `text` is what the act
 /// needs; "{name}" in it stands for one of the player's words.
@@ -108,4 +108,4 @@ class Player final : public QObject {
   QTimer timer_;
 };
 
-}  // namespace host
+}  // namespace vitrine

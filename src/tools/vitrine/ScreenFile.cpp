@@ -1,4 +1,4 @@
-#include "desktop/host/ScreenFile.h"
+#include "tools/vitrine/ScreenFile.h"
 
 #include <QApplication>
 #include <QJsonDocument>
@@ -10,12 +10,12 @@
 #include "desktop/Convert.h"
 #include "desktop/DesktopQt.h"
 #include "desktop/MessageBoxView.h"
-#include "desktop/host/InFront.h"
 #include "desktop/views/ComboList.h"
 #include "desktop/views/Toolbar.h"
 #include "desktop/views/ZVComboBox.h"
+#include "tools/vitrine/InFront.h"
 
-namespace host {
+namespace vitrine {
 namespace {
 
 constexpr int kTickMilliseconds = 20;
@@ -130,4 +130,4 @@ QByteArray ScreenFile::Tell() const {
   return QJsonDocument(screen).toJson(QJsonDocument::Compact);
 }
 
-}  // namespace host
+}  // namespace vitrine

@@ -14,7 +14,7 @@ namespace desktop {
 class DesktopQt;
 }
 
-namespace host {
+namespace vitrine {
 
 /// Keeps a file that tells what is on the screen, for whoever drives the cash desk from outside
 /// with keys and mouse and must know where to point and when something has come. The file is
@@ -46,4 +46,4 @@ class ScreenFile final : public QObject {
   QTimer timer_;
 };
 
-}  // namespace host
+}  // namespace vitrine

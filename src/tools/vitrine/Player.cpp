@@ -1,4 +1,4 @@
-#include "desktop/host/Player.h"
+#include "tools/vitrine/Player.h"
 
 #include <QApplication>
 #include <QDir>
@@ -17,7 +17,6 @@
 #include "desktop/DesktopQt.h"
 #include "desktop/MessageBoxView.h"
 #include "desktop/Photograph.h"
-#include "desktop/host/InFront.h"
 #include "desktop/views/ComboList.h"
 #include "desktop/views/MSFlexGrid.h"
 #include "desktop/views/Toolbar.h"
@@ -25,8 +24,9 @@
 #include "frame/modMensagemDeErro.h"
 #include "platform/EditBox.h"
 #include "platform/Input.h"
+#include "tools/vitrine/InFront.h"
 
-namespace host {
+namespace vitrine {
 namespace {
 
 using Act = Step::Act;
@@ -318,4 +318,4 @@ void Player::Press(int key, const QString& text, Qt::KeyboardModifiers modifiers
   });
 }
 
-}  // namespace host
+}  // namespace vitrine

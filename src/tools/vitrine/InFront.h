@@ -2,7 +2,7 @@
 
 #include "platform/Screens.h"
 
-namespace host {
+namespace vitrine {
 
 /// The screen that the operator works on: the modal one, else the one in front; null without any.
 inline platform::Form* InFront() {
@@ -10,4 +10,4 @@ inline platform::Form* InFront() {
   return modal != nullptr ? modal : platform::screens::Front();
 }
 
-}  // namespace host
+}  // namespace vitrine

@@ -1,7 +1,7 @@
-#include "desktop/host/ScriptParts.h"
-#include "desktop/host/Scripts.h"
+#include "tools/vitrine/ScriptParts.h"
+#include "tools/vitrine/Scripts.h"
 
-namespace host::scripts {
+namespace vitrine::scripts {
 namespace {
 
 constexpr std::array kSignIn{
@@ -296,4 +296,4 @@ std::vector<Step> Portraits() {
                  kClose});
 }
 
-}  // namespace host::scripts
+}  // namespace vitrine::scripts

@@ -5,10 +5,10 @@
 #include <span>
 #include <vector>
 
-#include "desktop/host/Player.h"
+#include "tools/vitrine/Player.h"
 
 /// Stretches of work that several scripts have in common.
-namespace host::scripts {
+namespace vitrine::scripts {
 
 using Act = Step::Act;
 
@@ -69,4 +69,4 @@ inline constexpr std::array kAdd{
     Step{Act::kSettle, "frmCaixaOperar"},
 };
 
-}  // namespace host::scripts
+}  // namespace vitrine::scripts

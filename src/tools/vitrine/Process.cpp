@@ -1,4 +1,4 @@
-#include "desktop/host/Process.h"
+#include "tools/vitrine/Process.h"
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-namespace host::process {
+namespace vitrine::process {
 
 double SecondsSinceStart() {
   std::ifstream stat("/proc/self/stat");
@@ -30,4 +30,4 @@ long PeakMemory() {
   return usage.ru_maxrss * 1024;  // Told in kilobytes.
 }
 
-}  // namespace host::process
+}  // namespace vitrine::process
