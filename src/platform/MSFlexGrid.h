@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -141,9 +142,9 @@ class MSFlexGrid final : public Control, public base::GradeLida {
 
   /// 0: no highlight, 1: always, 2: with the focus.
   std::int16_t highLight = 1;
-  /// Column of the line texts that a renderer may show calmer; see the sale counter.
-  std::int32_t calmColumn = -1;
-  std::string calmText;
+  /// Which rows stand back, as one does that cannot be changed here: a renderer may write them in a
+  /// quieter ink. Empty for none.
+  std::function<bool(std::int32_t row)> standsBack;
   std::string fontName;
   std::int32_t fontSize = 0;
 

@@ -40,8 +40,10 @@ void TelaDoBalcao::Desenhar() {
         &zvnumValorTotalDeDesconto, &zvnumLiquidoAPagar}) {
     soma->Text.Assign("0,00");
   }
-  msfgGrade.calmColumn = kColunaTipoDeVenda;
-  msfgGrade.calmText = std::to_string(servicos::kPreVenda);
+  msfgGrade.standsBack = [this](std::int32_t linha) {
+    return msfgGrade.Cols() > kColunaTipoDeVenda &&
+           msfgGrade.TextMatrix(linha, kColunaTipoDeVenda) == std::to_string(servicos::kPreVenda);
+  };
   for (ZVNumberBox* soma :
        {&zvnumTotal, &zvnumValorTotalDeDescontoItensDaGrade, &zvnumLiquidoAPagar}) {
     soma->tabStop = false;

@@ -130,8 +130,7 @@ void Counter::Fill(int lines) {
     msfgGrade.TextMatrix(0, col, kTitles[static_cast<std::size_t>(col)]);
     if (col >= 3) msfgGrade.ColAlignment(col, platform::Align::kRightCenter);
   }
-  msfgGrade.calmColumn = 8;
-  msfgGrade.calmText = "2";
+  msfgGrade.standsBack = [this](std::int32_t row) { return msfgGrade.TextMatrix(row, 8) == "2"; };
   static constexpr std::array kLines{
       "Consulta clínica\tRex\tDr. Paulo\t1\t180,00\t0,00\t0,00\t180,00\t2",
       "Banho e tosa\tBob\tCarla\t1\t80,00\t-10,00\t-8,00\t72,00\t1",

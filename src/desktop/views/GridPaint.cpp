@@ -85,8 +85,7 @@ QFont MSFlexGridView::CellFont(std::int32_t row, std::int32_t col) const {
 }
 
 bool MSFlexGridView::IsCalm(std::int32_t row) const {
-  const std::int32_t col = Grid().calmColumn;
-  return col >= 0 && col < Grid().Cols() && Grid().TextMatrix(row, col) == Grid().calmText;
+  return Grid().standsBack && Grid().standsBack(row);
 }
 
 bool MSFlexGridView::IsSelected(std::int32_t row) const {
