@@ -96,81 +96,6 @@ TEST_F(ConfirmTest, TheChangeAndTheCreditThatAreSent) {
   }
 }
 
-TEST_F(ConfirmTest, WhatIsNotPaidIsNotConfirmed) {
-  EXPECT_EQ(Pay("100", "0",
-                [&](frmCaixaPagar& form) {
-                  input::Click(form.zvcmdConfirmar);
-                  EXPECT_EQ(module.desktop.TakeBox(), "Informe o pagamento.");
-                  EXPECT_EQ(form.lblFormaDePagamento.ForeColor(), frame::kCorDeRecusa);
-                  EXPECT_TRUE(form.zvcmbFormaDePagamento.HasFocus());
-                  Add(form, 1, "99,5");
-                  input::Click(form.zvcmdConfirmar);
-                  EXPECT_EQ(module.desktop.TakeBox(), "Restam 0,50 para pagar.");
-                  EXPECT_EQ(Tenders(form), "1-Dinheiro 99,50 __/__/____");
-                  EXPECT_FALSE(form.picMensagem.IsShown());
-                }),
-            99);
-  EXPECT_TRUE(module.TakeCalls().empty());
-  // A sale of nothing needs no tender.
-  EXPECT_EQ(Pay("0", "0", [&](frmCaixaPagar& form) { input::Click(form.zvcmdConfirmar); }), 0);
-  EXPECT_EQ(Registrations(), 1);
-}
-
-TEST_F(ConfirmTest, NothingButZeroCountsAsSold) {
-  struct Case {
-    std::int16_t result;
-    Icon icon;
-  };
-  frame::valores().ImprimirComprovanteDePagamento = true;
-  frame::valores().ImprimirNotaPromissoria = true;
-  for (const Case& each :
-       {Case{2, Icon::kInformation}, Case{3, Icon::kStop}, Case{52, Icon::kInformation}}) {
-    SCOPED_TRACE(each.result);
-    module.results["RegistrarPagamento"] = each.result;
-    EXPECT_EQ(PayOnCredit(), 99);
-    const std::vector<platform::MessageBox> boxes = module.desktop.TakeBoxes();
-    ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].text, "Recusado pelo serviço.");
-    EXPECT_EQ(boxes[0].icon, each.icon);
-    EXPECT_EQ(module.TakeCalls().back(), "RegistrarPagamento");
-  }
-  module.results["RegistrarPagamento"] = 1;
-  EXPECT_EQ(PayOnCredit(), 99);
-  EXPECT_EQ(module.TakeError(), "1205 Banco fora do ar. @ servico");
-}
-
-TEST_F(ConfirmTest, EveryOtherWayOutLeavesTheSaleUnconfirmed) {
-  const auto leave = [&](auto act) {
-    return Pay("100", "0", [&](frmCaixaPagar& form) {
-      Add(form, 1, "100");
-      act(form);
-      EXPECT_FALSE(form.IsVisible());
-    });
-  };
-  EXPECT_EQ(leave([](frmCaixaPagar& form) { input::Click(form.zvcmdCancelar); }), 99);
-  EXPECT_EQ(leave([](frmCaixaPagar& form) { input::Close(form); }), 99);
-  EXPECT_EQ(leave([](frmCaixaPagar& form) { input::Press(form, KeyStroke::Of(Key::kEscape)); }),
-            99);
-  EXPECT_TRUE(module.TakeCalls().empty());
-}
-
-TEST_F(ConfirmTest, AFaultBeforeTheRegistrationLeavesTheScreenAsItStood) {
-  support::Module::Lose("ZOVA_N_Caixa.clsCaixa");
-  EXPECT_EQ(Pay("100", "0",
-                [&](frmCaixaPagar& form) {
-                  Add(form, 1, "100");
-                  input::Click(form.zvcmdConfirmar);
-                  EXPECT_TRUE(form.IsVisible());
-                  EXPECT_FALSE(form.picMensagem.IsShown());
-                  EXPECT_FALSE(form.AreCommandsHeld());
-                  EXPECT_EQ(Tenders(form), "1-Dinheiro 100,00 __/__/____");
-                }),
-            99);
-  EXPECT_EQ(module.TakeError(),
-            "429 Não foi possível criar o objeto. @ ZOVA_A_Caixa, frmCaixaPagar, "
-            "zvcmdConfirmar_Click, Ponto: 4");
-}
-
 TEST_F(ConfirmTest, ThePromissoryNoteGoesOutForASaleOnCredit) {
   frame::valores().ImprimirNotaPromissoria = true;
   frame::valores().VisualizarImpressaoDaNotaPromissoria = true;
@@ -197,27 +122,6 @@ TEST_F(ConfirmTest, ThePromissoryNoteGoesOutForASaleOnCredit) {
   // Cash owes nothing.
   EXPECT_EQ(PayInCash("100", "100"), 0);
   EXPECT_EQ(module.TakeCalls().back(), "NumeroDaVenda");
-}
-
-// The sale stands in the database by then: a screen left open would sell it a second time.
-TEST_F(ConfirmTest, AFaultAfterTheRegistrationStillEndsTheSale) {
-  frame::valores().ImprimirNotaPromissoria = true;
-  support::Module::Lose("ZOVA_A_RelFin.clsRelFin");
-  EXPECT_EQ(PayOnCredit(), 0);
-  EXPECT_EQ(module.TakeError(),
-            "429 Não foi possível criar o objeto. @ ZOVA_A_Caixa, frmCaixaPagar, "
-            "zvcmdConfirmar_Click, Ponto: 8");
-  EXPECT_EQ(Registrations(), 1);
-
-  module.missing.insert("NumeroDaVenda");
-  EXPECT_EQ(PayOnCredit(), 0);
-  EXPECT_THAT(module.TakeError(), testing::StartsWith("438 "));
-
-  // Not even the error viewer is there.
-  support::Module::Lose("ZOVA_A_MsgErro.clsMensagem");
-  EXPECT_EQ(PayOnCredit(), 0);
-  EXPECT_THAT(module.desktop.TakeBox(), testing::StartsWith("429 - "));
-  EXPECT_EQ(module.desktop.TakeJournal().back(), "forget frmCaixaPagar");
 }
 
 TEST_F(ConfirmTest, TheReceiptIsAskedForWithThePanelOutOfTheWay) {

@@ -81,23 +81,5 @@ TEST_F(DueDateTest, TheCalendarKnowsNoCentury) {
   }
 }
 
-TEST_F(DueDateTest, ARefusedDateKeepsTheTenderOut) {
-  Pay("100", "0", [&](frmCaixaPagar& form) {
-    Choose(form, 6);
-    Type(form.zvdtpDataDeVencimento, "31112026");
-    input::Click(form.zvcmdAdicionar);
-    EXPECT_THAT(module.desktop.TakeBox(), testing::StartsWith(kInvalid));
-    EXPECT_TRUE(form.zvdtpDataDeVencimento.HasFocus());
-    EXPECT_EQ(Tenders(form), "");
-
-    Type(form.zvdtpDataDeVencimento, "01112026");
-    module.desktop.Answer(platform::Answer::kYes);
-    input::Click(form.zvcmdAdicionar);
-    module.desktop.TakeBox();
-    EXPECT_EQ(Tenders(form), "6-A crédito (Fiado) 100,00 01/11/2026");
-  });
-  module.TakeCalls();
-}
-
 }  // namespace
 }  // namespace checkout

@@ -68,54 +68,6 @@ TEST_F(AutorizarTest, EachDialogAsksForItsOwnRight) {
   }
 }
 
-TEST_F(AutorizarTest, AnEmptyFieldIsRefusedAndTheDialogStays) {
-  module.supervisor["Administrador"] = true;
-  EXPECT_EQ(Open(kAutorizarDesconto,
-                 [&](frmCaixaAutorizar& form) {
-                   EXPECT_TRUE(form.zvtxtUsuario.HasFocus());
-                   input::Click(form.zvcmdOk);
-                   EXPECT_EQ(module.desktop.TakeBox(), "Informe o nome do usuário.");
-                   EXPECT_EQ(form.lblUsuario.ForeColor(), frame::kCorDeRecusa);
-                   EXPECT_TRUE(form.zvtxtUsuario.HasFocus());
-
-                   input::Type(form, "marta");
-                   input::Click(form.zvcmdOk);
-                   EXPECT_EQ(module.desktop.TakeBox(), "Informe o senha do usuário.");
-                   EXPECT_EQ(form.lblUsuario.ForeColor(), frame::kCorNormal);
-                   EXPECT_EQ(form.lblSenha.ForeColor(), frame::kCorDeRecusa);
-                   EXPECT_TRUE(form.zvtxtSenha.HasFocus());
-
-                   input::Type(form, "segredo");
-                   input::Click(form.zvcmdOk);
-                 }),
-            0);
-}
-
-TEST_F(AutorizarTest, AFailedAuthenticationEndsTheDialog) {
-  struct Case {
-    std::int16_t result;
-    Icon icon;
-  };
-  for (const Case& each :
-       {Case{2, Icon::kInformation}, Case{3, Icon::kStop}, Case{60, Icon::kInformation}}) {
-    SCOPED_TRACE(each.result);
-    module.results["Autenticar"] = each.result;
-    EXPECT_EQ(Open(kAutorizarDesconto,
-                   [](frmCaixaAutorizar& form) {
-                     FillAndConfirm(form);
-                     EXPECT_FALSE(form.IsVisible());
-                   }),
-              99);
-    const std::vector<platform::MessageBox> boxes = module.desktop.TakeBoxes();
-    ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].text, "Recusado pelo serviço.");
-    EXPECT_EQ(boxes[0].icon, each.icon);
-  }
-  module.results["Autenticar"] = 1;
-  EXPECT_EQ(Open(kAutorizarDesconto, FillAndConfirm), 99);
-  EXPECT_EQ(module.TakeError(), "1205 Banco fora do ar. @ servico");
-}
-
 TEST_F(AutorizarTest, EveryOtherWayOutIsARefusal) {
   module.supervisor["Administrador"] = true;
   const auto answer = [&](auto leave) { return Open(kAutorizarDesconto, leave); };
@@ -142,23 +94,6 @@ TEST_F(AutorizarTest, EveryOtherWayOutIsARefusal) {
   EXPECT_EQ(leaveMeanwhile([](frmCaixaAutorizar& form) { input::Close(form); }), 99);
   EXPECT_EQ(leaveMeanwhile([](frmCaixaAutorizar& form) { input::Click(form.zvcmdFechar); }), 99);
   EXPECT_EQ(leaveMeanwhile([](frmCaixaAutorizar&) {}), 0);
-}
-
-TEST_F(AutorizarTest, AFaultIsReportedWithTheDialogsTagAndRefuses) {
-  module.missing.insert("SenhaDoUsuario");
-  EXPECT_EQ(Open(kAutorizarCancelarVendas, FillAndConfirm), 99);
-  EXPECT_EQ(module.TakeError(),
-            "438 O objeto não tem este membro. @ ZOVA_A_Caixa, frmCaixaAutorizarCancelarVendas, "
-            "zvcmdOk_Click, Ponto: 3");
-
-  support::Module::Lose("ZOVA_N_Login.clsLogin");
-  EXPECT_EQ(Open(kAutorizarDesconto, FillAndConfirm), 99);
-  EXPECT_THAT(module.TakeError(), testing::StartsWith("429 "));
-
-  // Not even the error viewer is there: nobody is authorised, and the dialog is gone.
-  support::Module::Lose("ZOVA_A_MsgErro.clsMensagem");
-  EXPECT_EQ(Open(kAutorizarDesconto, FillAndConfirm), 99);
-  EXPECT_THAT(module.desktop.TakeBox(), testing::StartsWith("429 - "));
 }
 
 /// Fails as soon as the observed object changes.

@@ -105,60 +105,6 @@ TEST_F(TheExchange, CountsAFileAsWrittenThatWasTakenAtOnce) {
   EXPECT_EQ(frame::valores().ChaveSAT, "KEY");
 }
 
-TEST_F(TheExchange, LeavesKeyAndFilesByItsOutcome) {
-  struct Case {
-    std::string_view answer;
-    bool goesOn;
-    std::string_view key, told, files;
-  };
-  for (const Case& each : std::initializer_list<Case>{
-           {"|OK||KEY|", true, "KEY", "", "envio "},
-           {"", true, "", "", "envio "},
-           {"|ERRO|Rejei\xE7\xE3o|KEY|", true, "", "\tRejeição\n", "envio "},
-           {"|ERRO||", true, "", "\tERRO DESCONHECIDO.\n", "envio "},
-           {"|OK||A|\r\n|OK||B|", true, "", "\tERRO DESCONHECIDO.\n", "envio "},
-       }) {
-    SCOPED_TRACE(each.answer);
-    EXPECT_EQ(Export(std::string(each.answer)), each.goesOn);
-    EXPECT_EQ(frame::valores().ChaveSAT, each.key);
-    const std::vector<platform::MessageBox> boxes = desktop.TakeBoxes();
-    ASSERT_EQ(boxes.size(), each.told.empty() ? 0U : 1U);
-    for (const platform::MessageBox& box : boxes) {
-      EXPECT_THAT(box.text, testing::HasSubstr(std::string(each.told)));
-      EXPECT_EQ(box.icon, platform::Icon::kStop);
-    }
-    EXPECT_EQ(Files(), each.files);
-  }
-}
-
-// Four readings with five seconds after each, then the operator is told; the next try on the same
-// screen is told after one. An answer read at last counts, whatever failed before.
-TEST_F(TheExchange, GivesUpAfterFourReadings) {
-  desktop.unreadable.insert("retorno");
-  desktop.readOnly.insert("envio");
-  constexpr double kWaitForTheOtherFile = 10;
-  for (const int pauses : {4, 1}) {
-    const double before = desktop.Elapsed();
-    EXPECT_FALSE(Export("|OK||KEY|"));
-    EXPECT_NEAR(desktop.Elapsed() - before, kWaitForTheOtherFile + pauses * 5, 0.1);
-    EXPECT_EQ(desktop.TakeBox(),
-              "A leitura do arquivo 'retorno' não foi possível neste computador. \n\n"
-              "70-Permissão negada.\n\nPara corrigir esta situação:\n\n"
-              "\t1. Entre em contato com o suporte técnico, e informe o erro identificado.\n\n"
-              "\t2. Não inclua produto(s) na grade de itens de vendas.");
-    EXPECT_EQ(Files(), "envio ") << "a file that cannot be deleted is no hindrance to the other";
-  }
-  desktop.unreadable.clear();
-  EXPECT_TRUE(Export("|ERRO|Falha X|"));
-  EXPECT_EQ(desktop.TakeBox(),
-            "Houve um erro na tentativa da emissão do documento fiscal. \n\n"
-            "Identificação do erro: \n\n\tFalha X\n\nPara corrigir esta situação:\n\n"
-            "\t1. Entre em contato com o suporte técnico, e informe o erro identificado.\n\n"
-            "\t2. Não inclua produto(s) na da grade de itens de vendas.");
-  EXPECT_TRUE(Export("|OK||KEY|"));
-  EXPECT_EQ(frame::valores().ChaveSAT, "KEY");
-}
-
 // The sale of a host that closes is never registered: no coupon may still be issued from its file.
 TEST_F(TheExchange, TakesTheFileBackWhenTheHostCloses) {
   desktop.After(1, [this] { desktop.Close(); });

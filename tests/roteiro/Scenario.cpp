@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -84,7 +85,18 @@ class Player {
       if (line.empty() || line.starts_with('#')) continue;
       Replace(line, "${BANCO}", bank_);
       Replace(line, "${DIR}", folder_.Path().string());
+      for (const auto& [name, word] : words_) Replace(line, "${" + name + "}", word);
       Follow(line, std::filesystem::path(file).parent_path());
+    }
+  }
+
+  /// Once with each set of words for the names in its lines.
+  void Include(const std::string& file, const Json& with) {
+    const auto outer = words_;
+    for (const Json& words : with) {
+      for (const auto& [name, word] : words.items()) words_[name] = word.get<std::string>();
+      Read(file);
+      words_ = outer;
     }
   }
 
@@ -97,7 +109,8 @@ class Player {
       return;
     }
     if (parsed.contains("include")) {
-      Read(folder / parsed["include"].get<std::string>());
+      Include(folder / parsed["include"].get<std::string>(),
+              parsed.value("with", Json::array({{}})));
       return;
     }
     if (parsed.contains("run") && !parsed.contains("do")) {
@@ -291,7 +304,8 @@ class Player {
 
   std::string programPath_;
   std::string bank_;
-  support::TemporaryFolder folder_;  ///< "${DIR}" in the lines.
+  support::TemporaryFolder folder_;           ///< "${DIR}" in the lines.
+  std::map<std::string, std::string> words_;  ///< What other names in braces stand for.
   std::unique_ptr<Program> program_;
   std::vector<std::pair<std::string, std::unique_ptr<Program>>> beside_;
   bool ended_ = false;
