@@ -28,5 +28,5 @@ function(caixa_test name)
   target_link_libraries(tests_${name} PRIVATE caixa_options GTest::gmock GTest::gtest_main ${ARGN})
   target_include_directories(tests_${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
   gtest_discover_tests(tests_${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
-    PROPERTIES TIMEOUT 120)
+    PROPERTIES TIMEOUT 300)
 endfunction()

@@ -54,6 +54,7 @@ DesktopQt::~DesktopQt() {
 }
 
 base::DateTime DesktopQt::Now() const {
+  if (stoppedAt_) return *stoppedAt_;
   const QDateTime now = QDateTime::currentDateTime();
   return base::DateTime::FromSeconds(now.toSecsSinceEpoch() + now.offsetFromUtc());
 }

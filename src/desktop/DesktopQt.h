@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -36,6 +37,10 @@ class DesktopQt final : public platform::Desktop {
 
   /// On what, and by which printer, reports are printed; by default A4 by the system's own.
   void UsePrinting(reports::Printing printing) { printing_ = std::move(printing); }
+
+  /// The calendar's clock stands still from now on, waits do not: pictures taken on another day
+  /// show the same.
+  void StopClock(base::DateTime at) { stoppedAt_ = at; }
 
   /// Nothing runs and nothing waits: the host may close at once.
   bool IsIdle() const { return loops_.IsIdle(); }
@@ -121,6 +126,7 @@ class DesktopQt final : public platform::Desktop {
   std::string moduleFolder_;
   reports::Printing printing_;
   QElapsedTimer started_;
+  std::optional<base::DateTime> stoppedAt_;
   Windows windows_;
   Loops loops_;
   InputGate gate_{loops_};
