@@ -1,6 +1,5 @@
 #include <QScrollBar>
 
-#include "desktop/GalleryCounter.h"
 #include "desktop/Stage.h"
 #include "desktop/views/GridColumns.h"
 #include "desktop/views/MSFlexGrid.h"
@@ -26,7 +25,7 @@ class GridTest : public stage::Stage {
   }
   QPoint Cell(int row, int col) { return View().CellBox(row, col).center().toPoint(); }
 
-  gallery::Counter form;
+  stage::GridForm form;
   std::string events;
 };
 
@@ -56,13 +55,13 @@ TEST_F(GridTest, ADoubleClickIsOneClickAndOneDoubleClick) {
 TEST_F(GridTest, ColumnsFillTheWidthAndHiddenOnesAreGone) {
   desktop::GridColumns columns;
   columns.Arrange(form.msfgGrade, 800, {});
-  EXPECT_EQ(columns.Shown().size(), 8U);
+  EXPECT_EQ(columns.Shown().size(), 5U);
   EXPECT_EQ(columns.Main(), 0);
   EXPECT_NEAR(columns.Width(), 800, 0.01);
   columns.Arrange(form.msfgGrade, 2000, {});
   EXPECT_NEAR(columns.Width(), 2000, 0.01);
   EXPECT_EQ(columns.At(5), 0);
-  EXPECT_TRUE(View().CellBox(1, 8).isEmpty());
+  EXPECT_TRUE(View().CellBox(1, 5).isEmpty());
 }
 
 TEST_F(GridTest, KeyboardWheelAndBarScroll) {

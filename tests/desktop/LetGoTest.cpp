@@ -1,6 +1,4 @@
 #include "desktop/FormView.h"
-#include "desktop/GalleryCounter.h"
-#include "desktop/GalleryDialog.h"
 #include "desktop/Stage.h"
 #include "platform/Toolbar.h"
 
@@ -36,11 +34,11 @@ TEST_F(LetGoTest, AFormDestroyedInItsOwnHandlerTakesItsViewsAlong) {
 }
 
 TEST_F(LetGoTest, AnUnloadedFormMayBeWrittenAndShownAgain) {
-  gallery::Dialog form;
+  stage::GridForm form;
   form.Show();
   Settle();
   form.Unload();
-  form.Fill();
+  form.Fill(3);
   EXPECT_EQ(desktop->ViewOf(form), nullptr);
   form.Show();
   Settle();
@@ -63,7 +61,7 @@ TEST_F(LetGoTest, ButtonsOfAToolbarAreLeftAloneOnceTheyAreGone) {
 }
 
 TEST_F(LetGoTest, AnAdoptedFormLivesAsLongAsItsWindow) {
-  class Watched : public gallery::Counter {
+  class Watched : public stage::GridForm {
    public:
     explicit Watched(bool& flag) : gone(flag) {}
     ~Watched() override { gone = true; }
@@ -87,7 +85,7 @@ TEST_F(LetGoTest, AnAdoptedFormLivesAsLongAsItsWindow) {
 }
 
 TEST_F(LetGoTest, ChangesOfAGridAreShownOnceAndNotAfterTheEnd) {
-  gallery::Counter form;
+  stage::GridForm form;
   form.SetParent(handle);
   form.Show();
   form.Fill(500);

@@ -21,6 +21,7 @@
 #include "platform/Input.h"
 #include "platform/Label.h"
 #include "platform/Layout.h"
+#include "platform/MSFlexGrid.h"
 #include "platform/ZVCommandButton.h"
 #include "platform/ZVTextBox.h"
 
@@ -46,6 +47,25 @@ class SmallForm : public platform::Form {
   std::string Active() const {
     return ActiveControl() == nullptr ? "none" : ActiveControl()->Name();
   }
+};
+
+/// A grid over the whole form: five columns in sight and one that is hidden.
+class GridForm : public platform::Form {
+ public:
+  GridForm() : Form("frmGrade") {
+    Arrange({{12000, 9000}, {{msfgGrade, {0, 0, 12000, 9000}, "", {}, platform::kHoldAll}}});
+  }
+  void Fill(int lines) {
+    msfgGrade.Cols(6);
+    for (int col = 0; col < 6; ++col) {
+      msfgGrade.ColWidth(col, col == 0 ? 4300 : col == 5 ? 0 : 1300);
+      msfgGrade.TextMatrix(0, col, "Coluna " + std::to_string(col));
+    }
+    for (int i = 0; i < lines; ++i) msfgGrade.AddItem("Banho\tRex\tTati\t1\t80,00\t2");
+    if (lines > 0) msfgGrade.RemoveItem(1);
+  }
+
+  platform::MSFlexGrid msfgGrade{*this, "msfgGrade"};
 };
 
 /// A host's window with the real renderer on Qt's offscreen platform. Acts go in as key and mouse
