@@ -28,10 +28,10 @@ std::string NameOf(const testing::TestParamInfo<std::string>& file) {
   return name;
 }
 
-/// The conversation itself, on a small screen.
+/// The conversation itself.
 class Protocolo : public testing::TestWithParam<std::string> {};
 TEST_P(Protocolo, Played) {
-  Play(ROTEIRO_OF_ENSAIO, GetParam());
+  Play(ROTEIRO_OF_CAIXA, GetParam());
 }
 INSTANTIATE_TEST_SUITE_P(, Protocolo, testing::ValuesIn(FilesIn("protocolo")), NameOf);
 

@@ -13,45 +13,55 @@ namespace {
 void PlayText(const std::string& text) {
   const std::string file = testing::TempDir() + "/cenario-" + std::to_string(getpid()) + ".jsonl";
   std::ofstream(file) << text;
-  Play(ROTEIRO_OF_ENSAIO, file);
+  Play(ROTEIRO_OF_CAIXA, file);
   std::filesystem::remove(file);
 }
 
-const char* const kFault =
-    R"({"do": "open"}
-{"do": "stub", "class": "ZOVA_N_Caixas.clsCaixas", "member": "SelecionarParaComboBox", "result": 1}
-{"do": "click", "control": "zvcmdServico"}
-)";
+/// The counter on an open register; it takes one line.
+const std::string kCounter =
+    R"({"include": ")" ROTEIRO_FOLDER "/cenarios/preparo/balcao.jsonl\"}\n";
 
 // A scenario that is not kept must fail, or none of them proves anything.
 TEST(Scenario, FailsWhereAnAnswerIsNotTheExpectedOne) {
-  EXPECT_NONFATAL_FAILURE(PlayText("{\"expect\": {\"at\": {\"kind\": \"form\"}}}"), ":1: expected");
-  EXPECT_NONFATAL_FAILURE(PlayText("{\"expect\": {\"events\": [{}]}}"), "expected");
-  EXPECT_NONFATAL_FAILURE(PlayText("{\"event\": {\"event\": \"dim\"}}"), "no such event");
-  EXPECT_NONFATAL_FAILURE(
-      PlayText("{\"do\": \"open\"}\n{\"do\": \"get\", \"control\": \"zvtxtNome\", \"property\": "
-               "\"Left\"}\n{\"expect\": {\"value\": 0.0}}"),
-      ":3: expected");
-  EXPECT_NONFATAL_FAILURE(PlayText("{\"box\": \"Olá\"}"), ":1: ");
-  EXPECT_NONFATAL_FAILURE(PlayText("{\"says\": \"Olá\"}"), ":1: ");
-  EXPECT_NONFATAL_FAILURE(PlayText("{\"do\": \"open\", \"focus\": \"zvdtpData\"}"), "zvtxtNome");
-  for (const char* state : {"zvtxtNome", "optTipo(1).Value", "msfgGrade[1,0]",
-                            "host.CodigoDoClienteComOperacoesBloqueadas"}) {
-    EXPECT_NONFATAL_FAILURE(
-        PlayText("{\"do\": \"open\", \"state\": {\"" + std::string(state) + "\": \"x\"}}"), state);
-  }
+  const struct {
+    std::string lines;
+    const char* told;
+  } cases[] = {
+      {R"({"expect": {"at": {"kind": "form"}}})", ":1: expected"},
+      {R"({"expect": {"events": [{}]}})", "expected"},
+      {R"({"event": {"event": "dim"}})", "no such event"},
+      {R"({"box": "Olá"})", ":1: "},
+      {R"({"says": "Olá"})", ":1: "},
+      {kCounter + R"({"do": "get", "control": "zvnumTotal", "property": "Left"})" +
+           "\n{\"expect\": {\"value\": 0.0}}",
+       ":3: expected"},
+      {kCounter + R"({"do": "forms", "focus": "zvdtpData"})", "zvcmbCaixas"},
+      {kCounter + R"({"state": {"zvnumTotal": "x"}})", "zvnumTotal"},
+      {kCounter + R"({"state": {"optProduto.Value": "x"}})", "optProduto.Value"},
+      {kCounter + R"({"state": {"msfgGrade[1,0]": "x"}})", "msfgGrade[1,0]"},
+      {kCounter + R"({"state": {"host.CodigoDoClienteComOperacoesBloqueadas": "x"}})", "host.C"},
+  };
+  for (const auto& each : cases) EXPECT_NONFATAL_FAILURE(PlayText(each.lines), each.told);
 }
 
 TEST(Scenario, FailsOnARefusalAndOnAnErrorThatNobodyExpected) {
   EXPECT_NONFATAL_FAILURE(PlayText("{\"do\": \"voar\"}"), ":1: refused");
-  EXPECT_NONFATAL_FAILURE(PlayText(kFault), ":3: error nobody expected");
-  PlayText(kFault + std::string("{\"event\": {\"event\": \"error\", \"number\": 0}}\n"));
+  const std::string fault = kCounter +
+                            R"({"do": "stub", "class": "ZOVA_N_ClientAnim.clsClientes", )"
+                            R"("member": "Selecionar", "result": 1})"
+                            "\n"
+                            R"({"do": "type", "control": "zvfCodigoDoCliente", )"
+                            R"("text": "12\n"})"
+                            "\n";
+  EXPECT_NONFATAL_FAILURE(PlayText(fault), ":3: error nobody expected");
+  PlayText(fault + R"({"event": {"event": "error", "number": 0}})");
 }
 
 TEST(Scenario, FailsWhenTheProgramIsNotThere) {
-  EXPECT_NONFATAL_FAILURE(PlayText(R"({"start": ["roteiro-de-ensaio", "--nada"], "prints": "x"})"),
+  EXPECT_NONFATAL_FAILURE(PlayText(R"({"start": ["caixa-roteiro", "--nada"], "prints": "x"})"),
                           "never printed: x");
-  EXPECT_NONFATAL_FAILURE(Play("/nao/existe", ROTEIRO_FOLDER "/protocolo/atos.jsonl"), "no answer");
+  EXPECT_NONFATAL_FAILURE(Play("/nao/existe", ROTEIRO_FOLDER "/protocolo/recusas.jsonl"),
+                          "no answer");
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ TEST(Start, AUsageErrorSaysWhatIsWrongAndEndsWith2) {
       {"folder", {"--dir", "/nao/existe"}, "no folder /nao/existe"},
   };
   for (const Call& call : kCalls) {
-    Program program(ROTEIRO_OF_ENSAIO, call.arguments);
+    Program program(ROTEIRO_OF_CAIXA, call.arguments);
     EXPECT_EQ(program.Read(), std::nullopt) << call.name;
     EXPECT_EQ(program.Finish(), 2) << call.name;
     EXPECT_NE(program.Complaint().find(call.complaint), std::string::npos) << program.Complaint();
@@ -38,11 +38,11 @@ TEST(Start, AUsageErrorSaysWhatIsWrongAndEndsWith2) {
 }
 
 TEST(Start, WhatItCannotStartOnEndsWith1) {
-  Program noDatabase(ROTEIRO_OF_ENSAIO, {"--services", "sqlite:x.db"});
+  Program noDatabase(ROTEIRO_OF_CAIXA, {"--services", "sqlite:/nao/existe.db"});
   EXPECT_EQ(noDatabase.Read(), std::nullopt);
   EXPECT_EQ(noDatabase.Finish(), 1);
-  EXPECT_NE(noDatabase.Complaint().find("sem banco"), std::string::npos);
-  Program noLog(ROTEIRO_OF_ENSAIO, {"--log", "/nao/existe/log"});
+  EXPECT_NE(noDatabase.Complaint().find("/nao/existe.db"), std::string::npos);
+  Program noLog(ROTEIRO_OF_CAIXA, {"--log", "/nao/existe/log"});
   EXPECT_EQ(noLog.Finish(), 1);
 }
 
@@ -50,7 +50,7 @@ TEST(Start, TheTemporaryFolderGoesAgain) {
   const std::filesystem::path folder = testing::TempDir() + "/roteiro-" + std::to_string(getpid());
   std::filesystem::create_directory(folder);
   setenv("TMPDIR", folder.c_str(), 1);
-  Program program(ROTEIRO_OF_ENSAIO, {});
+  Program program(ROTEIRO_OF_CAIXA, {});
   unsetenv("TMPDIR");
   ASSERT_TRUE(program.Read());
   EXPECT_FALSE(std::filesystem::is_empty(folder));
@@ -61,7 +61,7 @@ TEST(Start, TheTemporaryFolderGoesAgain) {
 
 TEST(Start, TheLogHoldsBothDirectionsAndALastLineNeedsNoEnd) {
   const std::string log = testing::TempDir() + "/roteiro-log-" + std::to_string(getpid());
-  Program program(ROTEIRO_OF_ENSAIO, {"--log", log});
+  Program program(ROTEIRO_OF_CAIXA, {"--log", log});
   ASSERT_TRUE(program.Read());
   program.Send("{\"do\": \"forms\"}");
   const std::optional<std::string> answer = program.Read();
