@@ -100,36 +100,35 @@ void frmCaixaPagar::ImprimirComprovante(frame::Espera& espera, std::int32_t nume
 }
 
 void frmCaixaPagar::ImprimirComprovanteDePagamentoDeVenda(std::int32_t numeroDaVenda) {
-  frame::Procedimento(
-      ", frmCaixaPagar, ImprimirComprovanteDePagamentoDeVenda, Ponto: ", [&](Ponto& ponto) {
-        lblMensagem.Caption = "Aguarde, reorganizando dados.";
-        const frame::Espera espera(painel_);
-        ponto = 2;
-        const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
-        if (leitura.falhou) return;
-        if (!leitura.Cadastrada()) {
-          frame::Informar(kSemEmpresa);
-          return;
-        }
-        ponto = 3;
-        const base::RecordSetPtr itens = ItensDaVenda(numeroDaVenda);
-        if (!itens) return;
-        ponto = 4;
-        drComprovanteDePagamentoDeVenda comprovante(platform::Desktop::Current().ReceiptPaper());
-        comprovante.lblNomeFantasiaDaEmpresa.Caption =
-            base::ToText(leitura.empresa->Fields("NomeFantasia"));
-        comprovante.lblNumeroDaVenda.Caption = base::ToText(numeroDaVenda);
-        comprovante.DataSource = itens;
-        PreencherComprovante(comprovante);
-        ponto = 5;
-        // Also a panel that the confirmation has up must not lie over the preview.
-        painel_.ExibirOcultar(false, false);
-        if (valores().VisualizarImpressaoDoComprovanteDePagamento) {
-          comprovante.Show();
-        } else {
-          comprovante.PrintReport();
-        }
-      });
+  frame::Procedimento(*this, "ImprimirComprovanteDePagamentoDeVenda", [&](Ponto& ponto) {
+    lblMensagem.Caption = "Aguarde, reorganizando dados.";
+    const frame::Espera espera(painel_);
+    ponto = 2;
+    const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
+    if (leitura.falhou) return;
+    if (!leitura.Cadastrada()) {
+      frame::Informar(kSemEmpresa);
+      return;
+    }
+    ponto = 3;
+    const base::RecordSetPtr itens = ItensDaVenda(numeroDaVenda);
+    if (!itens) return;
+    ponto = 4;
+    drComprovanteDePagamentoDeVenda comprovante(platform::Desktop::Current().ReceiptPaper());
+    comprovante.lblNomeFantasiaDaEmpresa.Caption =
+        base::ToText(leitura.empresa->Fields("NomeFantasia"));
+    comprovante.lblNumeroDaVenda.Caption = base::ToText(numeroDaVenda);
+    comprovante.DataSource = itens;
+    PreencherComprovante(comprovante);
+    ponto = 5;
+    // Also a panel that the confirmation has up must not lie over the preview.
+    painel_.ExibirOcultar(false, false);
+    if (valores().VisualizarImpressaoDoComprovanteDePagamento) {
+      comprovante.Show();
+    } else {
+      comprovante.PrintReport();
+    }
+  });
 }
 
 /// What the checkout itself knows: the customer, and how the sale was paid.

@@ -30,7 +30,7 @@ void frmCaixaPagar::zvcmdConfirmar_Click() {
     bool registrada = false;
   } encerramento{*this};
   const CommandsHeld semComandos(*this);
-  frame::Procedimento(", frmCaixaPagar, zvcmdConfirmar_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdConfirmar_Click", [&](Ponto& ponto) {
     if (ValidarCampos() == 1) return;
     ponto = 2;
     frame::Espera espera(painel_);

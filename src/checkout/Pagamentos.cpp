@@ -18,30 +18,28 @@ using frame::Ponto;
 using enum servicos::pagamento::Codigo;
 
 void frmCaixaPagar::zvcmbFormaDePagamento_Click() {
-  frame::Procedimento(
-      ", frmCaixaPagar, zvcmbFormaDePagamento_LostFocus, Ponto: ", [&](Ponto& ponto) {
-        if (zvcmbFormaDePagamento.ListIndex() == -1) return;
-        const Currency saldo = LerCurrency(zvtxtSaldoDevedorOuTroco);
-        const std::int32_t codigo =
-            zvcmbFormaDePagamento.ItemData(zvcmbFormaDePagamento.ListIndex());
-        ponto = 2;
-        if (codigo == kCreditoDoCliente) {
-          const bool cobre = LerCurrency(zvnumCreditoDoCliente) >= saldo;
-          zvnumValor.Text = cobre ? zvtxtSaldoDevedorOuTroco.Text() : zvnumCreditoDoCliente.Text();
-        } else if (saldo > Currency()) {
-          zvnumValor.Text = zvtxtSaldoDevedorOuTroco.Text();
-        }
-        ponto = 3;
-        if (zvdtpDataDeVencimento.IsEmpty()) {
-          zvdtpDataDeVencimento.Text =
-              base::Format(platform::Desktop::Current().Now(), base::DateMask::kDayMonthYear);
-        }
-        zvnumValor.SetFocus();
-      });
+  frame::Procedimento(*this, "zvcmbFormaDePagamento_LostFocus", [&](Ponto& ponto) {
+    if (zvcmbFormaDePagamento.ListIndex() == -1) return;
+    const Currency saldo = LerCurrency(zvtxtSaldoDevedorOuTroco);
+    const std::int32_t codigo = zvcmbFormaDePagamento.ItemData(zvcmbFormaDePagamento.ListIndex());
+    ponto = 2;
+    if (codigo == kCreditoDoCliente) {
+      const bool cobre = LerCurrency(zvnumCreditoDoCliente) >= saldo;
+      zvnumValor.Text = cobre ? zvtxtSaldoDevedorOuTroco.Text() : zvnumCreditoDoCliente.Text();
+    } else if (saldo > Currency()) {
+      zvnumValor.Text = zvtxtSaldoDevedorOuTroco.Text();
+    }
+    ponto = 3;
+    if (zvdtpDataDeVencimento.IsEmpty()) {
+      zvdtpDataDeVencimento.Text =
+          base::Format(platform::Desktop::Current().Now(), base::DateMask::kDayMonthYear);
+    }
+    zvnumValor.SetFocus();
+  });
 }
 
 void frmCaixaPagar::zvcmbFormaDePagamento_LostFocus() {
-  frame::Procedimento(", frmCaixaPagar, zvcmbFormaDePagamento_LostFocus, Ponto: ", [&](Ponto&) {
+  frame::Procedimento(*this, "zvcmbFormaDePagamento_LostFocus", [&](Ponto&) {
     if (frame::TomarSupressaoDePesquisa()) return;
     ExibirOcultarDataDeVencimento(servicos::pagamento::CodigoDa(zvcmbFormaDePagamento.Text()) ==
                                   kACredito);
@@ -62,7 +60,7 @@ void frmCaixaPagar::zvdtpDataDeVencimento_KeyPress(char32_t tecla) {
 }
 
 void frmCaixaPagar::zvcmdAdicionar_Click() {
-  frame::Procedimento(", frmCaixaPagar, zvcmdAdicionar_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdAdicionar_Click", [&](Ponto& ponto) {
     RestaurarRotulos();
     if (zvcmbFormaDePagamento.ListIndex() == -1) {
       frame::Recusar(lblFormaDePagamento, "Informe a forma de pagamento.", zvcmbFormaDePagamento);

@@ -14,7 +14,7 @@ using frame::Ponto;
 using enum servicos::pagamento::Codigo;
 
 void frmCaixaPagar::zvcmdRemover_Click() {
-  frame::Procedimento(", frmCaixaPagar, zvcmdRemover_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdRemover_Click", [&](Ponto& ponto) {
     if (frame::SomenteLinhaEmBranco(msfgGrade)) {
       frame::Informar("Nenhum item econtrado na grade para ser removido.");
       zvcmbFormaDePagamento.SetFocus();
@@ -68,7 +68,7 @@ void frmCaixaPagar::RetirarDoCreditoParaOCliente(Currency valor) {
 }
 
 void frmCaixaPagar::zvcmdAlterar_Click() {
-  frame::Procedimento(", frmCaixaPagar, zvcmdAlterar_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdAlterar_Click", [&](Ponto& ponto) {
     if (frame::SomenteLinhaEmBranco(msfgGrade)) {
       frame::Informar("Nenhum item econtrado na grade para ser alterado.");
       zvcmbFormaDePagamento.SetFocus();

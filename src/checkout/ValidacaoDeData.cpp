@@ -51,7 +51,7 @@ std::optional<RecusaDeData> RecusaDaData(int dia, int mes, int ano) {
 
 std::int16_t frmCaixaPagar::ValidarData(std::string_view texto) {
   std::int16_t resultado = 1;
-  frame::Procedimento(", frmFicha, ValidarData, Ponto: ", [&](frame::Ponto& ponto) {
+  frame::Procedimento(frame::etiquetas::kValidarData, [&](frame::Ponto& ponto) {
     if (base::IsBlank(texto)) {
       frame::Informar("Informe a data de vencimento");
       return;

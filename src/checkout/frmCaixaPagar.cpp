@@ -112,7 +112,7 @@ void frmCaixaPagar::Animais(std::string_view animais) {
 
 std::int16_t frmCaixaPagar::MontarExibirFormulario() {
   std::int16_t resultado = kNaoConfirmado;
-  frame::Procedimento(", frmCaixaPagar, MontarExibirFormulario, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
     zvtxtValorDaVenda.Text = base::FormatMoney(venda_.ValorLiquido);
     zvtxtSaldoDevedorOuTroco.Text = zvtxtValorDaVenda.Text();
     lblCreditoParaOCliente.Tag = base::FormatMoney(Currency());
@@ -142,7 +142,7 @@ std::int16_t frmCaixaPagar::MontarExibirFormulario() {
 
 void frmCaixaPagar::PreencherzvcmbFormaDePagamento(std::int16_t& falha) {
   falha = 1;
-  frame::Procedimento(", frmFichaCompleta, PreencherzvcmbFormaDePagamento, Ponto: ", [&](Ponto&) {
+  frame::Procedimento(frame::etiquetas::kPreencherFormaDePagamento, [&](Ponto&) {
     const frame::SupressaoDePesquisa supressao;
     const bool temCredito = !frame::LerCurrency(zvnumCreditoDoCliente).IsZero();
     frame::OferecerFormasDePagamento(zvcmbFormaDePagamento, servicos::pagamento::kFormas,
@@ -153,7 +153,7 @@ void frmCaixaPagar::PreencherzvcmbFormaDePagamento(std::int16_t& falha) {
 
 void frmCaixaPagar::Grade_Configurar(std::int16_t& falha) {
   falha = 1;
-  frame::Procedimento(", frmLista, Grade_Configurar, Ponto: ", [&](Ponto&) {
+  frame::Procedimento(frame::etiquetas::kGradeDePagamentosConfigurar, [&](Ponto&) {
     frame::ConfigurarColunas(msfgGrade, kColunasDePagamento);
     frame::SelecionarLinha(msfgGrade, 1);
     falha = 0;

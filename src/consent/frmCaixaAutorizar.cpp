@@ -46,14 +46,9 @@ frmCaixaAutorizar::frmCaixaAutorizar(const Autorizacao& autorizacao)
        }});
 }
 
-std::string frmCaixaAutorizar::Etiqueta(std::string_view formulario,
-                                        std::string_view rotina) const {
-  return ", " + std::string(formulario) + ", " + std::string(rotina) + ", Ponto: ";
-}
-
 void frmCaixaAutorizar::MontarExibirFormulario(std::int16_t& resultado) {
   resultado = kNaoAutorizado;
-  frame::Procedimento(Etiqueta(autorizacao_.nomeNaAbertura, "MontarExibirFormulario"),
+  frame::Procedimento(frame::Etiqueta{autorizacao_.nomeNaAbertura, "MontarExibirFormulario"},
                       [&](Ponto& ponto) {
                         zvcmdOk.ToolTipText = std::string(autorizacao_.dica);
                         zvcmdFechar.ToolTipText = "Fechar formulário";
@@ -64,15 +59,16 @@ void frmCaixaAutorizar::MontarExibirFormulario(std::int16_t& resultado) {
 }
 
 void frmCaixaAutorizar::Form_Load() {
-  frame::Procedimento(Etiqueta(autorizacao_.formulario, "Form_Load"),
+  frame::Procedimento(frame::Etiqueta{autorizacao_.formulario, "Form_Load"},
                       [&](Ponto&) { frame::EmoldurarFormulario(*this, lshpObj); });
 }
 
 void frmCaixaAutorizar::Form_Resize() {
-  frame::Procedimento(Etiqueta(autorizacao_.nomeNoRedimensionamento, "Form_Resize"), [&](Ponto&) {
-    lshpObj.Width = Width();
-    lshpObj.Height = Height();
-  });
+  frame::Procedimento(frame::Etiqueta{autorizacao_.nomeNoRedimensionamento, "Form_Resize"},
+                      [&](Ponto&) {
+                        lshpObj.Width = Width();
+                        lshpObj.Height = Height();
+                      });
 }
 
 void frmCaixaAutorizar::Form_Unload() {
@@ -104,7 +100,7 @@ void frmCaixaAutorizar::zvcmdOk_Click() {
     frmCaixaAutorizar& formulario;
     bool encerrar = true;
   } encerramento{*this};
-  frame::Procedimento(Etiqueta(autorizacao_.formulario, "zvcmdOk_Click"), [&](Ponto& ponto) {
+  frame::Procedimento(frame::Etiqueta{autorizacao_.formulario, "zvcmdOk_Click"}, [&](Ponto& ponto) {
     if (ValidarCampos() == 1) {
       encerramento.encerrar = false;
       return;

@@ -48,7 +48,6 @@ class frmCaixaAutorizar : public platform::Form {
   std::int16_t ValidarCampos();
   /// Whether the two fields name a supervisor who holds the right; the operator is told why not.
   bool Autenticar(std::int16_t& ponto);
-  std::string Etiqueta(std::string_view formulario, std::string_view rotina) const;
 
   const Autorizacao& autorizacao_;
   bool Cancelado = false;

@@ -12,15 +12,8 @@ namespace entry {
 
 using frame::valores;
 
-namespace {
-
-/// Both operations carry the tag of the first.
-constexpr std::string_view kEtiqueta = ", clsCaixa, CaixaOperar, Ponto: ";
-
-}  // namespace
-
 base::Value clsCaixa::CaixaOperar(std::int32_t janelaPrincipal, std::int32_t conteiner) {
-  frame::Procedimento(kEtiqueta, [&](frame::Ponto& ponto) {
+  frame::Procedimento(frame::etiquetas::kCaixaOperar, [&](frame::Ponto& ponto) {
     valores().HandleDaJanelaPrincipal = janelaPrincipal;
     ponto = 2;
     auto novo = std::make_unique<sale::frmCaixaOperar>();
@@ -47,7 +40,7 @@ std::int32_t clsCaixa::CodigoDoClienteComOperacoesBloqueadas() const {
 
 void clsCaixa::ClasseBloquearOuDesbloquearClienteParaOperacoesNosCaixas(std::int32_t codigo,
                                                                         std::int16_t acao) {
-  frame::Procedimento(kEtiqueta, [&](frame::Ponto&) {
+  frame::Procedimento(frame::etiquetas::kCaixaOperar, [&](frame::Ponto&) {
     frame::BloquearOuDesbloquearClienteParaOperacoesNosCaixas(codigo, acao);
   });
 }

@@ -156,34 +156,32 @@ bool TrocaDeArquivosCFeSAT::ExportarDadosCFeSATParaArquivo(std::string_view cabe
                                                            std::string_view itens,
                                                            std::string_view pagamentos) {
   bool concluida = false;
-  frame::Procedimento(
-      ", frmCaixaPagar, ExportarDadosCFeSATParaArquivo, Ponto: ", [&](Ponto& ponto) {
-        if (!frame::EmiteDocumentoFiscal()) {
-          concluida = true;
-          return;
-        }
-        ponto = 2;
-        auto servico = servicos::CriarServico<clsOSExportarRegistros>();
-        if (servico->ExportarDadosCFeSATParaArquivo(cabecalho, itens, pagamentos) ==
-            servicos::kErro) {
-          return;
-        }
-        ponto = 3;
-        const std::string envio = servico->NomeCompleDoArquivoDeEnvioComDadosCFeSAT();
-        const std::string retorno = servico->NomeCompleDoArquivoDeRetornoComDadosCFeSAT();
-        const bool gravado = servico->EnvioFoiGravado();
-        servico.reset();
-        ponto = 4;
-        // A file that was written and is gone by now was taken.
-        if (!Desktop::Current().FileExists(envio) && !gravado) return;
-        ponto = 5;
-        const EnvioEmAberto emAberto(envio);
-        if (!EsperarQueLeiam(envio)) return;
-        ponto = 6;
-        if (!EsperarQueRespondam(retorno)) return;
-        ponto = 7;
-        concluida = Concluir(envio, retorno);
-      });
+  frame::Procedimento(frame::etiquetas::kExportarDadosCFeSATParaArquivo, [&](Ponto& ponto) {
+    if (!frame::EmiteDocumentoFiscal()) {
+      concluida = true;
+      return;
+    }
+    ponto = 2;
+    auto servico = servicos::CriarServico<clsOSExportarRegistros>();
+    if (servico->ExportarDadosCFeSATParaArquivo(cabecalho, itens, pagamentos) == servicos::kErro) {
+      return;
+    }
+    ponto = 3;
+    const std::string envio = servico->NomeCompleDoArquivoDeEnvioComDadosCFeSAT();
+    const std::string retorno = servico->NomeCompleDoArquivoDeRetornoComDadosCFeSAT();
+    const bool gravado = servico->EnvioFoiGravado();
+    servico.reset();
+    ponto = 4;
+    // A file that was written and is gone by now was taken.
+    if (!Desktop::Current().FileExists(envio) && !gravado) return;
+    ponto = 5;
+    const EnvioEmAberto emAberto(envio);
+    if (!EsperarQueLeiam(envio)) return;
+    ponto = 6;
+    if (!EsperarQueRespondam(retorno)) return;
+    ponto = 7;
+    concluida = Concluir(envio, retorno);
+  });
   return concluida;
 }
 

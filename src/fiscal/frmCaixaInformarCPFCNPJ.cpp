@@ -66,18 +66,17 @@ frmCaixaInformarCPFCNPJ::frmCaixaInformarCPFCNPJ() : Form("frmCaixaInformarCPFCN
 }
 
 std::int16_t frmCaixaInformarCPFCNPJ::MontarExibirFormulario() {
-  frame::Procedimento(", frmCaixaInformarCPFCNPJ, MontarExibirFormulario, Ponto: ",
-                      [&](Ponto& ponto) {
-                        zvcmdEnviar.ToolTipText = "Enviar o CPF/CNPJ para o SAT";
-                        zvcmdNaoEnviar.ToolTipText = "Não enciar o CPF/CNPJ para o SAT";
-                        ponto = 2;
-                        ShowModal();
-                      });
+  frame::Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
+    zvcmdEnviar.ToolTipText = "Enviar o CPF/CNPJ para o SAT";
+    zvcmdNaoEnviar.ToolTipText = "Não enciar o CPF/CNPJ para o SAT";
+    ponto = 2;
+    ShowModal();
+  });
   return respondido_ ? std::int16_t{0} : kFechado;
 }
 
 void frmCaixaInformarCPFCNPJ::optTipo_Click(std::size_t indice) {
-  frame::Procedimento(", frmCaixaInformarCPFCNPJ, optTipo_Click, Ponto: ", [&](Ponto&) {
+  frame::Procedimento(*this, "optTipo_Click", [&](Ponto&) {
     const Tipo& tipo = kTipos[indice];
     zvTheme.Titulo = std::string(tipo.titulo);
     if (!tipo.mascara.empty()) zvmskCpfCnpj.Mask = std::string(tipo.mascara);
@@ -94,7 +93,7 @@ void frmCaixaInformarCPFCNPJ::zvcmdNaoEnviar_Click() {
 }
 
 void frmCaixaInformarCPFCNPJ::zvcmdEnviar_Click() {
-  frame::Procedimento(", frmCaixaInformarCPFCNPJ, zvcmdEnviar_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdEnviar_Click", [&](Ponto& ponto) {
     if (ValidarCampos() == 1) return;
     ponto = 2;
     TipoDeEnvio = kNaoEnviar;

@@ -23,7 +23,7 @@ frmMensagem::frmMensagem() : Form("frmMensagem") {
 
 void frmMensagem::MontarExibirFormulario(std::int16_t& falha) {
   falha = 1;
-  Procedimento(", frmMensagem, MontarExibirFormulario, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
     constexpr std::int32_t kMargens = 780;
     constexpr std::int32_t kLarguraDeUmaLetra = 110;
     lblMensagem.Width =
@@ -42,8 +42,7 @@ void frmMensagem::Pausar(double segundos) {
 }
 
 void frmMensagem::Form_Load() {
-  Procedimento(", frmMensagem, Form_Load, Ponto: ",
-               [&](Ponto&) { EmoldurarFormulario(*this, lshpObj); });
+  Procedimento(*this, "Form_Load", [&](Ponto&) { EmoldurarFormulario(*this, lshpObj); });
 }
 
 void frmMensagem::Form_Resize() {

@@ -21,24 +21,23 @@ using servicos::ZOVA_N_ClientAnim::clsClientes;
 
 std::int16_t VerificarBloqueioDoClienteParaOperacoesNosCaixas(double codigo) {
   std::int16_t resultado = 0;
-  Procedimento(
-      ", modFuncoes, VerificarBloqueioDoClienteParaOperacoesNosCaixas, Ponto: ", [&](Ponto& ponto) {
-        auto administrativo = CriarServicoComSessao<clsAdministrativo>();
-        ponto = 2;
-        if (administrativo->SelecionarClientesComTransacoesBloqueadas(2, 0, codigo, 1) != 0) return;
-        ponto = 3;
-        const base::RecordSetPtr bloqueios = administrativo->ResultadoDaSelecaoEmRecordSet();
-        if (bloqueios->RecordCount() == 0) return;
-        bloqueios->MoveFirst();
-        const std::string computador = base::ToText(bloqueios->Fields("NomeDoComputador"));
-        if (base::Upper(computador) == base::Upper(PegarNomeDoComputador())) return;
-        ponto = 4;
-        Informar("A T E N Ç Ã O !\n\nEste cliente está em atendimento com o(a) operador(a): \n\t" +
-                 base::ToText(bloqueios->Fields("NomeDoUsuario")) + "\n\nNo computador:\n\t" +
-                 computador +
-                 "\n\nNo momento o atendimento deste cliente está indisponível neste caixa.");
-        resultado = 1;
-      });
+  Procedimento(etiquetas::kVerificarBloqueioDoCliente, [&](Ponto& ponto) {
+    auto administrativo = CriarServicoComSessao<clsAdministrativo>();
+    ponto = 2;
+    if (administrativo->SelecionarClientesComTransacoesBloqueadas(2, 0, codigo, 1) != 0) return;
+    ponto = 3;
+    const base::RecordSetPtr bloqueios = administrativo->ResultadoDaSelecaoEmRecordSet();
+    if (bloqueios->RecordCount() == 0) return;
+    bloqueios->MoveFirst();
+    const std::string computador = base::ToText(bloqueios->Fields("NomeDoComputador"));
+    if (base::Upper(computador) == base::Upper(PegarNomeDoComputador())) return;
+    ponto = 4;
+    Informar("A T E N Ç Ã O !\n\nEste cliente está em atendimento com o(a) operador(a): \n\t" +
+             base::ToText(bloqueios->Fields("NomeDoUsuario")) + "\n\nNo computador:\n\t" +
+             computador +
+             "\n\nNo momento o atendimento deste cliente está indisponível neste caixa.");
+    resultado = 1;
+  });
   return resultado;
 }
 
@@ -58,7 +57,7 @@ void BloquearOuDesbloquearClienteParaOperacoesNosCaixas(double codigo, std::int1
 
 bool RetornarCreditoDoCliente(double codigo, base::Currency& credito) {
   bool lido = false;
-  Procedimento(", frmFichaClinica, RetornarCreditoDoCliente, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(etiquetas::kRetornarCreditoDoCliente, [&](Ponto& ponto) {
     auto clientes = CriarServicoComSessao<clsClientes>();
     ponto = 2;
     if (consultas::Cliente(*clientes, codigo) != servicos::kSucesso) {
@@ -78,7 +77,7 @@ bool RetornarCreditoDoCliente(double codigo, base::Currency& credito) {
 
 bool InformacoesDoLimiteDeCredito(double codigo, base::Currency valor) {
   bool permitido = false;
-  Procedimento(", frmFichaClinica, InformacoesDoLimiteDeCredito, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(etiquetas::kInformacoesDoLimiteDeCredito, [&](Ponto& ponto) {
     auto clientes = CriarServicoComSessao<clsClientes>();
     ponto = 2;
     base::Currency limite, utilizado, disponivel;

@@ -45,10 +45,11 @@ void ExibirErroDoServico(servicos::ServicoDeNegocio& servico) {
   ExibirMensagemDeErro(numero, descricao, local);
 }
 
-void RelatarErro(const base::RuntimeError& erro, std::string_view etiqueta, Ponto ponto) {
+void RelatarErro(const base::RuntimeError& erro, const Etiqueta& etiqueta, Ponto ponto) {
   if (relatos > 0) throw erro;
   ExibirMensagemDeErro(erro.Number(), erro.Description(),
-                       std::string(kNomeDoModulo) + std::string(etiqueta) + std::to_string(ponto));
+                       std::string(kNomeDoModulo) + ", " + std::string(etiqueta.tela) + ", " +
+                           std::string(etiqueta.rotina) + ", Ponto: " + std::to_string(ponto));
 }
 
 }  // namespace frame

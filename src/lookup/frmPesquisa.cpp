@@ -68,35 +68,29 @@ platform::Layout frmPesquisa::Desenho(const std::vector<platform::Place>& acima,
   return desenho;
 }
 
-std::string frmPesquisa::Etiqueta(std::string_view rotina) const {
-  return ", " + std::string(pesquisa_.formulario) + ", " + std::string(rotina) + ", Ponto: ";
-}
-
 void frmPesquisa::ConfigurarGrade(std::int16_t& falha) {
   falha = 1;
-  Procedimento(", " + std::string(pesquisa_.formularioDaGrade) + ", ConfigurarGrade, Ponto: ",
-               [&](Ponto&) {
-                 lista_.Esvaziar();
-                 lblAvisoDaLista.Caption = "";
-                 falha = 0;
-               });
+  Procedimento(frame::Etiqueta{pesquisa_.formularioDaGrade, "ConfigurarGrade"}, [&](Ponto&) {
+    lista_.Esvaziar();
+    lblAvisoDaLista.Caption = "";
+    falha = 0;
+  });
 }
 
 void frmPesquisa::PreencherGrade(const base::RecordSetPtr& registros, std::int16_t& falha,
                                  std::string_view aviso) {
   falha = 1;
-  Procedimento(", " + std::string(pesquisa_.formularioDaGrade) + ", PreencherGrade, Ponto: ",
-               [&](Ponto& ponto) {
-                 lblAvisoDaLista.Caption = "";
-                 if (!registros) {
-                   lista_.Esvaziar();
-                 } else {
-                   lista_.Preencher(*registros);
-                 }
-                 ponto = 2;
-                 lblAvisoDaLista.Caption = aviso.empty() ? Quantidade() : std::string(aviso);
-                 falha = 0;
-               });
+  Procedimento(frame::Etiqueta{pesquisa_.formularioDaGrade, "PreencherGrade"}, [&](Ponto& ponto) {
+    lblAvisoDaLista.Caption = "";
+    if (!registros) {
+      lista_.Esvaziar();
+    } else {
+      lista_.Preencher(*registros);
+    }
+    ponto = 2;
+    lblAvisoDaLista.Caption = aviso.empty() ? Quantidade() : std::string(aviso);
+    falha = 0;
+  });
 }
 
 std::string frmPesquisa::Quantidade() const {
@@ -148,7 +142,7 @@ std::string frmPesquisa::AvisoDaSelecao(servicos::ServicoDeNegocio& servico,
 }
 
 void frmPesquisa::Form_Load() {
-  Procedimento(Etiqueta("Form_Load"), [&](Ponto& ponto) {
+  Procedimento(frame::Etiqueta{pesquisa_.formulario, "Form_Load"}, [&](Ponto& ponto) {
     frame::EmoldurarFormulario(*this, lshpObj);
     ponto = 2;
     Carregar();
@@ -173,7 +167,7 @@ void frmPesquisa::Form_Unload(bool& recusar) {
 }
 
 void frmPesquisa::msfgGrade_Click() {
-  Procedimento(Etiqueta("msfgGrade_Click"), [&](Ponto&) {
+  Procedimento(frame::Etiqueta{pesquisa_.formulario, "msfgGrade_Click"}, [&](Ponto&) {
     if (ValidarCampos() == 1) return;
     registroSelecionado_ = true;
     Hide();
@@ -186,23 +180,23 @@ void frmPesquisa::zvcmdFechar_Click() {
 }
 
 void frmPesquisa::zvfndCampo_Click() {
-  Procedimento(", " + std::string(pesquisa_.formularioDoCampo) + ", " +
-                   std::string(pesquisa_.campo) + "_Click, Ponto: ",
-               [&](Ponto& ponto) {
-                 if (std::exchange(suprimirProximoClick_, false)) return;
-                 if (!PodePesquisar()) return;
-                 ponto = 2;
-                 if (!Pesquisar()) {
-                   frame::SelecionarTudo(zvfndCampo);
-                 } else if (lista_.Quantos() >= 2) {
-                   zvfndCampo.SetFocus();
-                 }
-               });
+  Procedimento(
+      frame::Etiqueta{pesquisa_.formularioDoCampo, std::string(pesquisa_.campo) + "_Click"},
+      [&](Ponto& ponto) {
+        if (std::exchange(suprimirProximoClick_, false)) return;
+        if (!PodePesquisar()) return;
+        ponto = 2;
+        if (!Pesquisar()) {
+          frame::SelecionarTudo(zvfndCampo);
+        } else if (lista_.Quantos() >= 2) {
+          zvfndCampo.SetFocus();
+        }
+      });
 }
 
 bool frmPesquisa::Pesquisar() {
   bool encontrou = false;
-  Procedimento(Etiqueta(pesquisa_.rotina), [&](Ponto& ponto) {
+  Procedimento(frame::Etiqueta{pesquisa_.formulario, pesquisa_.rotina}, [&](Ponto& ponto) {
     frame::Espera espera(painel_);
     // Chosen or left during the wait: the row chosen stands, and nothing is looked for any more.
     if (!IsVisible()) return;

@@ -90,7 +90,6 @@ class frmPesquisa : public platform::Form {
   /// `inicioDoCampo`.
   platform::Layout Desenho(const std::vector<platform::Place>& acima = {},
                            std::int32_t inicioDoCampo = 240);
-  std::string Etiqueta(std::string_view rotina) const;
   /// Where the keyboard begins in a list that holds nothing yet.
   virtual platform::Control& PrimeiroCampo() { return zvfndCampo; }
   /// 1 keeps the operator from choosing the selected row, who has been told.

@@ -90,7 +90,7 @@ void frmPesquisaDeServicos::PreencherComboboxTiposDeServicos() {
 }
 
 void frmPesquisaDeServicos::zvcmbTiposDeServicos_Click() {
-  Procedimento(Etiqueta("zvcmbTiposDeServicos_Click"), [&](Ponto&) {
+  Procedimento(*this, "zvcmbTiposDeServicos_Click", [&](Ponto&) {
     if (std::exchange(SuprimirProximoClickDoTipoDeServico, false)) return;
     std::int16_t falha = 0;
     ConfigurarGrade(falha);

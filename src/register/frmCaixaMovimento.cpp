@@ -63,13 +63,9 @@ frmCaixaMovimento::frmCaixaMovimento(const Movimento& movimento)
            }});
 }
 
-std::string frmCaixaMovimento::Etiqueta(std::string_view rotina) const {
-  return ", " + Name() + ", " + std::string(rotina) + ", Ponto: ";
-}
-
 std::int16_t frmCaixaMovimento::MontarExibirFormulario() {
   std::int16_t resultado = 1;
-  frame::Procedimento(Etiqueta("MontarExibirFormulario"), [&](Ponto& ponto) {
+  frame::Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
     zvTheme.Titulo = std::string(movimento_.titulo);
     zvcmdSalvar.Caption = "Salvar";
     zvcmdSalvar.ToolTipText = std::string(movimento_.dicaSalvar);
@@ -94,7 +90,7 @@ std::int16_t frmCaixaMovimento::MontarExibirFormulario() {
 }
 
 void frmCaixaMovimento::Form_Load() {
-  frame::Procedimento(Etiqueta("Form_Load"),
+  frame::Procedimento(*this, "Form_Load",
                       [&](Ponto&) { frame::EmoldurarFormulario(*this, lshpObj); });
 }
 
@@ -105,7 +101,7 @@ void frmCaixaMovimento::zvcmdCancelar_Click() {
 
 void frmCaixaMovimento::zvcmdSalvar_Click() {
   const CommandsHeld semComandos(*this);
-  frame::Procedimento(Etiqueta("zvcmdSalvar_Click"), [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdSalvar_Click", [&](Ponto& ponto) {
     frame::RestaurarCorDosRotulos(*this);
     frame::PreencherSeVazio(zvnumValorEmDinheiro, frame::kZeroEmDinheiro);
     ponto = 2;

@@ -52,7 +52,6 @@ class frmCaixaMovimento : public platform::Form {
   /// Whether the value and the operator's rights, or a supervisor's, allow the movement.
   bool Permitido();
   void Registrar();
-  std::string Etiqueta(std::string_view rotina) const;
 
   const Movimento& movimento_;
   bool operacaoConcluida_ = false;

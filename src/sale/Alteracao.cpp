@@ -9,7 +9,7 @@ using frame::Ponto;
 using frame::Procedimento;
 
 void frmCaixaOperar::zvcmdAlterar_Click() {
-  Procedimento(", frmCaixaOperar,  zvcmdAlterar_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, " zvcmdAlterar_Click", [&](Ponto& ponto) {
     if (!GradeComItens()) {
       frame::Informar("Nenhum item para ser alterado da grade.");
       return;
@@ -21,7 +21,7 @@ void frmCaixaOperar::zvcmdAlterar_Click() {
 
 std::int16_t frmCaixaOperar::Registros_Alterar() {
   std::int16_t resultado = 0;
-  Procedimento(", frmCaixaOperar, Registros_Alterar, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "Registros_Alterar", [&](Ponto& ponto) {
     if (!GradeComItens()) return;
     const std::int32_t linha = msfgGrade.Row();
     const std::int32_t tipoDeVenda = TipoDeVendaDa(msfgGrade, linha);
@@ -69,7 +69,7 @@ std::int16_t frmCaixaOperar::Registros_Alterar() {
 }
 
 void frmCaixaOperar::zvcmdRemover_Click() {
-  Procedimento(", frmCaixaOperar, zvcmdRemover_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvcmdRemover_Click", [&](Ponto& ponto) {
     if (!GradeComItens()) {
       frame::Informar("Nenhum item para ser removido da grade.");
       return;
@@ -105,7 +105,7 @@ void frmCaixaOperar::zvcmdRemover_Click() {
 }
 
 void frmCaixaOperar::msfgGrade_MouseDown(platform::MouseButton botao) {
-  Procedimento(", frmCaixaOperar, msfgGrade_MouseDown, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "msfgGrade_MouseDown", [&](Ponto&) {
     if (botao != platform::MouseButton::kRight || msfgGrade.MouseRow() < 1) return;
     {
       const frame::SemRedesenho semRedesenho(msfgGrade);
@@ -119,18 +119,18 @@ void frmCaixaOperar::msfgGrade_MouseDown(platform::MouseButton botao) {
 }
 
 void frmCaixaOperar::msfgGrade_DblClick() {
-  Procedimento(", frmCaixaOperar, msfgGrade_DblClick, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "msfgGrade_DblClick", [&](Ponto&) {
     if (msfgGrade.MouseRow() >= 1 && msfgGrade.MouseRow() <= msfgGrade.Rows()) Registros_Alterar();
   });
 }
 
 void frmCaixaOperar::msfgGrade_SelChange() {
-  Procedimento(", frmCaixaOperar, msfgGrade_SelChange, Ponto: ",
+  Procedimento(*this, "msfgGrade_SelChange",
                [&](Ponto&) { frame::SelecionarLinhaInteira(msfgGrade); });
 }
 
 void frmCaixaOperar::msfgGrade_KeyDown(platform::KeyStroke& tecla) {
-  Procedimento(", frmCaixaOperar, msfgGrade_KeyDown, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "msfgGrade_KeyDown", [&](Ponto&) {
     if (!msfgGrade.Visible()) return;
     if (tecla.key == platform::Key::kEnter) Registros_Alterar();
     if (tecla.key == platform::Key::kDelete) zvcmdRemover_Click();

@@ -12,7 +12,7 @@ using frame::Ponto;
 using frame::Procedimento;
 
 void frmCaixaOperar::PreencherComboboxCaixas(std::int16_t& falha) {
-  Procedimento(", frmCaixaOperar, PreencherComboboxCaixas, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "PreencherComboboxCaixas", [&](Ponto& ponto) {
     auto caixas = servicos::CriarServico<servicos::ZOVA_N_Caixas::clsCaixas>();
     ponto = 2;
     if (caixas->SelecionarParaComboBox() != servicos::kSucesso) {
@@ -38,7 +38,7 @@ void frmCaixaOperar::PreencherComboboxCaixas(std::int16_t& falha) {
 }
 
 void frmCaixaOperar::zvcmbCaixas_Click() {
-  Procedimento(", frmCaixaOperar, zvcmbCaixas_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvcmbCaixas_Click", [&](Ponto& ponto) {
     caixas_.Tomar();
     ponto = 2;
     caixas_.GravarArquivo();
@@ -47,7 +47,7 @@ void frmCaixaOperar::zvcmbCaixas_Click() {
 }
 
 void frmCaixaOperar::zvcmbCaixas_DropDown() {
-  Procedimento(", frmCaixaOperar, zvcmbCaixas_DropDown, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "zvcmbCaixas_DropDown", [&](Ponto&) {
     std::int16_t falha = 0;
     PreencherComboboxCaixas(falha);
     if (falha == 1) return;
@@ -56,7 +56,7 @@ void frmCaixaOperar::zvcmbCaixas_DropDown() {
 }
 
 void frmCaixaOperar::ConfigurarOpcoesDoMenuCaixa() {
-  Procedimento(", frmCaixaOperar, ConfigurarOpcoesDoMenuCaixa, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "ConfigurarOpcoesDoMenuCaixa", [&](Ponto& ponto) {
     const std::int32_t situacao = caixas_.Situacao();
     if (situacao < servicos::kCaixaAberto || situacao > servicos::kCaixaForaDeOperacao) return;
     ponto = 2;

@@ -67,7 +67,7 @@ void frmCaixaOperar::zvnumQuantidade_KeyPress(char32_t& tecla) {
 }
 
 void frmCaixaOperar::zvnumQuantidade_LostFocus() {
-  Procedimento(", frmCaixaOperar, zvnumQuantidade_LostFocus, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvnumQuantidade_LostFocus", [&](Ponto& ponto) {
     if (item_.EhServico()) {
       frame::Normalizar(zvnumQuantidade, "0", "0", "0");
     } else {
@@ -79,7 +79,7 @@ void frmCaixaOperar::zvnumQuantidade_LostFocus() {
 }
 
 void frmCaixaOperar::zvnumQuantidade_Validate(bool& cancelar) {
-  Procedimento(", frmCaixaOperar, zvnumQuantidade_Validate, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "zvnumQuantidade_Validate", [&](Ponto&) {
     if (base::IsNumeric(zvnumQuantidade.Text())) return;
     Recusar(zvnumQuantidade, "Informe um valor numérico para a quantidade.", cancelar,
             item_.EhServico() ? "0" : "0,000");
@@ -87,7 +87,7 @@ void frmCaixaOperar::zvnumQuantidade_Validate(bool& cancelar) {
 }
 
 void frmCaixaOperar::zvnumValorUnitario_LostFocus() {
-  Procedimento(", frmCaixaOperar, zvnumValorUnitario_LostFocus, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvnumValorUnitario_LostFocus", [&](Ponto& ponto) {
     frame::Normalizar(zvnumValorUnitario);
     ponto = 2;
     item_.CalcularValorDoDesconto();
@@ -95,30 +95,28 @@ void frmCaixaOperar::zvnumValorUnitario_LostFocus() {
 }
 
 void frmCaixaOperar::zvnumPercentualDeDescontoPorItem_LostFocus() {
-  Procedimento(", frmCaixaOperar, zvnumPercentualDeDescontoPorItem_LostFocus, Ponto: ",
-               [&](Ponto& ponto) {
-                 frame::Normalizar(zvnumPercentualDeDescontoPorItem);
-                 ponto = 2;
-                 item_.CalcularValorDoDesconto();
-               });
+  Procedimento(*this, "zvnumPercentualDeDescontoPorItem_LostFocus", [&](Ponto& ponto) {
+    frame::Normalizar(zvnumPercentualDeDescontoPorItem);
+    ponto = 2;
+    item_.CalcularValorDoDesconto();
+  });
 }
 
 void frmCaixaOperar::zvnumValorDeDescontoPorItem_LostFocus() {
-  Procedimento(", frmCaixaOperar, zvnumValorDeDescontoPorItem_LostFocus, Ponto: ",
-               [&](Ponto& ponto) {
-                 frame::Normalizar(zvnumValorDeDescontoPorItem);
-                 ponto = 2;
-                 item_.CalcularPercentualDoDesconto();
-               });
+  Procedimento(*this, "zvnumValorDeDescontoPorItem_LostFocus", [&](Ponto& ponto) {
+    frame::Normalizar(zvnumValorDeDescontoPorItem);
+    ponto = 2;
+    item_.CalcularPercentualDoDesconto();
+  });
 }
 
 void frmCaixaOperar::zvnumPercentualDeDescontoPorItem_Validate(bool& cancelar) {
-  Procedimento(", frmCaixaOperar, zvnumPercentualDeDescontoPorItem_Validate, Ponto: ",
+  Procedimento(*this, "zvnumPercentualDeDescontoPorItem_Validate",
                [&](Ponto&) { ValidarDescontoPorItem(zvnumPercentualDeDescontoPorItem, cancelar); });
 }
 
 void frmCaixaOperar::zvnumValorDeDescontoPorItem_Validate(bool& cancelar) {
-  Procedimento(", frmCaixaOperar, zvnumValorDeDescontoPorItem_Validate, Ponto: ",
+  Procedimento(*this, "zvnumValorDeDescontoPorItem_Validate",
                [&](Ponto&) { ValidarDescontoPorItem(zvnumValorDeDescontoPorItem, cancelar); });
 }
 
@@ -133,18 +131,17 @@ void frmCaixaOperar::ValidarDescontoPorItem(ZVNumberBox& campo, bool& cancelar) 
 }
 
 void frmCaixaOperar::zvnumPercentualTotalDeDesconto_LostFocus() {
-  Procedimento(", frmCaixaOperar, zvnumPercentualTotalDeDesconto_LostFocus, Ponto: ",
-               [&](Ponto& ponto) {
-                 frame::Normalizar(zvnumPercentualTotalDeDesconto);
-                 ponto = 2;
-                 if (!totais_.Bruto().IsZero()) totais_.CalcularValorDoDesconto();
-                 ponto = 3;
-                 totais_.CalcularLiquido();
-               });
+  Procedimento(*this, "zvnumPercentualTotalDeDesconto_LostFocus", [&](Ponto& ponto) {
+    frame::Normalizar(zvnumPercentualTotalDeDesconto);
+    ponto = 2;
+    if (!totais_.Bruto().IsZero()) totais_.CalcularValorDoDesconto();
+    ponto = 3;
+    totais_.CalcularLiquido();
+  });
 }
 
 void frmCaixaOperar::zvnumValorTotalDeDesconto_LostFocus() {
-  Procedimento(", frmCaixaOperar, zvnumValorTotalDeDesconto_LostFocus, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvnumValorTotalDeDesconto_LostFocus", [&](Ponto& ponto) {
     frame::Normalizar(zvnumValorTotalDeDesconto);
     ponto = 2;
     if (!totais_.Bruto().IsZero()) {
@@ -157,30 +154,28 @@ void frmCaixaOperar::zvnumValorTotalDeDesconto_LostFocus() {
 }
 
 void frmCaixaOperar::zvnumPercentualTotalDeDesconto_Validate(bool& cancelar) {
-  Procedimento(
-      ", frmCaixaOperar, zvnumPercentualTotalDeDesconto_Validate, Ponto: ", [&](Ponto& ponto) {
-        ZVNumberBox& campo = zvnumPercentualTotalDeDesconto;
-        constexpr double kTudo = 100;
-        if (!base::IsNumeric(campo.Text())) {
-          Recusar(campo, "Informe um valor numérico para o percentual do desconto.", cancelar);
-          return;
-        }
-        ponto = 2;
-        const double percentual = LerDouble(campo);
-        if (percentual != 0 && totais_.Bruto().IsZero()) {
-          Recusar(campo,
-                  "Adicione um item de venda na grade antes do informar o percentual do "
-                  "desconto.",
-                  cancelar);
-        } else if (percentual > kTudo) {
-          Recusar(campo, "O percentual de desconto da venda não pode ser maior que 100,00%.",
-                  cancelar);
-        }
-      });
+  Procedimento(*this, "zvnumPercentualTotalDeDesconto_Validate", [&](Ponto& ponto) {
+    ZVNumberBox& campo = zvnumPercentualTotalDeDesconto;
+    constexpr double kTudo = 100;
+    if (!base::IsNumeric(campo.Text())) {
+      Recusar(campo, "Informe um valor numérico para o percentual do desconto.", cancelar);
+      return;
+    }
+    ponto = 2;
+    const double percentual = LerDouble(campo);
+    if (percentual != 0 && totais_.Bruto().IsZero()) {
+      Recusar(campo,
+              "Adicione um item de venda na grade antes do informar o percentual do "
+              "desconto.",
+              cancelar);
+    } else if (percentual > kTudo) {
+      Recusar(campo, "O percentual de desconto da venda não pode ser maior que 100,00%.", cancelar);
+    }
+  });
 }
 
 void frmCaixaOperar::zvnumValorTotalDeDesconto_Validate(bool& cancelar) {
-  Procedimento(", frmCaixaOperar, zvnumValorTotalDeDesconto_Validate, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvnumValorTotalDeDesconto_Validate", [&](Ponto& ponto) {
     ZVNumberBox& campo = zvnumValorTotalDeDesconto;
     if (!base::IsNumeric(campo.Text())) {
       Recusar(campo, "Informe um valor numérico para o valor do desconto.", cancelar);

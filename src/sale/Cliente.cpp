@@ -26,22 +26,22 @@ void frmCaixaOperar::zvfCodigoDoCliente_KeyDown() {
 }
 
 void frmCaixaOperar::zvfApelidoOuNomeFantasiaDoCliente_Click() {
-  Procedimento(", frmCaixaOperar, zvfApelidoOuNomeFantasiaDoCliente_Click, Ponto: ",
+  Procedimento(*this, "zvfApelidoOuNomeFantasiaDoCliente_Click",
                [&](Ponto&) { caixaDoCliente_.Click(zvfApelidoOuNomeFantasiaDoCliente); });
 }
 void frmCaixaOperar::zvfNomeOuRazaoSocialDoCliente_Click() {
-  Procedimento(", frmCaixaOperar, zvfNomeOuRazaoSocialDoCliente_Click, Ponto: ",
+  Procedimento(*this, "zvfNomeOuRazaoSocialDoCliente_Click",
                [&](Ponto&) { caixaDoCliente_.Click(zvfNomeOuRazaoSocialDoCliente); });
 }
 void frmCaixaOperar::zvfCodigoDoCliente_Click() {
-  Procedimento(", frmCaixaOperar, zvfCodigoDoCliente_Click_, Ponto: ",
+  Procedimento(*this, "zvfCodigoDoCliente_Click_",
                [&](Ponto&) { caixaDoCliente_.Click(zvfCodigoDoCliente); });
 }
 
 bool frmCaixaOperar::PesquisarCliente(const std::string& apelido, const std::string& nome,
                                       double codigo) {
   bool encontrado = false;
-  Procedimento(", frmCaixaOperar, PesquisarCliente, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "PesquisarCliente", [&](Ponto& ponto) {
     const base::RecordSetPtr registro =
         lookup::ProcurarCliente({apelido, nome, codigo}, painelDeMensagem_);
     if (!registro) return;
@@ -98,7 +98,7 @@ void frmCaixaOperar::AceitarCliente(ZVFind& campo) {
 }
 
 void frmCaixaOperar::PesquisarDebitosDoCliente(double codigo) {
-  Procedimento(", frmCaixaOperar, PesquisarDebitosDoCliente, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "PesquisarDebitosDoCliente", [&](Ponto& ponto) {
     frame::Espera espera(painelDeMensagem_);
     ponto = 2;
     auto debitos = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsDebitosVencCliente>();
@@ -113,7 +113,7 @@ void frmCaixaOperar::PesquisarDebitosDoCliente(double codigo) {
 }
 
 void frmCaixaOperar::PreencherComboboxAnimal(double codigo, std::int16_t& falha) {
-  Procedimento(", frmCaixaOperar, PreencherComboboxAnimal, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "PreencherComboboxAnimal", [&](Ponto& ponto) {
     frame::Espera espera(painelDeMensagem_, true);
     ponto = 2;
     auto animais = servicos::CriarServico<servicos::ZOVA_N_ClientAnim::clsAnimais>();

@@ -48,7 +48,7 @@ Currency ComissaoEmServico(const base::RecordSet& funcionario, std::int32_t tipo
 }  // namespace
 
 void frmCaixaOperar::PreencherComboboxTiposDeServicos(std::int16_t& falha) {
-  Procedimento(", frmCaixaOperar, PreencherComboboxTiposDeServicos, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "PreencherComboboxTiposDeServicos", [&](Ponto& ponto) {
     auto tipos = servicos::CriarServico<servicos::ZOVA_N_TipoDeServ::clsTiposDeServ>();
     ponto = 2;
     if (frame::consultas::TiposDeServicos(*tipos) != servicos::kSucesso) {
@@ -76,7 +76,7 @@ void frmCaixaOperar::PreencherComboboxTiposDeServicos(std::int16_t& falha) {
 
 bool frmCaixaOperar::PreencherComboboxComissionados(std::int16_t tipo) {
   bool preenchido = false;
-  Procedimento(", frmFichaClinica, PreencherComboboxComissionados, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(frame::etiquetas::kPreencherComboboxComissionados, [&](Ponto& ponto) {
     auto funcionarios = servicos::CriarServico<servicos::ZOVA_N_Funcionarios::clsFuncionarios>();
     double codigo = 0;
     ponto = 2;

@@ -84,7 +84,7 @@ frmCaixaOperar::DadosFiscais frmCaixaOperar::CompletarDadosFiscaisDaLinha(std::i
 
 bool frmCaixaOperar::ValidarDadosDoCliente(double codigo) {
   bool completos = false;
-  Procedimento(", frmFichaClinica, ValidarDadosDoCliente, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(frame::etiquetas::kValidarDadosDoCliente, [&](Ponto& ponto) {
     auto clientes = frame::CriarServicoComSessao<servicos::ZOVA_N_ClientAnim::clsClientes>();
     ponto = 2;
     if (frame::consultas::Cliente(*clientes, codigo) != servicos::kSucesso) return;
@@ -101,7 +101,7 @@ bool frmCaixaOperar::ValidarDadosDoProduto(const std::string& nome,
                                            const std::string& codigoDeBarras,
                                            double codigoInterno) {
   bool completos = false;
-  Procedimento(", frmCaixaOperar, ValidarDadosDoProduto, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "ValidarDadosDoProduto", [&](Ponto& ponto) {
     const base::RecordSetPtr produtos =
         SelecionarProdutos(nome, codigoDeBarras, codigoInterno).registros;
     if (!produtos) return;
@@ -113,23 +113,22 @@ bool frmCaixaOperar::ValidarDadosDoProduto(const std::string& nome,
 
 std::int16_t frmCaixaOperar::CadastrarCodigoIBGEDoMunicipioDoCliente_Click() {
   std::int16_t resultado = kFalha;
-  Procedimento(
-      ", frmCaixaOperar, CadastrarCodigoIBGEDoMunicipioDoCliente_Click, Ponto: ", [&](Ponto&) {
-        auto cadastro = servicos::CriarServico<servicos::ZOVA_A_ClientAnim::clsClientAnim>();
-        cadastro->CodigoDoCliente(caixaDoCliente_.CodigoDoCliente());
-        cadastro->ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
-        cadastro->NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
-        cadastro->NomeDaAplicacao(valores().NomeDaAplicacao);
-        cadastro->DadosDoUsuario(valores().DadosDoUsuario);
-        resultado = cadastro->AbrirFichaDeCadastroDeCodigoIBGEDoMunicipio();
-      });
+  Procedimento(*this, "CadastrarCodigoIBGEDoMunicipioDoCliente_Click", [&](Ponto&) {
+    auto cadastro = servicos::CriarServico<servicos::ZOVA_A_ClientAnim::clsClientAnim>();
+    cadastro->CodigoDoCliente(caixaDoCliente_.CodigoDoCliente());
+    cadastro->ApelidoOuNomeFantasiaDoCliente(zvfApelidoOuNomeFantasiaDoCliente.Text());
+    cadastro->NomeOuRazaoSocialDoCliente(zvfNomeOuRazaoSocialDoCliente.Text());
+    cadastro->NomeDaAplicacao(valores().NomeDaAplicacao);
+    cadastro->DadosDoUsuario(valores().DadosDoUsuario);
+    resultado = cadastro->AbrirFichaDeCadastroDeCodigoIBGEDoMunicipio();
+  });
   return resultado;
 }
 
 std::int16_t frmCaixaOperar::CadastrarNCMDoProduto_Click(double codigoInterno,
                                                          const std::string& nome) {
   std::int16_t resultado = kFalha;
-  Procedimento(", frmCaixaOperar, CadastrarNCMDoProduto_Click, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "CadastrarNCMDoProduto_Click", [&](Ponto&) {
     auto cadastro = servicos::CriarServico<servicos::ZOVA_A_Produtos::clsProdutos>();
     cadastro->CodigoInterno(codigoInterno);
     cadastro->Nome(nome);

@@ -34,55 +34,52 @@ bool Autorizado() {
 
 std::int16_t frmCaixaOperar::AtualizarIndicativosDeImpressaoDeDocumentos() {
   std::int16_t resultado = 1;
-  Procedimento(
-      ", frmCaixaOperar, AtualizarIndicativosDeImpressaoDeDocumentos, Ponto: ", [&](Ponto& ponto) {
-        const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
-        if (leitura.falhou) return;
-        ponto = 2;
-        if (leitura.Cadastrada()) {
-          using Indicativo = bool frame::IndicativosDeImpressao::*;
-          using I = frame::IndicativosDeImpressao;
-          struct Campo {
-            std::string_view nome;
-            Indicativo indicativo;
-          };
-          static constexpr Campo kCampos[] = {
-              {"ImprimirComprovanteDePagamento", &I::ImprimirComprovanteDePagamento},
-              {"SolicitarConfirmacaoParaImprimirComprovanteDePagamento",
-               &I::SolicitarConfirmacaoParaImprimirComprovanteDePagamento},
-              {"VisualizarImpressaoDoComprovanteDePagamento",
-               &I::VisualizarImpressaoDoComprovanteDePagamento},
-              {"ImprimirNotaPromissoria", &I::ImprimirNotaPromissoria},
-              {"SolicitarConfirmacaoParaImprimirNotaPromissoria",
-               &I::SolicitarConfirmacaoParaImprimirNotaPromissoria},
-              {"VisualizarImpressaoDaNotaPromissoria", &I::VisualizarImpressaoDaNotaPromissoria},
-              {"ConfirmarAVendaNoCaixaMesmoComFalhaNaEmissaoDoCFeSAT",
-               &I::ConfirmarAVendaNoCaixaMesmoComFalhaNaEmissaoDoCFeSAT},
-              {"ImprimirComprovanteDeCFeSAT", &I::ImprimirComprovanteDeCFeSAT},
-              {"SolicitarConfirmacaoParaImprimirComprovanteDeCFeSAT",
-               &I::SolicitarConfirmacaoParaImprimirComprovanteDeCFeSAT}};
-          for (const Campo& campo : kCampos) {
-            valores().*campo.indicativo =
-                base::ToText(leitura.empresa->Fields(campo.nome)) == "Sim";
-          }
-        }
-        resultado = 0;
-      });
+  Procedimento(*this, "AtualizarIndicativosDeImpressaoDeDocumentos", [&](Ponto& ponto) {
+    const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
+    if (leitura.falhou) return;
+    ponto = 2;
+    if (leitura.Cadastrada()) {
+      using Indicativo = bool frame::IndicativosDeImpressao::*;
+      using I = frame::IndicativosDeImpressao;
+      struct Campo {
+        std::string_view nome;
+        Indicativo indicativo;
+      };
+      static constexpr Campo kCampos[] = {
+          {"ImprimirComprovanteDePagamento", &I::ImprimirComprovanteDePagamento},
+          {"SolicitarConfirmacaoParaImprimirComprovanteDePagamento",
+           &I::SolicitarConfirmacaoParaImprimirComprovanteDePagamento},
+          {"VisualizarImpressaoDoComprovanteDePagamento",
+           &I::VisualizarImpressaoDoComprovanteDePagamento},
+          {"ImprimirNotaPromissoria", &I::ImprimirNotaPromissoria},
+          {"SolicitarConfirmacaoParaImprimirNotaPromissoria",
+           &I::SolicitarConfirmacaoParaImprimirNotaPromissoria},
+          {"VisualizarImpressaoDaNotaPromissoria", &I::VisualizarImpressaoDaNotaPromissoria},
+          {"ConfirmarAVendaNoCaixaMesmoComFalhaNaEmissaoDoCFeSAT",
+           &I::ConfirmarAVendaNoCaixaMesmoComFalhaNaEmissaoDoCFeSAT},
+          {"ImprimirComprovanteDeCFeSAT", &I::ImprimirComprovanteDeCFeSAT},
+          {"SolicitarConfirmacaoParaImprimirComprovanteDeCFeSAT",
+           &I::SolicitarConfirmacaoParaImprimirComprovanteDeCFeSAT}};
+      for (const Campo& campo : kCampos) {
+        valores().*campo.indicativo = base::ToText(leitura.empresa->Fields(campo.nome)) == "Sim";
+      }
+    }
+    resultado = 0;
+  });
   return resultado;
 }
 
 void frmCaixaOperar::AtualizarPercDeDescontoLimiteDaVendaNoCaixa() {
-  Procedimento(", frmCaixaPagar, AtualizarPercDeDescontoLimiteDaVendaNoCaixa, Ponto: ",
-               [&](Ponto& ponto) {
-                 const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
-                 if (!leitura.Cadastrada()) return;
-                 ponto = 2;
-                 regras_.AtualizarLimite(*leitura.empresa);
-               });
+  Procedimento(frame::etiquetas::kAtualizarPercDeDescontoLimite, [&](Ponto& ponto) {
+    const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
+    if (!leitura.Cadastrada()) return;
+    ponto = 2;
+    regras_.AtualizarLimite(*leitura.empresa);
+  });
 }
 
 void frmCaixaOperar::RecuperaDescontoDoCliente() {
-  Procedimento(", frmCaixaOperar, RecuperaDescontoDoCliente, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "RecuperaDescontoDoCliente", [&](Ponto& ponto) {
     platform::ZVNumberBox& campo = zvnumPercentualDeDescontoPorItem;
     const auto percentual = caixaDoCliente_.Cliente().descontos.Para(item_.TipoDeServico());
     if (percentual) campo.Text = base::ToText(*percentual);
@@ -97,7 +94,7 @@ void frmCaixaOperar::RecuperaDescontoDoCliente() {
 
 std::int16_t frmCaixaOperar::VerificaDescontoPromocionalDeVenda() {
   std::int16_t resultado = 0;
-  Procedimento(", frmCaixaOperar, VerificaDescontoPromocionalDeVenda, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "VerificaDescontoPromocionalDeVenda", [&](Ponto& ponto) {
     const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
     resultado = leitura.falhou ? 1 : 0;
     if (!leitura.empresa) return;
@@ -125,7 +122,7 @@ std::int16_t frmCaixaOperar::VerificaDescontoPromocionalDeVenda() {
 
 std::int16_t frmCaixaOperar::VerificaDescMaximoAutomaticoDeVenda() {
   std::int16_t resultado = 1;
-  Procedimento(", frmCaixaOperar, VerificaDescMaximoAutomaticoDeVenda, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "VerificaDescMaximoAutomaticoDeVenda", [&](Ponto& ponto) {
     const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
     resultado = leitura.falhou ? 1 : 0;
     if (!leitura.empresa) return;
@@ -156,20 +153,18 @@ std::int16_t frmCaixaOperar::VerificaDescMaximoAutomaticoDeVenda() {
 
 std::int16_t frmCaixaOperar::VerificaPercDeDescontoLimiteDaVendaNoCaixa() {
   std::int16_t resultado = 1;
-  Procedimento(
-      ", frmFichaDeProcedimentos, VerificaPercDeDescontoLimiteDaVendaNoCaixa, Ponto: ",
-      [&](Ponto&) { resultado = frame::Direito("Administrador") || Autorizado() ? 0 : 1; });
+  Procedimento(frame::etiquetas::kVerificaPercDeDescontoLimite, [&](Ponto&) {
+    resultado = frame::Direito("Administrador") || Autorizado() ? 0 : 1;
+  });
   return resultado;
 }
 
 std::int16_t frmCaixaOperar::AplicarDescontoERecalcularValoresDosItensDaNovaGradeDuplicada() {
   std::int16_t resultado = 1;
-  Procedimento(
-      ", frmCaixaOperar, AplicarDescontoERecalcularValoresDosItensDaNovaGradeDuplicada, Ponto: ",
-      [&](Ponto&) {
-        totais_.DistribuirDesconto();
-        resultado = 0;
-      });
+  Procedimento(*this, "AplicarDescontoERecalcularValoresDosItensDaNovaGradeDuplicada", [&](Ponto&) {
+    totais_.DistribuirDesconto();
+    resultado = 0;
+  });
   return resultado;
 }
 

@@ -25,7 +25,7 @@ void Sobrepor(platform::Control& campo, const platform::Control& sobre) {
 }  // namespace
 
 void frmCaixaOperar::Form_Load() {
-  Procedimento(", frmCaixaOperar, Form_Load, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "Form_Load", [&](Ponto& ponto) {
     frame::PintarFundoDaToolbar(tbMenuCaixa, platform::kWhite, frame::kFundoDaToolbar);
     ponto = 2;
     caixas_.LerArquivo();
@@ -33,7 +33,7 @@ void frmCaixaOperar::Form_Load() {
 }
 
 void frmCaixaOperar::MontarExibirFormulario(platform::WindowHandle conteiner) {
-  Procedimento(", frmCaixaOperar, MontarExibirFormulario, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
     SetParent(conteiner);
     ponto = 2;
     ExibirOcultarpicMensagem(true, true);
@@ -94,7 +94,7 @@ void frmCaixaOperar::MontarExibirFormulario(platform::WindowHandle conteiner) {
 }
 
 void frmCaixaOperar::Form_Resize() {
-  Procedimento(", frmCaixaOperar, Form_Resize, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "Form_Resize", [&](Ponto&) {
     // Once: what the host does to the window later, the controls follow by the edges they hold to.
     if (redimensionado_) return;
     redimensionado_ = true;
@@ -137,7 +137,7 @@ void frmCaixaOperar::ExibirOcultarpicAreaDeTrabalho(std::int16_t opcao) {
 }
 
 void frmCaixaOperar::ConfigurarObjetos(bool exibir) {
-  Procedimento(", frmCaixaOperar, ConfigurarObjetos, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "ConfigurarObjetos", [&](Ponto& ponto) {
     zvcmbCaixas.Visible = exibir;
     picTituloCaixa.Visible = exibir;
     picAreaDeTrabalho.Visible = exibir;
@@ -155,7 +155,7 @@ void frmCaixaOperar::ConfigurarObjetos(bool exibir) {
 }
 
 void frmCaixaOperar::Grade_Configurar(std::int16_t& falha) {
-  Procedimento(", frmCaixaOperar, Grade_Configurar, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "Grade_Configurar", [&](Ponto&) {
     frame::ConfigurarColunas(msfgGrade, kColunasDaVenda);
     lblItensDaPreVenda.Visible = false;
     falha = 0;
@@ -178,14 +178,14 @@ void frmCaixaOperar::RecomecarGrade(std::int16_t& falha) {
 }
 
 void frmCaixaOperar::Grade_Classificar(std::int16_t coluna, bool alternar, std::int16_t& falha) {
-  Procedimento(", frmCaixaOperar, Grade_Classificar, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "Grade_Classificar", [&](Ponto&) {
     frame::Classificar(msfgGrade, coluna, alternar, classificacao_);
     falha = 0;
   });
 }
 
 void frmCaixaOperar::mnuListaDeColunas_Click(std::int16_t indice) {
-  Procedimento(", frmCaixaOperarDeClientes, mnuListaDeColunas_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(frame::etiquetas::kListaDeColunas, [&](Ponto& ponto) {
     platform::MenuItem& entrada = *mnuListaDeColunas.at(static_cast<std::size_t>(indice));
     const std::string numero = base::ToText(indice);
     entrada.Checked = !entrada.Checked();
@@ -204,12 +204,11 @@ void frmCaixaOperar::mnuListaDeColunas_Click(std::int16_t indice) {
 }
 
 void frmCaixaOperar::CentralizarpicMensagem() {
-  Procedimento(", frmCaixaOperar, CentralizarpicMensagem, Ponto: ",
-               [&](Ponto&) { painelDeMensagem_.Centralizar(); });
+  Procedimento(*this, "CentralizarpicMensagem", [&](Ponto&) { painelDeMensagem_.Centralizar(); });
 }
 
 void frmCaixaOperar::ExibirOcultarpicMensagem(bool exibir, bool somenteCursor) {
-  Procedimento(", frmCaixaOperar, ExibirOcultarpicMensagem, Ponto: ",
+  Procedimento(*this, "ExibirOcultarpicMensagem",
                [&](Ponto&) { painelDeMensagem_.ExibirOcultar(exibir, somenteCursor); });
 }
 

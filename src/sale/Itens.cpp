@@ -8,7 +8,7 @@ using frame::Procedimento;
 using platform::ZVFind;
 
 void frmCaixaOperar::optServico_Click() {
-  Procedimento(", frmCaixaOperar, optServico_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "optServico_Click", [&](Ponto& ponto) {
     for (ZVFind* campo :
          {&zvfCodigoDeBarrasDoProduto, &zvfNomeDoProduto, &zvfCodigoInternoDoProduto}) {
       campo->Visible = false;
@@ -35,7 +35,7 @@ void frmCaixaOperar::optServico_Click() {
 }
 
 void frmCaixaOperar::optProduto_Click() {
-  Procedimento(", frmCaixaOperar, optProduto_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "optProduto_Click", [&](Ponto& ponto) {
     zvcmbTiposDeServicos.Visible = false;
     zvfNomeDoServico.Visible = false;
     zvfCodigoDoServico.Visible = false;
@@ -60,7 +60,7 @@ void frmCaixaOperar::optProduto_Click() {
 }
 
 void frmCaixaOperar::zvcmbTiposDeServicos_Click() {
-  Procedimento(", frmCaixaOperar, zvcmbTiposDeServicos_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvcmbTiposDeServicos_Click", [&](Ponto& ponto) {
     if (frame::TomarSupressaoDePesquisa()) return;
     item_.ZerarValores("1");
     ItemEmEdicao::Esvaziar(zvfCodigoDoServico);
@@ -87,19 +87,19 @@ void frmCaixaOperar::zvfNomeDServico_KeyDown() {
 }
 
 void frmCaixaOperar::zvfCodigoInternoDoProduto_Click() {
-  Procedimento(", frmCaixaOperar, zvfCodigoInternoDoProduto_Click, Ponto: ",
+  Procedimento(*this, "zvfCodigoInternoDoProduto_Click",
                [&](Ponto&) { PesquisarOuLimparItem(zvfCodigoInternoDoProduto); });
 }
 void frmCaixaOperar::zvfNomeDoProduto_Click() {
-  Procedimento(", frmCaixaOperar, zvfNomeDoProduto_Click, Ponto: ",
+  Procedimento(*this, "zvfNomeDoProduto_Click",
                [&](Ponto&) { PesquisarOuLimparItem(zvfNomeDoProduto); });
 }
 void frmCaixaOperar::zvfCodigoDoServico_Click() {
-  Procedimento(", frmCaixaOperar, zvfCodigoDoServico_Click, Ponto: ",
+  Procedimento(*this, "zvfCodigoDoServico_Click",
                [&](Ponto&) { PesquisarOuLimparItem(zvfCodigoDoServico); });
 }
 void frmCaixaOperar::zvfNomeDoServico_Click() {
-  Procedimento(", frmCaixaOperar, zvfNomeDoServico_Click, Ponto: ",
+  Procedimento(*this, "zvfNomeDoServico_Click",
                [&](Ponto&) { PesquisarOuLimparItem(zvfNomeDoServico); });
 }
 

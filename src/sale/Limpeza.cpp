@@ -25,7 +25,7 @@ constexpr platform::Color kCinzaClaro = platform::Rgb(249, 249, 249);
 }  // namespace
 
 void frmCaixaOperar::PermissaoDoUsuario() {
-  Procedimento(", frmCaixaOperar, PermissaoDoUsuario, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "PermissaoDoUsuario", [&](Ponto&) {
     const bool administrador = frame::Direito("Administrador");
     const bool descontos =
         administrador || frame::Direito("PermissaoDoModuloCaixaAlterarDescontosDeVendas");
@@ -40,20 +40,19 @@ void frmCaixaOperar::PermissaoDoUsuario() {
 }
 
 void frmCaixaOperar::HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda(bool habilitar) {
-  Procedimento(
-      ", frmCaixaOperar, HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda, Ponto: ",
-      [&](Ponto& ponto) {
-        zvnumQuantidade.Enabled = habilitar;
-        zvnumValorUnitario.Enabled = habilitar;
-        zvnumPercentualDeDescontoPorItem.Enabled = habilitar;
-        zvnumValorDeDescontoPorItem.Enabled = habilitar;
-        ponto = 2;
-        if (habilitar) PermissaoDoUsuario();
-      });
+  Procedimento(*this, "HabilitarDesabilitarCamposDeValoresDeReferenciaDoItemDeVenda",
+               [&](Ponto& ponto) {
+                 zvnumQuantidade.Enabled = habilitar;
+                 zvnumValorUnitario.Enabled = habilitar;
+                 zvnumPercentualDeDescontoPorItem.Enabled = habilitar;
+                 zvnumValorDeDescontoPorItem.Enabled = habilitar;
+                 ponto = 2;
+                 if (habilitar) PermissaoDoUsuario();
+               });
 }
 
 void frmCaixaOperar::HabilitarDesabilitarCampos(bool habilitar) {
-  Procedimento(", frmCaixaOperar, HabilitarDesabilitarCampos, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "HabilitarDesabilitarCampos", [&](Ponto&) {
     platform::Control* const campos[] = {&optServico,           &optProduto,
                                          &zvcmbTiposDeServicos, &zvfCodigoDoServico,
                                          &zvfNomeDoServico,     &zvfCodigoDeBarrasDoProduto,
@@ -75,7 +74,7 @@ void frmCaixaOperar::HabilitarDesabilitarCampos(bool habilitar) {
 }
 
 void frmCaixaOperar::LimparCampos(std::int16_t& falha) {
-  Procedimento(", frmCaixaOperar, LimparCampos, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "LimparCampos", [&](Ponto& ponto) {
     for (platform::Control* controle : Controls()) {
       switch (controle->GetKind()) {
         case Kind::kFind:
@@ -125,7 +124,7 @@ void frmCaixaOperar::LimparCamposDeQuantidadeEValoresDoItemDaVenda() {
 }
 
 void frmCaixaOperar::zvcmdLimparCampos_Click() {
-  Procedimento(", frmCaixaOperar, zvcmdLimparCampos_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvcmdLimparCampos_Click", [&](Ponto& ponto) {
     zvfNumeroDaFichaClinica.Enabled = true;
     caixaDoCliente_.Habilitar(true);
     ponto = 2;
@@ -161,7 +160,7 @@ void frmCaixaOperar::EsperarCliente() {
 }
 
 void frmCaixaOperar::zvcmdDetalhes_Click() {
-  Procedimento(", frmCaixaOperar,  zvcmdDetalhes_Click, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, " zvcmdDetalhes_Click", [&](Ponto&) {
     // A line without a code has nothing to look its details up by.
     if (msfgGrade.Rows() == 2 && msfgGrade.TextMatrix(1, kCodigo).empty()) {
       frame::Informar("Nenhum item para ser detalhado da grade.");

@@ -31,7 +31,7 @@ bool AmbosVazios(const platform::ZVFind& um, const platform::ZVFind& outro) {
 }  // namespace
 
 void frmCaixaOperar::zvcmdAdicionar_Click() {
-  Procedimento(", frmCaixaOperar, zvcmdAdicionar_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvcmdAdicionar_Click", [&](Ponto& ponto) {
     if (regras_.AcimaDoLimite(LerCurrency(zvnumPercentualDeDescontoPorItem)) &&
         VerificaPercDeDescontoLimiteDaVendaNoCaixa() == 1) {
       frame::Informar(
@@ -70,7 +70,7 @@ void frmCaixaOperar::zvcmdAdicionar_Click() {
 
 std::int16_t frmCaixaOperar::ValidarCamposDaGrade() {
   std::int16_t resultado = 1;
-  Procedimento(", frmCaixaOperar, ValidarCamposDaGrade, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "ValidarCamposDaGrade", [&](Ponto& ponto) {
     RestaurarRotulos(*this);
     ponto = 2;
     const bool servico = item_.EhServico();
@@ -139,7 +139,7 @@ bool frmCaixaOperar::ConfirmarRepetida(const NovaLinha& linha) {
 }
 
 void frmCaixaOperar::CalcularValoresDosItensDaGrade() {
-  Procedimento(", frmCaixaOperar, CalcularValoresDosItensDaGrade, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "CalcularValoresDosItensDaGrade", [&](Ponto& ponto) {
     const SomaDasLinhas soma = SomarLinhas(msfgGrade);
     ponto = 2;
     totais_.Exibir(soma);
@@ -151,7 +151,7 @@ void frmCaixaOperar::CalcularValoresDosItensDaGrade() {
 
 std::int16_t frmCaixaOperar::ValidarCampos() {
   std::int16_t resultado = 0;
-  Procedimento(", frmCaixaOperar, ValidarCampos, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "ValidarCampos", [&](Ponto& ponto) {
     resultado = 1;
     RestaurarRotulos(*this);
     if (!caixas_.Escolhido()) {

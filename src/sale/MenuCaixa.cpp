@@ -19,7 +19,7 @@ using frame::Procedimento;
 using frame::valores;
 
 void frmCaixaOperar::tbMenuCaixa_ButtonClick(platform::ToolbarButton& botao) {
-  Procedimento(", frmCaixaOperar, tbMenuCaixas, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "tbMenuCaixas", [&](Ponto&) {
     struct Entrada {
       std::string_view chave;
       void (*abrir)(frmCaixaOperar&);
@@ -175,14 +175,14 @@ void frmCaixaOperar::mnuHistoricoDeCreditoParaOCliente_Click() {
 }
 
 void frmCaixaOperar::mnuConsultarPrecosProdutos_Click() {
-  Procedimento(", frmCaixaOperar, mnuConsultarPrecosProdutos_Click, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "mnuConsultarPrecosProdutos_Click", [&](Ponto&) {
     lookup::frmPesquisaDeProdutos lista;
     lista.FormularioDeConsultaDePreco(true);
     ConsultarPrecos(lista);
   });
 }
 void frmCaixaOperar::mnuConsultarPrecosServicos_Click() {
-  Procedimento(", frmCaixaOperar, mnuConsultarPrecosServicos_Click, Ponto: ", [&](Ponto&) {
+  Procedimento(*this, "mnuConsultarPrecosServicos_Click", [&](Ponto&) {
     lookup::frmPesquisaDeServicos lista;
     lista.FormularioDeConsultaDePreco(true);
     lista.EfetuarOPreenchimentoDaComboboxTiposDeServicos(true);

@@ -12,7 +12,7 @@ using frame::Procedimento;
 using frame::valores;
 
 void frmCaixaOperar::zvcmdPagamento_Click() {
-  Procedimento(", frmCaixaOperar, zvcmdPagamento_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvcmdPagamento_Click", [&](Ponto& ponto) {
     if (ValidarCampos() == 1) return;
     ponto = 2;
     if (frame::EmiteDocumentoFiscal()) {
@@ -52,7 +52,7 @@ void frmCaixaOperar::EncerrarVenda() {
 
 std::int16_t frmCaixaOperar::MontarExibirFormulario_Caixa_Pagar() {
   std::int16_t resultado = 1;
-  Procedimento(", frmCaixaOperar, MontarExibirFormulario_Caixa_Pagar, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "MontarExibirFormulario_Caixa_Pagar", [&](Ponto& ponto) {
     checkout::frmCaixaPagar pagar;
     pagar.lblCliente.Caption = lblCliente.Caption();
     pagar.NumeroDaFichaClinica(base::ToInt32(base::Val(zvfNumeroDaFichaClinica.Text())));

@@ -52,7 +52,7 @@ void NadaEncontrado(const std::string& mensagem) {
 }  // namespace
 
 void frmCaixaOperar::zvfCodigoDeBarrasDoProduto_Click() {
-  Procedimento(", frmCaixaOperar, zvfCodigoDeBarrasDoProduto_Click, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "zvfCodigoDeBarrasDoProduto_Click", [&](Ponto& ponto) {
     ZVFind& campo = zvfCodigoDeBarrasDoProduto;
     if (campo.Status() == ZVFind::kEmpty) {
       VoltarAoCampo(campo);
@@ -181,7 +181,7 @@ Selecao frmCaixaOperar::SelecionarProdutos(const std::string& nome,
 bool frmCaixaOperar::PesquisarProduto(const std::string& nome, const std::string& codigoDeBarras,
                                       double codigoInterno) {
   bool encontrado = false;
-  Procedimento(", frmCaixaOperar, PesquisarProduto, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "PesquisarProduto", [&](Ponto& ponto) {
     const Selecao produtos = SelecionarProdutos(nome, codigoDeBarras, codigoInterno);
     if (!produtos.registros) return;
     ponto = 2;
@@ -201,7 +201,7 @@ bool frmCaixaOperar::PesquisarProduto(const std::string& nome, const std::string
 
 bool frmCaixaOperar::PesquisarServico(std::int16_t tipo, const std::string& nome, double codigo) {
   bool encontrado = false;
-  Procedimento(", frmCaixaOperar, PesquisarServico, Ponto: ", [&](Ponto& ponto) {
+  Procedimento(*this, "PesquisarServico", [&](Ponto& ponto) {
     frame::Espera espera(painelDeMensagem_);
     auto catalogo = servicos::CriarServico<servicos::ZOVA_N_Servicos::clsServicos>();
     ponto = 2;

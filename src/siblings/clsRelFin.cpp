@@ -66,7 +66,7 @@ class clsRelFin final : public TelaComum<servicos::ZOVA_A_RelFin::clsRelFin> {
   void ImprimirNotaPromissoria(std::string_view hoje, base::DateTime vencimento,
                                base::Currency valor, double codigoDoCliente,
                                bool& visualizar) override {
-    frame::Procedimento(", clsRelFin, ImprimirNotaPromissoria, Ponto: ", [&](frame::Ponto& ponto) {
+    frame::Procedimento(frame::etiquetas::kImprimirNotaPromissoria, [&](frame::Ponto& ponto) {
       const Pedido pedido{base::ToDate(hoje), vencimento, valor, codigoDoCliente};
       const std::optional<Empresa> empresa = EmpresaDoDocumento("a nota promissória");
       if (!empresa) return;

@@ -39,13 +39,9 @@ frmCadastroDeCodigo::frmCadastroDeCodigo(const CadastroDeCodigo& cadastro, doubl
   zvmskCodigo.Observe(*this);
 }
 
-std::string frmCadastroDeCodigo::Etiqueta(std::string_view rotina) const {
-  return ", " + Name() + ", " + std::string(rotina) + ", Ponto: ";
-}
-
 std::int16_t frmCadastroDeCodigo::MontarExibirFormulario() {
   resultado_ = kFalha;
-  frame::Procedimento(Etiqueta("MontarExibirFormulario"), [&](Ponto& ponto) {
+  frame::Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
     if (!LerCodigoAtual()) return;
     ponto = 2;
     resultado_ = kSemCadastrar;
@@ -95,7 +91,7 @@ bool frmCadastroDeCodigo::Validar() {
 }
 
 void frmCadastroDeCodigo::zvcmdSalvar_Click() {
-  frame::Procedimento(Etiqueta("zvcmdSalvar_Click"), [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdSalvar_Click", [&](Ponto& ponto) {
     if (!Validar()) return;
     ponto = 2;
     const frame::PonteiroDeEspera espera(*this, platform::kHourglassPointer);

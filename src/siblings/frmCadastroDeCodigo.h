@@ -88,7 +88,6 @@ class frmCadastroDeCodigo final : public platform::Form, private platform::Obser
   bool LerCodigoAtual();
   /// Whether the code may be registered as it stands.
   bool Validar();
-  std::string Etiqueta(std::string_view rotina) const;
 
   const CadastroDeCodigo& cadastro_;
   double codigo_;

@@ -78,7 +78,7 @@ frmHistoricoDeVendas::frmHistoricoDeVendas(Cliente cliente, std::string_view dat
 }
 
 void frmHistoricoDeVendas::MontarExibirFormulario() {
-  frame::Procedimento(", frmHistoricoDeVendas, MontarExibirFormulario, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
     lblCliente.Caption = cliente_.PorExtenso();
     zvdtpDataFinal.Text =
         base::Format(platform::Desktop::Current().Now(), base::DateMask::kDayMonthYear);
@@ -92,7 +92,7 @@ void frmHistoricoDeVendas::MontarExibirFormulario() {
 }
 
 void frmHistoricoDeVendas::zvcmdPesquisar_Click() {
-  frame::Procedimento(", frmHistoricoDeVendas, zvcmdPesquisar_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdPesquisar_Click", [&](Ponto& ponto) {
     if (!Validar()) return;
     ponto = 2;
     if (Pesquisar()) msfgGrade.SetFocus();
@@ -170,7 +170,7 @@ void frmHistoricoDeVendas::Somar(base::RecordSet& vendas) {
 }
 
 void frmHistoricoDeVendas::msfgGrade_SelChange() {
-  frame::Procedimento(", frmHistoricoDeVendas, msfgGrade_SelChange, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "msfgGrade_SelChange", [&](Ponto& ponto) {
     const std::string numero = vendas_.Selecionado(kNumeroDaVenda);
     if (numero.empty()) {
       lblItens.Caption = "Itens da venda";

@@ -85,7 +85,7 @@ void frmOrcamento::LigarEventos() {
 }
 
 std::int32_t frmOrcamento::MontarExibirFormulario() {
-  frame::Procedimento(", frmOrcamento, MontarExibirFormulario, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
     itens_.Esvaziar();
     zvnumDesconto.Text = std::string(frame::kZeroEmDinheiro);
     zvnumDiasDeValidade.Text = std::string(kDiasUsuais);
@@ -107,14 +107,14 @@ void frmOrcamento::LimparItem() {
 }
 
 void frmOrcamento::optTipo_Click() {
-  frame::Procedimento(", frmOrcamento, optTipo_Click, Ponto: ", [&](Ponto&) {
+  frame::Procedimento(*this, "optTipo_Click", [&](Ponto&) {
     LimparItem();
     zvfItem.SetFocus();
   });
 }
 
 void frmOrcamento::zvfItem_Click() {
-  frame::Procedimento(", frmOrcamento, zvfItem_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvfItem_Click", [&](Ponto& ponto) {
     if (zvfItem.Status() != ZVFind::kTyped) {
       if (zvfItem.Status() == ZVFind::kFound) zvnumQuantidade.SetFocus();
       return;
@@ -153,7 +153,7 @@ bool frmOrcamento::ValidarItem() {
 }
 
 void frmOrcamento::zvcmdAdicionar_Click() {
-  frame::Procedimento(", frmOrcamento, zvcmdAdicionar_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdAdicionar_Click", [&](Ponto& ponto) {
     if (!ValidarItem()) return;
     ponto = 2;
     item_->quantidade = frame::LerCurrency(zvnumQuantidade);
@@ -167,7 +167,7 @@ void frmOrcamento::zvcmdAdicionar_Click() {
 }
 
 void frmOrcamento::zvcmdRemover_Click() {
-  frame::Procedimento(", frmOrcamento, zvcmdRemover_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdRemover_Click", [&](Ponto& ponto) {
     const std::int32_t numero = base::ToInt32(base::Val(itens_.Selecionado(kNumeroDoItem)));
     if (numero == 0) {
       frame::Informar("Nenhum item para ser removido do orçamento.");
@@ -199,7 +199,7 @@ void frmOrcamento::Somar() {
 }
 
 void frmOrcamento::zvnumDesconto_LostFocus() {
-  frame::Procedimento(", frmOrcamento, zvnumDesconto_LostFocus, Ponto: ", [&](Ponto&) {
+  frame::Procedimento(*this, "zvnumDesconto_LostFocus", [&](Ponto&) {
     frame::Normalizar(zvnumDesconto);
     Somar();
   });
@@ -233,7 +233,7 @@ bool frmOrcamento::Validar() {
 }
 
 void frmOrcamento::zvcmdSalvar_Click() {
-  frame::Procedimento(", frmOrcamento, zvcmdSalvar_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdSalvar_Click", [&](Ponto& ponto) {
     if (!Validar()) return;
     ponto = 2;
     orcamento_.desconto = frame::LerCurrency(zvnumDesconto);
@@ -255,7 +255,7 @@ void frmOrcamento::zvcmdCancelar_Click() {
 }
 
 void frmOrcamento::Form_Unload(bool& ficar) {
-  frame::Procedimento(", frmOrcamento, Form_Unload, Ponto: ", [&](Ponto&) {
+  frame::Procedimento(*this, "Form_Unload", [&](Ponto&) {
     if (numero_ != 0 || orcamento_.itens.empty()) return;
     ficar = !frame::Perguntar("Deseja abandonar o orçamento?\nOs itens informados serão perdidos.");
   });

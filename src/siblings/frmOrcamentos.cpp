@@ -96,7 +96,7 @@ void frmOrcamentos::Desenhar() {
 }
 
 void frmOrcamentos::MontarExibirFormulario() {
-  frame::Procedimento(", frmOrcamentos, MontarExibirFormulario, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "MontarExibirFormulario", [&](Ponto& ponto) {
     lblCliente.Caption = cliente_.PorExtenso();
     lblAnimal.Caption = "Um novo orçamento é para o animal " + animal_.nome + ".";
     ponto = 2;
@@ -124,7 +124,7 @@ std::int32_t frmOrcamentos::NumeroSelecionado() const {
 }
 
 void frmOrcamentos::msfgGrade_SelChange() {
-  frame::Procedimento(", frmOrcamentos, msfgGrade_SelChange, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "msfgGrade_SelChange", [&](Ponto& ponto) {
     const std::int32_t numero = NumeroSelecionado();
     const std::string observacao = orcamentos_.Selecionado(kObservacao);
     const std::string situacao = orcamentos_.Selecionado(kSituacao);
@@ -144,7 +144,7 @@ void frmOrcamentos::msfgGrade_SelChange() {
 }
 
 void frmOrcamentos::zvcmdNovo_Click() {
-  frame::Procedimento(", frmOrcamentos, zvcmdNovo_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdNovo_Click", [&](Ponto& ponto) {
     std::int32_t numero = 0;
     {
       frmOrcamento novo(cliente_, animal_);
@@ -163,12 +163,12 @@ void frmOrcamentos::zvcmdNovo_Click() {
 }
 
 void frmOrcamentos::zvcmdImprimir_Click() {
-  frame::Procedimento(", frmOrcamentos, zvcmdImprimir_Click, Ponto: ",
+  frame::Procedimento(*this, "zvcmdImprimir_Click",
                       [&](Ponto&) { ImprimirOrcamento(cliente_, NumeroSelecionado()); });
 }
 
 void frmOrcamentos::zvcmdCancelarOrcamento_Click() {
-  frame::Procedimento(", frmOrcamentos, zvcmdCancelarOrcamento_Click, Ponto: ", [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdCancelarOrcamento_Click", [&](Ponto& ponto) {
     const std::int32_t numero = NumeroSelecionado();
     if (!frame::Perguntar("Deseja cancelar o orçamento " + base::ToText(numero) +
                           "?\nEle continua na lista, mas deixa de valer.")) {

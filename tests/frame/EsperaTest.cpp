@@ -130,7 +130,7 @@ class Relato : public testing::Test {
 
 TEST_F(Relato, SaysWhereAndFreesTheCustomerFirst) {
   const auto procedure = [] {
-    Procedimento(", frmCaixaOperar, PesquisarCliente, Ponto: ", [](Ponto& ponto) {
+    Procedimento(Etiqueta{"frmCaixaOperar", "PesquisarCliente"}, [](Ponto& ponto) {
       ponto = 4;
       base::ToDouble("x");
     });
@@ -151,11 +151,11 @@ TEST_F(Relato, SaysWhereAndFreesTheCustomerFirst) {
 TEST_F(Relato, ThatFailsGoesUpToTheCaller) {
   valores().CodigoDoClienteComOperacoesBloqueadas = 12;
   fails = true;
-  EXPECT_THROW(Procedimento(", frm, Form_Load, Ponto: ", [](Ponto&) { base::ToDouble("x"); }),
+  EXPECT_THROW(Procedimento(Etiqueta{"frm", "Form_Load"}, [](Ponto&) { base::ToDouble("x"); }),
                base::RuntimeError);
   EXPECT_TRUE(module.TakeErrors().empty()) << "an error inside a report does not report again";
   fails = false;
-  Procedimento(", frm, Form_Load, Ponto: ", [](Ponto&) { base::ToDouble("x"); });
+  Procedimento(Etiqueta{"frm", "Form_Load"}, [](Ponto&) { base::ToDouble("x"); });
   EXPECT_EQ(module.TakeErrors().size(), 1U) << "the next error is reported like any other";
 }
 
