@@ -140,32 +140,14 @@ Findings CheckIncludes(const Source& file) {
 
 namespace {
 
-constexpr int kLongestFile = 600;
-constexpr std::size_t kLongestLine = 100;
-constexpr int kLongestFunction = 70;
+constexpr std::size_t kLongestFile = 600;
 
 }  // namespace
 
-Findings CheckLengths(const Source& file) {
-  Findings findings;
-  if (!file.IsCode()) return findings;
-  const std::vector<std::string_view> lines = Lines(file.text);
-  const int count = static_cast<int>(lines.size());
-  if (count > kLongestFile) findings.push_back(At(file, count, "the file is too long"));
-  int number = 0;
-  for (const std::string_view line : lines) {
-    ++number;
-    const std::size_t length = base::Length(line);
-    if (length > kLongestLine) {
-      findings.push_back(At(file, number, std::to_string(length) + " columns"));
-    }
-  }
-  for (const Function& function : FunctionsOf(CodeOf(file.text))) {
-    if (function.length <= kLongestFunction) continue;
-    findings.push_back(
-        At(file, function.line, "a function of " + std::to_string(function.length) + " lines"));
-  }
-  return findings;
+Findings CheckLength(const Source& file) {
+  const std::size_t count = file.IsCode() ? Lines(file.text).size() : 0;
+  if (count <= kLongestFile) return {};
+  return {At(file, static_cast<int>(count), "the file is too long")};
 }
 
 namespace {
@@ -271,11 +253,6 @@ Findings CheckWords(const Source& file) {
     }
   }
   return findings;
-}
-
-Findings CheckGuard(const Source& file) {
-  if (!file.IsHeader() || file.text.starts_with("#pragma once\n")) return {};
-  return {At(file, 1, "a header begins with #pragma once")};
 }
 
 Findings CheckContract(const Source& file) {

@@ -29,23 +29,6 @@ std::size_t EndOfOther(std::string_view text, std::size_t at) {
   return end + 1;
 }
 
-/// A braced list follows its type without a blank or stands behind "(", ",", "=" or "{"; a body
-/// follows a blank.
-bool OpensTable(std::string_view head) {
-  const std::size_t last = head.find_last_not_of(' ');
-  if (last == std::string_view::npos) return false;
-  const bool adjoins = last + 1 == head.size();
-  const bool isOfType = IsWord(head[last]) || head[last] == '>' || head[last] == ']';
-  return (adjoins && isOfType) || std::string_view("(,={").find(head[last]) != std::string::npos;
-}
-
-bool IsHeadOfFunction(std::string_view head) {
-  head.remove_prefix(std::min(head.find_first_not_of(' '), head.size()));
-  const bool isScope =
-      head.starts_with("namespace") || head.starts_with("class ") || head.starts_with("struct ");
-  return !isScope && head.find('(') != std::string_view::npos;
-}
-
 }  // namespace
 
 std::string CodeOf(std::string_view text) {
@@ -74,42 +57,6 @@ std::vector<Include> IncludesOf(std::string_view text) {
         {number, std::string(written.substr(open + 1, close - open - 1)), written[open] == '<'});
   }
   return includes;
-}
-
-std::vector<Function> FunctionsOf(std::string_view code) {
-  struct Brace {
-    int line;
-    bool isTable, isFunction;
-  };
-  std::vector<Brace> open;
-  std::vector<Function> functions;
-  std::vector<int> tableLines;  // The lines inside tables.
-  std::string head;             // What has been read since the last statement or brace.
-  int number = 0;
-  for (const std::string_view line : Lines(code)) {
-    ++number;
-    const bool inTable = std::ranges::any_of(open, &Brace::isTable);
-    if (line.starts_with(kQuoted) || inTable) tableLines.push_back(number);
-    if (line.starts_with('#')) continue;
-    for (const char c : line) {
-      const bool isInTable = !open.empty() && open.back().isTable;
-      if (c == '{') {
-        open.push_back({number, OpensTable(head), IsHeadOfFunction(head)});
-      } else if (c == '}' && !open.empty()) {
-        const Brace closed = open.back();
-        open.pop_back();
-        if (closed.isFunction && !closed.isTable) {
-          const auto isInside = [&](int each) { return each > closed.line; };
-          const auto tables = std::ranges::count_if(tableLines, isInside);
-          functions.push_back({closed.line, number - closed.line + 1 - static_cast<int>(tables)});
-        }
-      }
-      const bool endsHead = c == ';' || c == '{' || c == '}';
-      head = endsHead && !isInTable && !(c == '{' && open.back().isTable) ? "" : head + c;
-    }
-    head += ' ';
-  }
-  return functions;
 }
 
 }  // namespace tidy

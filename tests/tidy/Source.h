@@ -36,13 +36,4 @@ struct Include {
 };
 std::vector<Include> IncludesOf(std::string_view text);
 
-/// A function with its length in lines, from its opening brace to the closing one. Lines of a table
-/// inside it, that is of a braced list or a raw string, do not count.
-struct Function {
-  int line = 0;  ///< Of the opening brace, from 1.
-  int length = 0;
-};
-/// Goes by braces in the layout that clang-format gives; a block inside a function is told too.
-std::vector<Function> FunctionsOf(std::string_view code);
-
 }  // namespace tidy

@@ -26,10 +26,9 @@ std::string Found(Check check) {
 TEST(Tree, KeepsTheHouseRules) {
   EXPECT_GT(tidy::Tree().size(), 200U) << "the tree is where it is looked for";
   EXPECT_EQ(Found(tidy::CheckIncludes), "");
-  EXPECT_EQ(Found(tidy::CheckLengths), "");
+  EXPECT_EQ(Found(tidy::CheckLength), "");
   EXPECT_EQ(Found(tidy::CheckCalls), "");
   EXPECT_EQ(Found(tidy::CheckWords), "");
-  EXPECT_EQ(Found(tidy::CheckGuard), "");
   EXPECT_EQ(Found(tidy::CheckContract), "");
   EXPECT_EQ(Text(tidy::CheckDeadHeaders(tidy::Tree())), "");
 }
@@ -67,7 +66,11 @@ TEST(Checks, FindWhatBreaksThem) {
                                       "virtual bool D() { return false; }\n"})),
             "src/frame/servicos/ZOVA_A.h:1: B is declared or named in kMembros, but not both\n"
             "src/frame/servicos/ZOVA_A.h:1: C is declared or named in kMembros, but not both\n");
-  EXPECT_NE(Text(tidy::CheckGuard({"src/base/A.h", "// A.\n#pragma once\n"})), "");
+  std::string lines;
+  for (int i = 0; i < 600; ++i) lines += "int a;\n";
+  EXPECT_EQ(Text(tidy::CheckLength({"src/base/A.cpp", lines})), "");
+  EXPECT_EQ(Text(tidy::CheckLength({"src/base/A.cpp", lines + "int a;\n"})),
+            "src/base/A.cpp:601: the file is too long\n");
   EXPECT_EQ(Text(tidy::CheckDeadHeaders({{"src/base/A.h", "#include \"base/A.h\"\n"},
                                          {"src/base/B.h", ""},
                                          {"src/base/B.cpp", "#include \"base/B.h\"\n"}})),
@@ -87,36 +90,6 @@ TEST(Checks, PassWhatIsRight) {
     EXPECT_EQ(Text(tidy::CheckCalls({"src/services/A.cpp", line})), "") << line;
   }
   EXPECT_EQ(Text(tidy::CheckWords({"docs/a.md", "the work/home balance is special"})), "");
-}
-
-TEST(Checks, KnowLongFilesLinesAndFunctions) {
-  const auto repeated = [](const std::string& line, int count) {
-    std::string text;
-    for (int i = 0; i < count; ++i) text += line;
-    return text;
-  };
-  const auto found = [](const std::string& text) {
-    return Text(tidy::CheckLengths({"src/base/A.cpp", text}));
-  };
-  EXPECT_EQ(found(repeated("int a;\n", 600)), "");
-  EXPECT_EQ(found(repeated("int a;\n", 601)), "src/base/A.cpp:601: the file is too long\n");
-  EXPECT_EQ(found("//" + repeated("ç", 98) + "\n"), "") << "characters, not bytes";
-  EXPECT_EQ(found("\n//" + repeated("ç", 99) + "\n"), "src/base/A.cpp:2: 101 columns\n");
-  const std::string body = repeated("  Call(\"}\", '{', 10'000);  // }\n", 68);
-  for (const std::string head : {"void F(int a) {\n", "#define BRACE {\nB::B() : c_(1), d_{2} {\n",
-                                 "class A {\n  auto F(T a) const -> int {\n", "TEST(A, B) {\n"}) {
-    EXPECT_EQ(found(head + body + "}\n"), "") << head;
-    EXPECT_NE(found(head + body + "a();\n}\n").find("a function of 71 lines"), std::string::npos)
-        << head;
-  }
-  const std::string rows = repeated("      {1, 2, {3}},\n", 100);
-  for (const std::string& table :
-       {"constexpr int kTable[] = {\n" + rows + "};\n",
-        "F::F() {\n  Arrange({{9, 6},\n" + rows + "});\n}\n",
-        "void F() {\n  Use(R\"(\n" + repeated("  a | b\n", 100) + ")\");\n}\n",
-        "namespace a {\n" + repeated("void F();\n", 100) + "}\n"}) {
-    EXPECT_EQ(found(table), "") << table.substr(0, 80);
-  }
 }
 
 }  // namespace
