@@ -165,7 +165,7 @@ class clsCaixa : public SobreBanco<Contrato> {
   }
 
   void Mover(servicos::TipoDeMovimento tipo, const char* descricao, base::Currency valor) {
-    Movimento movimento = movimento_;
+    Lancamento movimento = movimento_;
     movimento.tipo = tipo;
     movimento.valor = valor;
     movimento.quando = banco().Agora();
@@ -178,7 +178,7 @@ class clsCaixa : public SobreBanco<Contrato> {
     RegistrarMovimento(banco(), movimento);
   }
 
-  Movimento movimento_;
+  Lancamento movimento_{.situacao = ""};  ///< As the screen sets it.
   Venda venda_;
   std::string valor_ = "0";
   std::string cliente_;
