@@ -9,9 +9,9 @@
 #include "services/contrato/Fabricas.h"
 #include "services/contrato/SobreBanco.h"
 #include "services/venda/Cupons.h"
-#include "services/venda/LeituraDeVenda.h"
 #include "services/venda/Movimento.h"
 #include "services/venda/RegistroDeVenda.h"
+#include "services/venda/VendaDasGrades.h"
 
 namespace services {
 namespace {
