@@ -423,11 +423,14 @@ CREATE INDEX cupons_por_chave ON cupons {hashed}(chave);
 /// changes: who asked and consented, which movement an entry reverses (each once), where a
 /// receivable comes from and what became of it. A receivable that was cancelled or renegotiated has
 /// a date of receipt and nothing received, so whoever looks for open ones by the date goes on
-/// finding those alone.
+/// finding those alone. A settlement (8) enters each tender, so its operation is not alone.
 constexpr std::string_view kReversals = R"sql(
 ALTER TABLE vendas ADD COLUMN consentida_por {text} NOT NULL DEFAULT '';
 ALTER TABLE lancamentos_de_caixa ADD COLUMN consentido_por {text} NOT NULL DEFAULT '';
 ALTER TABLE lancamentos_de_caixa ADD COLUMN estorna {int} REFERENCES lancamentos_de_caixa (numero);
+DROP INDEX movimentos_por_operacao;
+CREATE UNIQUE INDEX movimentos_por_operacao ON lancamentos_de_caixa (operacao)
+  WHERE numero_da_venda IS NULL AND tipo <> 8;
 CREATE UNIQUE INDEX lancamentos_estornados ON lancamentos_de_caixa (estorna)
   WHERE estorna IS NOT NULL;
 

@@ -9,9 +9,9 @@
 #include "services/contrato/Fabricas.h"
 #include "services/contrato/SobreBanco.h"
 #include "services/venda/Cupons.h"
-#include "services/venda/LeituraDeVenda.h"
 #include "services/venda/Movimento.h"
 #include "services/venda/RegistroDeVenda.h"
+#include "services/venda/VendaDasGrades.h"
 
 namespace services {
 namespace {
@@ -165,7 +165,7 @@ class clsCaixa : public SobreBanco<Contrato> {
   }
 
   void Mover(servicos::TipoDeMovimento tipo, const char* descricao, base::Currency valor) {
-    Movimento movimento = movimento_;
+    Lancamento movimento = movimento_;
     movimento.tipo = tipo;
     movimento.valor = valor;
     movimento.quando = banco().Agora();
@@ -178,7 +178,7 @@ class clsCaixa : public SobreBanco<Contrato> {
     RegistrarMovimento(banco(), movimento);
   }
 
-  Movimento movimento_;
+  Lancamento movimento_{.situacao = ""};  ///< As the screen sets it.
   Venda venda_;
   std::string valor_ = "0";
   std::string cliente_;

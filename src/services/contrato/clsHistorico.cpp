@@ -3,7 +3,6 @@
 #include <map>
 
 #include "base/Numbers.h"
-#include "frame/servicos/Codigos.h"
 #include "frame/servicos/Pagamento.h"
 #include "services/banco/Fields.h"
 #include "services/banco/Search.h"
@@ -57,26 +56,14 @@ std::string SalesOfPeriod(const std::string& columns) {
 /// each came to.
 std::map<std::int32_t, std::string> TendersOf(Session& session, const Params& period) {
   static const Statement select(
-      "SELECT numero_da_venda, moeda, valor FROM lancamentos_de_caixa WHERE tipo = $4"
-      " AND numero_da_venda IN (SELECT numero FROM (" +
-      SalesOfPeriod("numero") + ") v) ORDER BY numero_da_venda, numero");
-  struct Tender {
-    std::int32_t method;
-    base::Currency value;
-  };
-  std::map<std::int32_t, std::vector<Tender>> tenders;
-  Params params = period;
-  params.emplace_back(std::int32_t{servicos::kRecebimento});
-  session.Select(select, params, [&](const Row& row) {
-    tenders[row.Number(0)].push_back({row.Number(1), row.Money(2)});
-  });
+      SelecaoDosRecebimentos("SELECT numero FROM (" + SalesOfPeriod("numero") + ") v"));
   std::map<std::int32_t, std::string> texts;
-  for (const auto& [sale, list] : tenders) {
+  for (const auto& [sale, list] : LerRecebimentosDasVendas(session, select, period)) {
     std::string& text = texts[sale];
-    for (const Tender& each : list) {
+    for (const VendaRegistrada::Recebimento& each : list) {
       if (!text.empty()) text += " / ";
-      text += servicos::pagamento::NomeDa(each.method);
-      if (list.size() > 1) text += " " + base::FormatMoney(each.value);
+      text += servicos::pagamento::NomeDa(each.moeda);
+      if (list.size() > 1) text += " " + base::FormatMoney(each.valor);
     }
   }
   return texts;

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "frame/servicos/Codigos.h"
 #include "frame/servicos/Pagamento.h"
+#include "services/venda/SituacoesDoCupom.h"
 
 namespace services {
 namespace {
@@ -10,6 +11,23 @@ namespace {
 struct Codigo {
   std::string_view nome;
   std::int32_t numero = 0;
+};
+
+struct Palavra {
+  std::string_view nome, palavra;
+};
+
+constexpr Palavra kPalavras[] = {
+    {"{cancelada}", servicos::kCancelada},
+    {"{contaAberta}", servicos::kContaAberta},
+    {"{contaCancelada}", servicos::kContaCancelada},
+    {"{contaRenegociada}", servicos::kContaRenegociada},
+    {"{deVenda}", servicos::kDeVenda},
+    {"{cupomEnviado}", kCupomEnviado},
+    {"{cupomEmitido}", kCupomEmitido},
+    {"{cupomVendido}", kCupomVendido},
+    {"{cupomRetirado}", kCupomRetirado},
+    {"{cupomEncerrado}", kCupomEncerrado},
 };
 
 constexpr Codigo kCodigos[] = {
@@ -20,10 +38,12 @@ constexpr Codigo kCodigos[] = {
     {"{recebimento}", servicos::kRecebimento},
     {"{troco}", servicos::kTroco},
     {"{estorno}", servicos::kEstorno},
+    {"{acerto}", servicos::kAcerto},
     {"{creditoUsado}", servicos::kCreditoUsado},
     {"{creditoMantido}", servicos::kCreditoMantido},
     {"{dinheiro}", servicos::pagamento::kDinheiro},
     {"{aCredito}", servicos::pagamento::kACredito},
+    {"{creditoDoCliente}", servicos::pagamento::kCreditoDoCliente},
     {"{aberto}", servicos::kCaixaAberto},
     {"{fechado}", servicos::kCaixaFechado},
     {"{foraDeOperacao}", servicos::kCaixaForaDeOperacao},
@@ -46,7 +66,10 @@ std::string ComCodigos(std::string_view sql) {
                         Lista(servicos::kAbertura, servicos::kCreditoDevolvido));
   texto = base::Replace(texto, "{qualquerMoeda}",
                         Lista(servicos::pagamento::kDinheiro, servicos::pagamento::kPix));
-  return base::Replace(texto, "{cancelada}", "'" + std::string(servicos::kCancelada) + "'");
+  for (const Palavra& each : kPalavras) {
+    texto = base::Replace(texto, each.nome, "'" + std::string(each.palavra) + "'");
+  }
+  return texto;
 }
 
 }  // namespace services

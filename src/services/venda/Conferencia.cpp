@@ -73,7 +73,7 @@ constexpr Rule kRules[] = {
      "Caixa {n}: {a} lançamentos são de um tipo ou uma moeda que não existe."},
     {Of::kCount,
      "SELECT min(numero_do_caixa) AS n, count(*) AS a, 1 AS b FROM lancamentos_de_caixa"
-     " WHERE numero_da_venda IS NULL GROUP BY operacao",
+     " WHERE numero_da_venda IS NULL AND tipo <> {acerto} GROUP BY operacao",
      "Caixa {n}: há {a} lançamentos com o mesmo número de operação."},
     {Of::kCount,
      "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN lancamentos_de_caixa l"
@@ -146,6 +146,7 @@ constexpr Rule kRules[] = {
      " CAST(sum(CASE WHEN tipo = {estorno} THEN valor ELSE 0 END) AS bigint) AS estornos,"
      " CAST(sum(CASE WHEN tipo IN ({recebimento}, {troco}) THEN valor ELSE 0 END) AS bigint)"
      " AS soma FROM lancamentos_de_caixa WHERE numero_da_venda IS NOT NULL"
+     " AND moeda NOT IN ({aCredito}, {creditoDoCliente})"
      " GROUP BY numero_da_venda) l ON l.numero_da_venda = v.numero",
      "Venda {n}: os estornos somam {a}, e deveriam somar {b}."},
     {Of::kCount,
@@ -157,14 +158,14 @@ constexpr Rule kRules[] = {
      "Venda {n}: {a} estornos não são o contrário do lançamento que estornam."},
     {Of::kCount,
      "SELECT codigo_do_cliente AS n, count(*) AS a, 0 AS b FROM contas_a_receber"
-     " WHERE (situacao = 'aberta') <> (data_de_recebimento IS NULL)"
-     " OR (situacao IN ('cancelada', 'renegociada') AND valor_recebido <> 0)"
+     " WHERE (situacao = {contaAberta}) <> (data_de_recebimento IS NULL)"
+     " OR (situacao IN ({contaCancelada}, {contaRenegociada}) AND valor_recebido <> 0)"
      " GROUP BY codigo_do_cliente",
      "Cliente {n}: {a} contas a receber têm uma situação que o recebimento delas desmente."},
     {Of::kCount,
      "SELECT v.numero AS n, count(*) AS a, 0 AS b FROM vendas v JOIN contas_a_receber c"
-     " ON c.numero_da_venda = v.numero AND c.origem = 'venda'"
-     " WHERE (v.situacao = {cancelada}) <> (c.situacao = 'cancelada') GROUP BY v.numero",
+     " ON c.numero_da_venda = v.numero AND c.origem = {deVenda}"
+     " WHERE (v.situacao = {cancelada}) <> (c.situacao = {contaCancelada}) GROUP BY v.numero",
      "Venda {n}: {a} contas a receber não seguem o cancelamento dela."},
     {Of::kMoney,
      "SELECT x.numero AS n, x.dinheiro AS a, coalesce(l.soma, 0) AS b FROM caixas x"
@@ -183,7 +184,7 @@ constexpr Rule kRules[] = {
      "Venda {n}: a chave do seu cupom está em {a} vendas."},
     {Of::kCount,
      "SELECT v.numero AS n, k.numero_da_venda AS a, v.numero AS b FROM vendas v"
-     " JOIN cupons k ON k.chave = v.chave_sat AND k.situacao = 'vendido'"
+     " JOIN cupons k ON k.chave = v.chave_sat AND k.situacao = {cupomVendido}"
      " WHERE v.chave_sat <> ''",
      "Venda {n}: a chave do seu cupom foi pedida para a venda {a}."},
 };

@@ -3,6 +3,8 @@
 #include "base/Numbers.h"
 #include "services/Banco.h"
 #include "services/banco/Session.h"
+#include "services/venda/CodigosNoSql.h"
+#include "services/venda/SituacoesDoCupom.h"
 
 namespace services {
 namespace {
@@ -12,7 +14,7 @@ const std::string kSelect =
     " k.codigo_do_cliente, coalesce(c.apelido, ''), k.valor, k.chave,"
     " coalesce(k.numero_da_venda, 0), k.situacao, k.nota"
     " FROM cupons k LEFT JOIN clientes c ON c.codigo = k.codigo_do_cliente";
-const std::string kOpen = " WHERE k.situacao IN ('enviado', 'emitido')";
+const std::string kOpen = ComCodigos(" WHERE k.situacao IN ({cupomEnviado}, {cupomEmitido})");
 const std::string kInOrder = " ORDER BY k.numero";
 
 /// What became of a coupon, from its state, the note beside it, its key and its sale.
@@ -20,13 +22,13 @@ std::string Desfecho(const Cupom& cupom, const std::string& situacao, const std:
   const std::string chave = cupom.chave.empty() ? "sem chave" : "com a chave " + cupom.chave;
   const std::string venda = "a venda " + std::to_string(cupom.venda);
   const std::string observacao = nota.empty() ? "" : " (" + nota + ")";
-  if (situacao == "vendido") return "usado n" + venda + ", " + chave + observacao;
-  if (situacao == "retirado") return "retirado antes de ser lido pelo aplicativo fiscal";
-  if (situacao == "recusado") return "recusado pelo aplicativo fiscal" + observacao;
-  if (situacao == "encerrado") return "encerrado" + observacao + ", " + chave;
+  if (situacao == kCupomVendido) return "usado n" + venda + ", " + chave + observacao;
+  if (situacao == kCupomRetirado) return "retirado antes de ser lido pelo aplicativo fiscal";
+  if (situacao == kCupomRecusado) return "recusado pelo aplicativo fiscal" + observacao;
+  if (situacao == kCupomEncerrado) return "encerrado" + observacao + ", " + chave;
   const std::string registro =
       cupom.venda == 0 ? "sem venda registrada" : venda + " foi registrada sem ele";
-  if (situacao == "emitido") return "emitido " + chave + observacao + ", " + registro;
+  if (situacao == kCupomEmitido) return "emitido " + chave + observacao + ", " + registro;
   return "enviado ao aplicativo fiscal e ainda sem resposta, " + registro;
 }
 
@@ -69,8 +71,8 @@ std::vector<Cupom> ListarCupons(Banco& banco, bool todos) {
 
 bool EncerrarCupom(Banco& banco, std::int32_t numero, const std::string& motivo) {
   static const Statement close(
-      "UPDATE cupons SET situacao = 'encerrado', nota = $2 WHERE numero = $1"
-      " AND situacao IN ('enviado', 'emitido')");
+      ComCodigos("UPDATE cupons SET situacao = {cupomEncerrado}, nota = $2 WHERE numero = $1"
+                 " AND situacao IN ({cupomEnviado}, {cupomEmitido})"));
   bool estavaAberto = false;
   InTransaction(banco.Sessao(), [&](Transaction&) {
     estavaAberto = banco.Sessao().Run(close, {numero, motivo}) > 0;

@@ -9,16 +9,13 @@
 #include "services/banco/DatabaseError.h"
 #include "services/banco/Session.h"
 #include "services/troca/RespostasDaTroca.h"
+#include "services/venda/CodigosNoSql.h"
 #include "services/venda/Registros.h"
+#include "services/venda/SituacoesDoCupom.h"
 #include "services/venda/Venda.h"
 
 namespace services {
 namespace {
-
-constexpr std::string_view kEnviado = "enviado";
-constexpr std::string_view kEmitido = "emitido";
-constexpr std::string_view kRecusado = "recusado";
-constexpr std::string_view kRetirado = "retirado";
 
 /// What is odd about a key, for whoever looks into it; it is kept as it came.
 std::string NotaDaChave(const std::string& chave) {
@@ -50,26 +47,26 @@ struct Conhecido {
 
 Estado Apurar(const Conhecido& cupom) {
   // A whole key stands; a piece of one may have been read while it was being written.
-  if (cupom.estado.situacao == kEmitido && cupom.estado.nota.empty()) return cupom.estado;
+  if (cupom.estado.situacao == kCupomEmitido && cupom.estado.nota.empty()) return cupom.estado;
   if (const auto bytes = LerResposta(cupom.arquivos.retorno)) {
     const auto retorno = servicos::LerRetorno(servicos::TextoDoArquivo(*bytes));
     if (!retorno.emitido) {
-      return {std::string(kRecusado), "",
+      return {std::string(kCupomRecusado), "",
               retorno.erro.empty() ? "ERRO DESCONHECIDO." : retorno.erro};
     }
-    return {std::string(kEmitido), retorno.chave, NotaDaChave(retorno.chave)};
+    return {std::string(kCupomEmitido), retorno.chave, NotaDaChave(retorno.chave)};
   }
-  if (cupom.estado.situacao == kEnviado && FoiRetirado(cupom.arquivos.envio)) {
-    return {std::string(kRetirado), "", ""};
+  if (cupom.estado.situacao == kCupomEnviado && FoiRetirado(cupom.arquivos.envio)) {
+    return {std::string(kCupomRetirado), "", ""};
   }
   return cupom.estado;
 }
 
 std::vector<Conhecido> ComResposta(Banco& banco, Alcance alcance) {
-  static const std::string kOpen =
+  static const std::string kOpen = ComCodigos(
       "SELECT numero, envio, retorno, situacao, chave, nota FROM cupons"
-      " WHERE situacao IN ('enviado', 'emitido', 'retirado')"
-      " AND (situacao <> 'retirado' OR criado_em >= $1)";
+      " WHERE situacao IN ({cupomEnviado}, {cupomEmitido}, {cupomRetirado})"
+      " AND (situacao <> {cupomRetirado} OR criado_em >= $1)");
   static const Statement all(kOpen);
   static const Statement own(kOpen + " AND marca = $2 AND computador = $3");
   const bool proprios = alcance == Alcance::kEstaEstacao;
@@ -90,15 +87,15 @@ std::vector<Conhecido> ComResposta(Banco& banco, Alcance alcance) {
 /// The key of a sale that was not registered goes to its coupon, or to one of its own where none
 /// was asked for here.
 void AnotarChave(Banco& banco, const Venda& venda) {
-  static const Statement note(
-      "UPDATE cupons SET situacao = 'emitido', chave = $2, nota = $3"
-      " WHERE numero = $1 AND situacao IN ('enviado', 'emitido', 'retirado')"
-      " AND numero_da_venda IS NULL");
+  static const Statement note(ComCodigos(
+      "UPDATE cupons SET situacao = {cupomEmitido}, chave = $2, nota = $3"
+      " WHERE numero = $1 AND situacao IN ({cupomEnviado}, {cupomEmitido}, {cupomRetirado})"
+      " AND numero_da_venda IS NULL"));
   static const Statement known("SELECT 1 FROM cupons WHERE chave = $1");
-  static const Statement enter(
+  static const Statement enter(ComCodigos(
       "INSERT INTO cupons (situacao, criado_em, computador, marca, numero_do_caixa, operador,"
       " codigo_do_cliente, consumidor, valor, conteudo, envio, retorno, chave, nota)"
-      " VALUES ('emitido', $1, $2, $3, $4, $5, $6, '', $7, '', '', '', $8, $9)");
+      " VALUES ({cupomEmitido}, $1, $2, $3, $4, $5, $6, '', $7, '', '', '', $8, $9)"));
   const std::string& chave = venda.chaveSat;
   const std::string nota = NotaDaChave(chave);
   Session& session = banco.Sessao();
@@ -128,10 +125,10 @@ void SalvarChave(Banco& banco, const Venda& venda) {
 
 std::int32_t AbrirCupom(Banco& banco, const RegistrosDoCupom& registros,
                         const PastaDeTroca::Arquivos& arquivos) {
-  static const Statement enter(
+  static const Statement enter(ComCodigos(
       "INSERT INTO cupons (situacao, criado_em, computador, marca, numero_do_caixa, operador,"
       " codigo_do_cliente, consumidor, valor, conteudo, envio, retorno)"
-      " VALUES ('enviado', $1, $2, $3, $4, $5, $6, $7, $8, $9, $10, $11) RETURNING numero");
+      " VALUES ({cupomEnviado}, $1, $2, $3, $4, $5, $6, $7, $8, $9, $10, $11) RETURNING numero"));
   static const Statement proof("SELECT 1 FROM cupons WHERE numero = $1 AND envio = $2");
   const std::int32_t cliente =
       registros.codigoDoCliente != 0 ? registros.codigoDoCliente : banco.ClienteEmAtendimento();
@@ -167,13 +164,13 @@ void CompletarCupons(Banco& banco, Alcance alcance) {
 std::vector<CupomIgual> CuponsIguais(Banco& banco, const RegistrosDoCupom& registros,
                                      base::DateTime desde) {
   // A sale in doubt may have landed meanwhile: its coupon serves the question whether it has.
-  static const Statement same(
+  static const Statement same(ComCodigos(
       "SELECT numero, situacao, criado_em, codigo_do_cliente, consumidor, chave, envio, retorno"
       " FROM cupons WHERE marca = $1 AND computador = $2 AND numero_do_caixa = $3"
       " AND conteudo = $4 AND criado_em >= $5"
-      " AND ((situacao IN ('enviado', 'emitido') AND numero_da_venda IS NULL)"
-      " OR (situacao = 'vendido' AND numero = $6))"
-      " ORDER BY CASE situacao WHEN 'enviado' THEN 2 ELSE 1 END, numero DESC");
+      " AND ((situacao IN ({cupomEnviado}, {cupomEmitido}) AND numero_da_venda IS NULL)"
+      " OR (situacao = {cupomVendido} AND numero = $6))"
+      " ORDER BY CASE situacao WHEN {cupomEnviado} THEN 2 ELSE 1 END, numero DESC"));
   std::vector<CupomIgual> cupons;
   if (registros.conteudo.empty()) return cupons;
   banco.Sessao().Select(same,
@@ -181,7 +178,7 @@ std::vector<CupomIgual> CuponsIguais(Banco& banco, const RegistrosDoCupom& regis
                          desde, banco.CupomEmAndamento()},
                         [&](const Row& row) {
                           cupons.push_back({.numero = row.Number(0),
-                                            .temChave = row.Text(1) != kEnviado,
+                                            .temChave = row.Text(1) != kCupomEnviado,
                                             .quando = row.Moment(2),
                                             .codigoDoCliente = row.Number(3),
                                             .consumidor = row.Text(4),
@@ -193,8 +190,8 @@ std::vector<CupomIgual> CuponsIguais(Banco& banco, const RegistrosDoCupom& regis
 
 std::vector<CupomLargado> CuponsSemResposta(Banco& banco) {
   static const Statement unanswered(
-      "SELECT numero, envio FROM cupons WHERE situacao = 'enviado' AND marca = $1"
-      " AND computador = $2 AND numero_da_venda IS NULL");
+      ComCodigos("SELECT numero, envio FROM cupons WHERE situacao = {cupomEnviado} AND marca = $1"
+                 " AND computador = $2 AND numero_da_venda IS NULL"));
   std::vector<CupomLargado> cupons;
   banco.Sessao().Select(unanswered, {banco.Marca(), banco.Computador()}, [&](const Row& row) {
     cupons.push_back({.numero = row.Number(0), .envio = row.Text(1)});
@@ -204,7 +201,8 @@ std::vector<CupomLargado> CuponsSemResposta(Banco& banco) {
 
 void MarcarRetirado(Banco& banco, std::int32_t numero) {
   static const Statement write(
-      "UPDATE cupons SET situacao = 'retirado' WHERE numero = $1 AND situacao = 'enviado'");
+      ComCodigos("UPDATE cupons SET situacao = {cupomRetirado} WHERE numero = $1 AND situacao = "
+                 "{cupomEnviado}"));
   InTransaction(banco.Sessao(), [&](Transaction&) { banco.Sessao().Run(write, {numero}); });
 }
 
@@ -230,12 +228,12 @@ std::int32_t CupomDaVenda(Banco& banco, const Venda& venda) {
 }
 
 void VincularCupom(Session& session, const Venda& venda, std::int32_t numeroDaVenda) {
-  static const Statement sold(
-      "UPDATE cupons SET situacao = 'vendido', numero_da_venda = $2, chave = $3, nota = $4"
-      " WHERE numero = $1 AND numero_da_venda IS NULL");
+  static const Statement sold(ComCodigos(
+      "UPDATE cupons SET situacao = {cupomVendido}, numero_da_venda = $2, chave = $3, nota = $4"
+      " WHERE numero = $1 AND numero_da_venda IS NULL"));
   static const Statement soldByKey(
-      "UPDATE cupons SET situacao = 'vendido', numero_da_venda = $2"
-      " WHERE chave = $1 AND numero_da_venda IS NULL");
+      ComCodigos("UPDATE cupons SET situacao = {cupomVendido}, numero_da_venda = $2"
+                 " WHERE chave = $1 AND numero_da_venda IS NULL"));
   static const Statement soldWithout(
       "UPDATE cupons SET numero_da_venda = $2 WHERE numero = $1 AND numero_da_venda IS NULL");
   const std::string& chave = venda.chaveSat;

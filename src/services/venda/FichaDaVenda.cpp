@@ -6,22 +6,6 @@
 namespace services {
 namespace {
 
-void LerCabecalho(Session& session, FichaDaVenda& ficha) {
-  static const Statement header(
-      "SELECT total_de_descontos, total_recebido, credito_anterior, credito_usado, custo, comissao,"
-      " lucro_em_valor, observacao FROM vendas WHERE numero = $1");
-  session.Select(header, {ficha.venda.numero}, [&](const Row& row) {
-    ficha.totalDeDescontos = row.Money(0);
-    ficha.totalRecebido = row.Money(1);
-    ficha.creditoAnterior = row.Money(2);
-    ficha.creditoUsado = row.Money(3);
-    ficha.custo = row.Money(4);
-    ficha.comissao = row.Money(5);
-    ficha.lucro = row.Money(6);
-    ficha.observacao = row.Text(7);
-  });
-}
-
 void LerLancamentos(Session& session, FichaDaVenda& ficha) {
   static const Statement entries(
       "SELECT tipo, moeda, valor FROM lancamentos_de_caixa WHERE numero_da_venda = $1"
@@ -36,13 +20,13 @@ void LerLancamentos(Session& session, FichaDaVenda& ficha) {
 void LerContas(Session& session, FichaDaVenda& ficha) {
   static const Statement receivables(
       "SELECT numero_da_parcela, numero_de_parcelas, data_de_vencimento, valor_do_documento,"
-      " data_de_recebimento FROM contas_a_receber WHERE numero_da_venda = $1 ORDER BY numero");
+      " situacao FROM contas_a_receber WHERE numero_da_venda = $1 ORDER BY numero");
   session.Select(receivables, {ficha.venda.numero}, [&](const Row& row) {
     ficha.contas.push_back({.parcela = row.Number(0),
                             .parcelas = row.Number(1),
                             .vencimento = row.Moment(2),
                             .valor = row.Money(3),
-                            .emAberto = row.IsNull(4)});
+                            .situacao = row.Text(4)});
   });
 }
 
@@ -70,7 +54,7 @@ std::optional<FichaDaVenda> LerFichaDaVenda(Banco& banco, std::int32_t numero) {
   if (!venda) return std::nullopt;
   FichaDaVenda ficha;
   ficha.venda = *venda;
-  for (auto* ler : {LerCabecalho, LerLancamentos, LerContas, LerCreditos, LerPreVendas}) {
+  for (auto* ler : {LerLancamentos, LerContas, LerCreditos, LerPreVendas}) {
     ler(banco.Sessao(), ficha);
   }
   return ficha;

@@ -18,7 +18,7 @@ struct FichaDaVenda {
     std::int32_t parcela = 0, parcelas = 0;
     base::DateTime vencimento;
     base::Currency valor;
-    bool emAberto = true;
+    std::string situacao;  ///< servicos::kContaAberta and its like.
   };
   struct Credito {
     base::Currency valor;  ///< Negative for what was used.
@@ -30,9 +30,6 @@ struct FichaDaVenda {
   };
 
   VendaRegistrada venda;
-  base::Currency totalDeDescontos, totalRecebido, creditoAnterior, creditoUsado;
-  base::Currency custo, comissao, lucro;
-  std::string observacao;
   std::vector<Lancamento> lancamentos;
   std::vector<Conta> contas;
   std::vector<Credito> creditos;

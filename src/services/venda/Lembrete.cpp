@@ -30,7 +30,7 @@ std::string Linha(std::string texto) {
 std::string Escrita(const std::string& banco, const Lembranca& nota) {
   return Linha(std::string(kInicio)) + Linha(banco) + Linha(nota.sessao) +
          Linha(std::to_string(nota.operacao)) + Linha(std::to_string(nota.cupom)) +
-         Linha(nota.temNumero ? "1" : "0") + Linha(std::string(1, nota.artigo)) +
+         Linha(std::string(1, static_cast<char>(nota.tipo))) + Linha(std::string(1, nota.artigo)) +
          Linha(*Param(nota.quando).Text()) + Linha(nota.conteudo) + Linha(nota.oQue) +
          Linha(std::string(kFim));
 }
@@ -62,7 +62,8 @@ std::optional<Nota> Lida(std::string_view texto) {
     linha = texto.substr(0, fim);
     texto.remove_prefix(fim + 1);
   }
-  if (linhas.front() != kInicio || linhas.back() != kFim || linhas[6].size() != 1) {
+  if (linhas.front() != kInicio || linhas.back() != kFim || linhas[5].size() != 1 ||
+      linhas[6].size() != 1) {
     return std::nullopt;
   }
   std::int64_t operacao = 0;
@@ -73,7 +74,7 @@ std::optional<Nota> Lida(std::string_view texto) {
                 .lembranca = {.sessao = linhas[2],
                               .operacao = operacao,
                               .cupom = cupom,
-                              .temNumero = linhas[5] == "1",
+                              .tipo = TipoDeRegistro{linhas[5].front()},
                               .artigo = linhas[6].front(),
                               .quando = MomentOf(linhas[7]),
                               .conteudo = linhas[8],

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/DateTime.h"
+#include "services/venda/Provas.h"
 
 namespace services {
 
@@ -14,7 +15,7 @@ struct Lembranca {
   std::string sessao;  ///< Session::Name of the connection.
   std::int64_t operacao = 0;
   std::int32_t cupom = 0;  ///< That of the sale; 0 for none.
-  bool temNumero = false;
+  TipoDeRegistro tipo = TipoDeRegistro::kMovimento;
   char artigo = 'a';
   base::DateTime quando;
   std::string conteudo;  ///< One line; the same for the same registration alone.

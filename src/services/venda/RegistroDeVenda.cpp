@@ -22,9 +22,9 @@ namespace {
 
 void ExplainLimit(Session& session, const Venda& venda) {
   const base::Currency onCredit = venda.SujeitoAoLimite();
-  if (onCredit.IsZero()) return;
+  if (CabeNoLimite(session, venda.codigoDoCliente, onCredit)) return;
   const auto limit = LerLimiteDeCredito(session, venda.codigoDoCliente);
-  if (!limit || limit->Cobre(onCredit)) return;
+  if (!limit) return;
   throw Refusal{.sentence = "O cliente tem agora " + base::FormatMoney(limit->Disponivel()) +
                             " do limite de crédito, que não cobre os " +
                             base::FormatMoney(onCredit) +
@@ -82,7 +82,6 @@ void Explain(Session& session, const Venda& venda, const Estacao& estacao) {
 /// before that is kept.
 bool TryToWrite(Session& session, const Venda& venda, const Estacao& estacao,
                 std::int32_t& number) {
-  static const Statement proof("SELECT 1 FROM vendas WHERE numero = $1 AND operacao = $2");
   struct NotLetIn {};
   try {
     InTransaction(session, [&](Transaction& transaction) {
@@ -92,7 +91,7 @@ bool TryToWrite(Session& session, const Venda& venda, const Estacao& estacao,
       if (!written) throw NotLetIn{};
       number = *written;
       VincularCupom(session, venda, number);
-      transaction.ProvedBy(proof, {number, venda.operacao});
+      transaction.ProvedBy(ProvaDe(TipoDeRegistro::kVenda), {venda.operacao});
     });
     return true;
   } catch (const NotLetIn&) {
@@ -136,7 +135,7 @@ std::int32_t RegistrarVenda(Banco& banco, const Venda& venda) {
       venda.apelidoDoCliente.empty() ? venda.nomeDoCliente : venda.apelidoDoCliente;
   const Registro registro{
       .oQue = "venda de " + base::FormatMoney(venda.valorLiquido) + " para " + name,
-      .temNumero = true,
+      .tipo = TipoDeRegistro::kVenda,
       .quando = venda.quando,
       .operacao = venda.operacao,
       .conteudo = [&] { return ContentOf(venda); }};

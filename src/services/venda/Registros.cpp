@@ -16,15 +16,6 @@ namespace {
 
 constexpr double kSegundosParaRepetir = 15 * 60;
 
-/// What an earlier run of the program asked for, by its operation: the number of a sale, if it
-/// stands.
-const Statement& ProvaDe(bool temNumero) {
-  static const Statement sale("SELECT numero FROM vendas WHERE operacao = $1");
-  static const Statement movement(
-      "SELECT 1 FROM lancamentos_de_caixa WHERE operacao = $1 AND numero_da_venda IS NULL");
-  return temNumero ? sale : movement;
-}
-
 std::string Hora(base::DateTime quando) {
   std::array<char, 6> texto{};
   std::snprintf(texto.data(), texto.size(), "%02u:%02u", static_cast<unsigned>(quando.Hour()) % 100,
@@ -39,7 +30,7 @@ class Palavras {
 
   std::string Esta() const {
     const std::string qual =
-        registro_.temNumero ? "venda " + std::to_string(numero_) : registro_.oQue;
+        registro_.TemNumero() ? "venda " + std::to_string(numero_) : registro_.oQue;
     return Artigo() + qual + " está registrad" + registro_.artigo + '.';
   }
   std::string Ficou() const {
@@ -72,7 +63,7 @@ class Palavras {
   std::string Artigo() const { return registro_.artigo == 'a' ? "A " : "O "; }
   std::string Qual() const { return registro_.oQue + ", das " + Hora(registro_.quando) + ','; }
   std::string ComNumero() const {
-    return registro_.temNumero ? " com o número " + std::to_string(numero_) : "";
+    return registro_.TemNumero() ? " com o número " + std::to_string(numero_) : "";
   }
 
   const Registro& registro_;
@@ -110,16 +101,16 @@ void Registros::Lembrar(const std::string& pasta, std::string_view banco) {
   if (!deixada) return;
   // The same sale again finds the coupon that it had.
   banco_.CupomEmAndamento(deixada->cupom);
-  duvida_ = Duvida{.registro = {.oQue = deixada->oQue,
-                                .artigo = deixada->artigo,
-                                .temNumero = deixada->temNumero,
-                                .quando = deixada->quando,
-                                .operacao = deixada->operacao,
-                                .conteudo = nullptr},
-                   .conteudo = deixada->conteudo,
-                   .numero = 0,
-                   .doubt = {.label = deixada->sessao,
-                             .proof = {&ProvaDe(deixada->temNumero), {deixada->operacao}}}};
+  duvida_ = Duvida{
+      .registro = {.oQue = deixada->oQue,
+                   .artigo = deixada->artigo,
+                   .tipo = deixada->tipo,
+                   .quando = deixada->quando,
+                   .operacao = deixada->operacao,
+                   .conteudo = nullptr},
+      .conteudo = deixada->conteudo,
+      .numero = 0,
+      .doubt = {.label = deixada->sessao, .proof = {&ProvaDe(deixada->tipo), {deixada->operacao}}}};
 }
 
 void Registros::Anotar(const Registro& novo) {
@@ -127,8 +118,8 @@ void Registros::Anotar(const Registro& novo) {
   if (!lembrete_) return;
   lembrete_->Anotar({.sessao = banco_.Sessao().Name(),
                      .operacao = novo.operacao,
-                     .cupom = novo.temNumero ? banco_.CupomEmAndamento() : 0,
-                     .temNumero = novo.temNumero,
+                     .cupom = novo.TemNumero() ? banco_.CupomEmAndamento() : 0,
+                     .tipo = novo.tipo,
                      .artigo = novo.artigo,
                      .quando = novo.quando,
                      .conteudo = Impressao(novo.conteudo()),
@@ -141,8 +132,8 @@ void Registros::ApagarNotaVista() {
 
 Standing Registros::Procurar() {
   const Standing standing = banco_.Sessao().FindOut(duvida_->doubt);
-  if (standing == Standing::kStands && duvida_->registro.temNumero && duvida_->numero == 0) {
-    banco_.Sessao().Select(ProvaDe(duvida_->registro.temNumero), {duvida_->registro.operacao},
+  if (standing == Standing::kStands && duvida_->registro.TemNumero() && duvida_->numero == 0) {
+    banco_.Sessao().Select(ProvaDe(duvida_->registro.tipo), {duvida_->registro.operacao},
                            [&](const Row& row) { duvida_->numero = row.Number(0); });
   }
   return standing;

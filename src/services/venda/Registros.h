@@ -10,6 +10,7 @@
 #include "base/DateTime.h"
 #include "services/banco/Session.h"
 #include "services/venda/Lembrete.h"
+#include "services/venda/Provas.h"
 
 namespace services {
 
@@ -20,11 +21,13 @@ class Banco;
 struct Registro {
   std::string oQue;   ///< As in "venda de 100,00 para Dudu".
   char artigo = 'a';  ///< Of these words: 'a' or 'o'.
-  bool temNumero = false;
+  TipoDeRegistro tipo = TipoDeRegistro::kMovimento;
   base::DateTime quando;
   std::int64_t operacao = 0;  ///< Tells this attempt from every other one.
   /// ConteudoDe all that was handed over and is not drawn anew each time.
   std::function<std::string()> conteudo;
+
+  bool TemNumero() const { return tipo == TipoDeRegistro::kVenda; }
 };
 
 /// One text for so many values, the same for the same values alone.

@@ -3,78 +3,96 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "frame/servicos/Codigos.h"
+#include "services/venda/Contas.h"
+#include "services/venda/Creditos.h"
+#include "services/venda/Lancamentos.h"
 
 namespace services {
 namespace {
 
-constexpr Coluna kVenda[] = {
-    {"operacao", "bigint"},
-    {"data_e_hora", "timestamp"},
-    {"operador", "text"},
-    {"apelido_do_cliente", "text"},
-    {"nome_do_cliente", "text"},
-    {"numero_da_ficha_clinica", "integer"},
-    {"valor_bruto", "bigint"},
-    {"total_de_descontos", "bigint"},
-    {"valor_liquido", "bigint"},
-    {"total_recebido", "bigint"},
-    {"troco", "bigint"},
-    {"credito_anterior", "bigint"},
-    {"credito_usado", "bigint"},
-    {"credito_mantido", "bigint"},
-    {"custo", "bigint"},
-    {"comissao", "bigint"},
-    {"lucro_em_valor", "bigint"},
-    {"lucro_em_percentual", "bigint"},
-    {"numero_de_itens", "integer"},
-    {"situacao", "text"},
-    {"observacao", "text"},
-    {"chave_sat", "text"},
+constexpr ColunaDe<Venda> kVenda[] = {
+    {"operacao", "bigint", [](const Venda& v) -> Param { return v.operacao; }},
+    {"data_e_hora", "timestamp", [](const Venda& v) -> Param { return v.quando; }},
+    {"operador", "text", [](const Venda& v) -> Param { return v.operador; }},
+    {"apelido_do_cliente", "text", [](const Venda& v) -> Param { return v.apelidoDoCliente; }},
+    {"nome_do_cliente", "text", [](const Venda& v) -> Param { return v.nomeDoCliente; }},
+    {"numero_da_ficha_clinica", "integer",
+     [](const Venda& v) -> Param { return v.numeroDaFichaClinica; }},
+    {"valor_bruto", "bigint", [](const Venda& v) -> Param { return v.valorBruto; }},
+    {"total_de_descontos", "bigint", [](const Venda& v) -> Param { return v.totalDeDescontos; }},
+    {"valor_liquido", "bigint", [](const Venda& v) -> Param { return v.valorLiquido; }},
+    {"total_recebido", "bigint", [](const Venda& v) -> Param { return v.totalRecebido; }},
+    {"troco", "bigint", [](const Venda& v) -> Param { return v.troco; }},
+    {"credito_anterior", "bigint", [](const Venda& v) -> Param { return v.creditoAnterior; }},
+    {"credito_usado", "bigint", [](const Venda& v) -> Param { return v.creditoUsado; }},
+    {"credito_mantido", "bigint", [](const Venda& v) -> Param { return v.creditoMantido; }},
+    {"custo", "bigint", [](const Venda& v) -> Param { return v.custo; }},
+    {"comissao", "bigint", [](const Venda& v) -> Param { return v.comissao; }},
+    {"lucro_em_valor", "bigint", [](const Venda& v) -> Param { return v.lucroEmValor; }},
+    {"lucro_em_percentual", "bigint", [](const Venda& v) -> Param { return v.lucroEmPercentual; }},
+    {"numero_de_itens", "integer", [](const Venda& v) -> Param { return v.itens.size(); }},
+    {"situacao", "text", [](const Venda&) -> Param { return servicos::kEfetuada; }},
+    {"observacao", "text", [](const Venda& v) -> Param { return v.observacao; }},
+    {"chave_sat", "text", [](const Venda& v) -> Param { return v.chaveSat; }},
 };
 
-constexpr Coluna kItens[] = {
-    {"item", "integer"},
-    {"tipo_de_lancamento", "integer"},
-    {"tipo_de_venda", "integer"},
-    {"tipo_de_servico", "integer"},
-    {"codigo_de_barras", "text"},
-    {"codigo_do_item", "integer"},
-    {"nome_do_item", "text"},
-    {"codigo_do_animal", "integer"},
-    {"nome_do_animal", "text"},
-    {"codigo_do_funcionario", "integer"},
-    {"nome_do_funcionario", "text"},
-    {"quantidade", "bigint"},
-    {"valor_unitario", "bigint"},
-    {"desconto_em_percentual", "bigint"},
-    {"desconto_em_valor", "bigint"},
-    {"valor_total", "bigint"},
-    {"custo", "bigint"},
-    {"percentual_de_comissao", "bigint"},
-    {"valor_da_comissao", "bigint"},
-    {"numero_de_lancamento", "integer"},
-    {"unidade", "text"},
-    {"numero_da_venda_cancelada", "integer"},
+/// A line of a sale, and its number in it from 1.
+struct ItemNumerado {
+  std::size_t numero;
+  const Venda::Item& item;
 };
 
-/// Null where there is none.
-Param CodeOrNull(std::int32_t code) {
-  return code == 0 ? Param() : Param(code);
-}
-
-constexpr Coluna kLancamentos[] = {
-    {"operacao", "bigint"}, {"numero_do_caixa", "integer"}, {"data_e_hora", "timestamp"},
-    {"tipo", "integer"},    {"moeda", "integer"},           {"valor", "bigint"},
-    {"descricao", "text"},  {"operador", "text"},           {"situacao", "text"},
-    {"observacao", "text"},
+constexpr ColunaDe<ItemNumerado> kItens[] = {
+    {"item", "integer", [](const ItemNumerado& i) -> Param { return i.numero; }},
+    {"tipo_de_lancamento", "integer",
+     [](const ItemNumerado& i) -> Param { return i.item.tipoDeLancamento; }},
+    {"tipo_de_venda", "integer", [](const ItemNumerado& i) -> Param { return i.item.tipoDeVenda; }},
+    {"tipo_de_servico", "integer",
+     [](const ItemNumerado& i) -> Param { return NumeroOuNulo(i.item.tipoDeServico); }},
+    {"codigo_de_barras", "text",
+     [](const ItemNumerado& i) -> Param { return i.item.codigoDeBarras; }},
+    {"codigo_do_item", "integer", [](const ItemNumerado& i) -> Param { return i.item.codigo; }},
+    {"nome_do_item", "text", [](const ItemNumerado& i) -> Param { return i.item.nome; }},
+    {"codigo_do_animal", "integer",
+     [](const ItemNumerado& i) -> Param { return NumeroOuNulo(i.item.codigoDoAnimal); }},
+    {"nome_do_animal", "text", [](const ItemNumerado& i) -> Param { return i.item.nomeDoAnimal; }},
+    {"codigo_do_funcionario", "integer",
+     [](const ItemNumerado& i) -> Param { return NumeroOuNulo(i.item.codigoDoFuncionario); }},
+    {"nome_do_funcionario", "text",
+     [](const ItemNumerado& i) -> Param { return i.item.nomeDoFuncionario; }},
+    {"quantidade", "bigint", [](const ItemNumerado& i) -> Param { return i.item.quantidade; }},
+    {"valor_unitario", "bigint",
+     [](const ItemNumerado& i) -> Param { return i.item.valorUnitario; }},
+    {"desconto_em_percentual", "bigint",
+     [](const ItemNumerado& i) -> Param { return i.item.descontoEmPercentual; }},
+    {"desconto_em_valor", "bigint",
+     [](const ItemNumerado& i) -> Param { return i.item.descontoEmValor; }},
+    {"valor_total", "bigint", [](const ItemNumerado& i) -> Param { return i.item.valorTotal; }},
+    {"custo", "bigint", [](const ItemNumerado& i) -> Param { return i.item.custo; }},
+    {"percentual_de_comissao", "bigint",
+     [](const ItemNumerado& i) -> Param { return i.item.percentualDeComissao; }},
+    {"valor_da_comissao", "bigint",
+     [](const ItemNumerado& i) -> Param { return i.item.valorDaComissao; }},
+    {"numero_de_lancamento", "integer",
+     [](const ItemNumerado& i) -> Param { return i.item.numeroDeLancamento; }},
+    {"unidade", "text", [](const ItemNumerado& i) -> Param { return i.item.unidade; }},
+    {"numero_da_venda_cancelada", "integer",
+     [](const ItemNumerado& i) -> Param { return i.item.numeroDaVendaCancelada; }},
 };
 
 std::vector<Params> Lancamentos(const Venda& venda) {
   std::vector<Params> rows;
   const auto add = [&](servicos::TipoDeMovimento tipo, std::int32_t moeda, base::Currency valor,
                        const char* descricao) {
-    rows.push_back({venda.operacao, venda.numeroDoCaixa, venda.quando, std::int32_t{tipo}, moeda,
-                    valor, descricao, venda.operador, servicos::kEfetuada, venda.observacao});
+    rows.push_back(LinhaDoLancamento({.operacao = venda.operacao,
+                                      .numeroDoCaixa = venda.numeroDoCaixa,
+                                      .quando = venda.quando,
+                                      .tipo = tipo,
+                                      .moeda = moeda,
+                                      .valor = valor,
+                                      .descricao = descricao,
+                                      .operador = venda.operador,
+                                      .observacao = venda.observacao}));
   };
   for (const Venda::Recebimento& tender : venda.recebimentos) {
     add(servicos::kRecebimento, tender.moeda, tender.valor, "Venda");
@@ -84,26 +102,6 @@ std::vector<Params> Lancamentos(const Venda& venda) {
   }
   return rows;
 }
-
-constexpr Coluna kContas[] = {
-    {"codigo_do_cliente", "integer"},
-    {"apelido_do_cliente", "text"},
-    {"nome_do_cliente", "text"},
-    {"data_da_venda", "date"},
-    {"valor_da_venda", "bigint"},
-    {"recebido_a_vista", "bigint"},
-    {"percentual_recebido_a_vista", "bigint"},
-    {"numero_da_parcela", "integer"},
-    {"numero_de_parcelas", "integer"},
-    {"numero_de_parcelas_anterior", "integer"},
-    {"historico", "text"},
-    {"data_de_vencimento", "date"},
-    {"valor_do_documento", "bigint"},
-    {"incluido_em", "timestamp"},
-    {"incluido_por", "text"},
-    {"origem", "text"},
-    {"operacao", "bigint"},
-};
 
 /// The lines of a receivable's history are parted by no-break spaces.
 std::string Historico(const Venda& venda) {
@@ -127,33 +125,40 @@ std::vector<Params> Contas(const Venda& venda) {
   for (const Venda::Recebimento& each : venda.recebimentos) parcelas += each.vencimento ? 1 : 0;
   for (const Venda::Recebimento& tender : venda.recebimentos) {
     if (!tender.vencimento) continue;
-    rows.push_back({venda.codigoDoCliente, venda.apelidoDoCliente, venda.nomeDoCliente,
-                    Param::Date(venda.quando), venda.valorLiquido, aVista, percentual,
-                    rows.size() + 1, parcelas, parcelas, Historico(venda),
-                    Param::Date(*tender.vencimento), tender.valor, venda.quando, venda.operador,
-                    servicos::kDeVenda, venda.operacao});
+    rows.push_back(LinhaDaConta({.codigoDoCliente = venda.codigoDoCliente,
+                                 .apelidoDoCliente = venda.apelidoDoCliente,
+                                 .nomeDoCliente = venda.nomeDoCliente,
+                                 .dataDaVenda = venda.quando,
+                                 .valorDaVenda = venda.valorLiquido,
+                                 .recebidoAVista = aVista,
+                                 .percentualRecebidoAVista = percentual,
+                                 .parcela = static_cast<std::int32_t>(rows.size()) + 1,
+                                 .parcelas = parcelas,
+                                 .parcelasAnteriores = parcelas,
+                                 .historico = Historico(venda),
+                                 .vencimento = *tender.vencimento,
+                                 .valor = tender.valor,
+                                 .incluidaEm = venda.quando,
+                                 .incluidaPor = venda.operador,
+                                 .origem = servicos::kDeVenda,
+                                 .operacao = venda.operacao}));
   }
   return rows;
 }
-
-constexpr Coluna kCreditos[] = {
-    {"codigo_do_cliente", "integer"},
-    {"data_e_hora", "timestamp"},
-    {"moeda", "integer"},
-    {"valor", "bigint"},
-    {"operador", "text"},
-    {"observacao", "text"},
-    {"tipo", "integer"},
-    {"operacao", "bigint"},
-};
 
 std::vector<Params> Creditos(const Venda& venda) {
   std::vector<Params> rows;
   const auto add = [&](servicos::TipoDeCredito tipo, std::int32_t moeda, base::Currency valor,
                        const std::string& what) {
     if (valor.IsZero()) return;
-    rows.push_back({venda.codigoDoCliente, venda.quando, moeda, valor, venda.operador, what,
-                    std::int32_t{tipo}, venda.operacao});
+    rows.push_back(LinhaDoCredito({.codigoDoCliente = venda.codigoDoCliente,
+                                   .quando = venda.quando,
+                                   .tipo = tipo,
+                                   .moeda = moeda,
+                                   .valor = valor,
+                                   .operador = venda.operador,
+                                   .observacao = what,
+                                   .operacao = venda.operacao}));
   };
   add(servicos::kCreditoUsado, pagamento::kCreditoDoCliente, -venda.creditoUsado,
       "Crédito usado em venda");
@@ -162,54 +167,34 @@ std::vector<Params> Creditos(const Venda& venda) {
   return rows;
 }
 
-constexpr TabelaDaVenda kTabelas[] = {
-    {"itens_de_venda", kItens, ItensDaVenda},
-    {"lancamentos_de_caixa", kLancamentos, Lancamentos},
-    {"contas_a_receber", kContas, Contas},
-    {"creditos_do_cliente", kCreditos, Creditos},
-};
-
 }  // namespace
 
-std::span<const Coluna> ColunasDaVenda() {
-  return kVenda;
+const std::vector<Coluna>& ColunasDaVenda() {
+  static const auto colunas = NomesETipos(kVenda);
+  return colunas;
 }
 
 Params LinhaDaVenda(const Venda& venda) {
-  return ParamsOf(venda.operacao, venda.quando, venda.operador, venda.apelidoDoCliente,
-                  venda.nomeDoCliente, venda.numeroDaFichaClinica, venda.valorBruto,
-                  venda.totalDeDescontos, venda.valorLiquido, venda.totalRecebido, venda.troco,
-                  venda.creditoAnterior, venda.creditoUsado, venda.creditoMantido, venda.custo,
-                  venda.comissao, venda.lucroEmValor, venda.lucroEmPercentual, venda.itens.size(),
-                  servicos::kEfetuada, venda.observacao, venda.chaveSat);
+  return Valores(kVenda, venda);
 }
 
 std::vector<Params> ItensDaVenda(const Venda& venda) {
   std::vector<Params> rows;
   rows.reserve(venda.itens.size());
   for (const Venda::Item& item : venda.itens) {
-    rows.push_back(ParamsOf(
-        rows.size() + 1, item.tipoDeLancamento, item.tipoDeVenda, CodeOrNull(item.tipoDeServico),
-        item.codigoDeBarras, item.codigo, item.nome, CodeOrNull(item.codigoDoAnimal),
-        item.nomeDoAnimal, CodeOrNull(item.codigoDoFuncionario), item.nomeDoFuncionario,
-        item.quantidade, item.valorUnitario, item.descontoEmPercentual, item.descontoEmValor,
-        item.valorTotal, item.custo, item.percentualDeComissao, item.valorDaComissao,
-        item.numeroDeLancamento, item.unidade, item.numeroDaVendaCancelada));
+    rows.push_back(Valores(kItens, {.numero = rows.size() + 1, .item = item}));
   }
   return rows;
 }
 
-std::span<const TabelaDaVenda> TabelasDaVenda() {
-  return kTabelas;
-}
-
-std::string Nomes(std::span<const Coluna> colunas) {
-  std::string nomes;
-  for (const Coluna& coluna : colunas) {
-    if (!nomes.empty()) nomes += ", ";
-    nomes += coluna.nome;
-  }
-  return nomes;
+const std::vector<TabelaDaVenda>& TabelasDaVenda() {
+  static const std::vector<TabelaDaVenda> tabelas{
+      {"itens_de_venda", NomesETipos(kItens), ItensDaVenda},
+      {"lancamentos_de_caixa", ColunasDoLancamento(), Lancamentos},
+      {"contas_a_receber", ColunasDaConta(), Contas},
+      {"creditos_do_cliente", ColunasDoCredito(), Creditos},
+  };
+  return tabelas;
 }
 
 }  // namespace services

@@ -5,6 +5,7 @@
 #include "services/banco/DatabaseError.h"
 #include "services/banco/Search.h"
 #include "services/venda/EscritaDeVenda.h"
+#include "services/venda/LimiteDeCredito.h"
 #include "services/venda/TabelasDaVenda.h"
 
 namespace services {
@@ -27,11 +28,7 @@ constexpr std::string_view kMoney =
     " WHERE numero = CAST($1 AS integer) AND ativo = 1 AND aberto = 1"
     " AND NOT EXISTS (SELECT 1 FROM travas_de_clientes"
     " WHERE codigo_do_cliente = CAST($3 AS integer) AND {held})"
-    " AND (CAST($6 AS bigint) = 0 OR NOT EXISTS (SELECT 1 FROM clientes c"
-    " WHERE c.codigo = CAST($3 AS integer) AND c.limite_de_credito > 0"
-    " AND c.limite_de_credito - (SELECT coalesce(sum(r.valor_do_documento), 0)"
-    " FROM contas_a_receber r WHERE r.codigo_do_cliente = c.codigo"
-    " AND r.data_de_recebimento IS NULL) < CAST($6 AS bigint))) RETURNING numero),";
+    " AND {within} RETURNING numero),";
 constexpr int kFirstPlaces = 6;
 constexpr std::string_view kCredit =
     " cliente AS (UPDATE clientes SET credito = credito - CAST({1} AS bigint) + CAST({2} AS bigint)"
@@ -89,6 +86,7 @@ constexpr std::size_t kPreSalesBit = kMostTables + 1;
 std::string SaleText(Used used) {
   int next = kFirstPlaces + 1;
   std::string text = base::Replace(kMoney, "{held}", DeOutraEstacao(4, 5));
+  text = base::Replace(text, "{within}", DentroDoLimite("$3", "$6"));
   text += used[kCreditBit] ? Placed(Placed(kCredit, "{1}", next), "{2}", next) : kNoCredit;
   text += used[kPreSalesBit] ? Placed(kPreSales, "{1}", next) : kNoPreSales;
   std::string sale = Placed(base::Replace(kSale, "{names}", Nomes(ColunasDaVenda())), "{1}", next);

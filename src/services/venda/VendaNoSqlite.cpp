@@ -27,10 +27,7 @@ std::string InsertText(std::string_view table, const std::string& guarded,
 /// The file is this transaction's alone: what is found stays so until it ends.
 bool MayBuy(Session& session, const Venda& venda, const Estacao& estacao) {
   if (!OutroDetentor(session, venda.codigoDoCliente, estacao).empty()) return false;
-  const base::Currency onCredit = venda.SujeitoAoLimite();
-  if (onCredit.IsZero()) return true;
-  const auto limit = LerLimiteDeCredito(session, venda.codigoDoCliente);
-  return limit && limit->Cobre(onCredit);
+  return CabeNoLimite(session, venda.codigoDoCliente, venda.SujeitoAoLimite());
 }
 
 bool TakeMoney(Session& session, const Venda& venda) {

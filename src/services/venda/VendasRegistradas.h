@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,10 +9,13 @@
 
 #include "base/Currency.h"
 #include "base/DateTime.h"
+#include "services/banco/Param.h"
 
 namespace services {
 
 class Banco;
+class Session;
+class Statement;
 
 // What the lines of a sale were given off, and what the sale was given off as a whole, as columns
 // of a selection of vendas. The checkout hands over the two in one figure, the lines' part with its
@@ -41,9 +45,12 @@ struct VendaRegistrada {
   std::string operador;
   std::int32_t codigoDoCliente = 0;
   std::string nomeDoCliente;
-  base::Currency bruto, descontoNosItens, descontoDaVenda, liquido;
-  base::Currency troco, creditoParaOCliente;
-  std::string chaveSat;
+  base::Currency bruto, descontoNosItens, descontoDaVenda, totalDeDescontos, liquido;
+  base::Currency totalRecebido, troco;
+  base::Currency creditoAnterior, creditoUsado, creditoParaOCliente;
+  base::Currency custo, comissao, lucro;
+  std::string situacao;  ///< servicos::kEfetuada or kCancelada.
+  std::string observacao, chaveSat;
   std::vector<Item> itens;
   std::vector<Recebimento> recebimentos;
 };
@@ -52,6 +59,14 @@ struct VendaRegistrada {
 std::vector<VendaRegistrada> UltimasVendas(Banco& banco, std::int32_t quantas);
 /// Nothing when there is no such sale. Throws DatabaseError.
 std::optional<VendaRegistrada> LerVenda(Banco& banco, std::int32_t numero);
+
+/// The tenders of the sales whose numbers `quais` selects, as in "SELECT numero FROM vendas"; what
+/// is pasted into the statement's text is the program's own, and its places begin at $1.
+std::string SelecaoDosRecebimentos(const std::string& quais);
+/// By the sale's number, each sale's in the order in which they were entered; without due dates.
+/// Throws DatabaseError.
+std::map<std::int32_t, std::vector<VendaRegistrada::Recebimento>> LerRecebimentosDasVendas(
+    Session& session, const Statement& selecao, const Params& params);
 
 /// Looks for damage of the database, goes through the books of all sales, registers and customers'
 /// credits, and gives a Portuguese sentence for everything that does not balance; empty when all

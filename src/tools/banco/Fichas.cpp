@@ -16,6 +16,7 @@ std::string Dia(base::DateTime quando) {
 }
 
 const char* NomeDoLancamento(servicos::TipoDeMovimento tipo) {
+  if (tipo == servicos::kEstorno) return "Estorno";
   return tipo == servicos::kTroco ? "Troco" : "Recebimento";
 }
 
@@ -33,7 +34,7 @@ void MostrarItens(std::ostream& saida, const services::VendaRegistrada& venda) {
 /// The two discounts apart where the sale bore one of its own: the figure above them is what the
 /// checkout hands over, and does not lead from gross to net.
 void MostrarDescontos(std::ostream& saida, const services::FichaDaVenda& ficha) {
-  saida << "Descontos: " << FormatMoney(ficha.totalDeDescontos) << '\n';
+  saida << "Descontos: " << FormatMoney(ficha.venda.totalDeDescontos) << '\n';
   if (ficha.venda.descontoDaVenda.IsZero()) return;
   saida << "Desconto nos itens: " << FormatMoney(ficha.venda.descontoNosItens) << '\n'
         << "Desconto da venda: " << FormatMoney(ficha.venda.descontoDaVenda) << '\n';
@@ -46,14 +47,14 @@ void MostrarSomas(std::ostream& saida, const services::FichaDaVenda& ficha) {
     const char* nome;
     base::Currency valor;
   } somas[] = {{"Valor líquido", ficha.venda.liquido},
-               {"Recebido", ficha.totalRecebido},
+               {"Recebido", ficha.venda.totalRecebido},
                {"Troco", ficha.venda.troco},
-               {"Crédito que restava", ficha.creditoAnterior},
-               {"Crédito usado", ficha.creditoUsado},
+               {"Crédito que restava", ficha.venda.creditoAnterior},
+               {"Crédito usado", ficha.venda.creditoUsado},
                {"Crédito deixado", ficha.venda.creditoParaOCliente},
-               {"Custo", ficha.custo},
-               {"Comissão", ficha.comissao},
-               {"Lucro", ficha.lucro}};
+               {"Custo", ficha.venda.custo},
+               {"Comissão", ficha.venda.comissao},
+               {"Lucro", ficha.venda.lucro}};
   for (const auto& soma : somas) saida << soma.nome << ": " << FormatMoney(soma.valor) << '\n';
 }
 
@@ -65,8 +66,8 @@ void MostrarMovimentos(std::ostream& saida, const services::FichaDaVenda& ficha)
   }
   for (const auto& conta : ficha.contas) {
     saida << "A receber: parcela " << conta.parcela << " de " << conta.parcelas << ", vence em "
-          << Dia(conta.vencimento) << ", " << FormatMoney(conta.valor)
-          << (conta.emAberto ? ", em aberto" : ", recebida") << '\n';
+          << Dia(conta.vencimento) << ", " << FormatMoney(conta.valor) << ", "
+          << (conta.situacao == servicos::kContaAberta ? "em aberto" : conta.situacao) << '\n';
   }
   for (const auto& credito : ficha.creditos) {
     saida << credito.observacao << ": " << FormatMoney(credito.valor) << '\n';
@@ -85,11 +86,12 @@ void Mostrar(std::ostream& saida, const services::FichaDaVenda& ficha) {
         << "Caixa: " << venda.caixa << '\n'
         << "Operador: " << venda.operador << '\n'
         << "Cliente: " << venda.codigoDoCliente << " - " << venda.nomeDoCliente << '\n';
+  if (venda.situacao == servicos::kCancelada) saida << "Situação: cancelada\n";
   MostrarItens(saida, venda);
   MostrarSomas(saida, ficha);
   MostrarMovimentos(saida, ficha);
   saida << "Chave do CF-e: " << (venda.chaveSat.empty() ? "nenhuma" : venda.chaveSat) << '\n'
-        << "Observação: " << base::Replace(ficha.observacao, "\n", " / ") << '\n';
+        << "Observação: " << base::Replace(ficha.venda.observacao, "\n", " / ") << '\n';
 }
 
 void Mostrar(std::ostream& saida, std::int32_t codigo, const services::FichaDoCliente& ficha) {

@@ -1,6 +1,9 @@
 #include <cmath>
 
+#include "frame/servicos/ZOVA_N_Administrativo.clsAdministrativo.h"
+#include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "services/Database.h"
+#include "services/banco/DatabaseError.h"
 
 namespace services {
 namespace {
@@ -119,6 +122,47 @@ TEST_P(MovementTest, ValuesThatCannotBeAreRefused) {
   tender->MOEDA(0);
   EXPECT_EQ(servicos::kRecusa, tender->RegistrarEntrada());
   EXPECT_EQ(0, Count("lancamentos_de_caixa"));
+}
+
+/// Whatever is written besides sales.
+TEST_P(MovementTest, ACommitThatFailsIsToldAndLeavesNothing) {
+  const SessionRecord renata("renata");
+  const auto lock = [&] {
+    const auto service =
+        servicos::CriarServico<servicos::ZOVA_N_Administrativo::clsAdministrativo>();
+    service->NomeDoComputador("LOJA");
+    service->DadosDoUsuario(&renata);
+    double customer = 5;
+    return service->BloquearCliente(1, customer, 2);
+  };
+  const auto signIn = [] {
+    const auto service = servicos::CriarServico<servicos::ZOVA_N_Login::clsLogin>();
+    service->NomeDeUsuario("renata");
+    service->SenhaDoUsuario("errada");
+    return service->Autenticar();
+  };
+  const struct {
+    const char* table;
+    std::function<std::int16_t()> act;
+    std::int16_t otherwise;
+  } cases[] = {
+      {"lancamentos_de_caixa", [&] { return New(1, "10,00")->RegistrarEntrada(); }, 0},
+      {"travas_de_clientes", lock, 0},
+      {"tentativas_de_login", signIn, servicos::kRecusa},
+  };
+  for (const auto& each : cases) {
+    session().Observe([&](std::string_view step) {
+      if (step != "before commit") return;
+      session().Rollback();
+      throw DatabaseError(Trouble::kFull, "");
+    });
+    EXPECT_EQ(servicos::kErro, each.act()) << each.table;
+    session().Observe({});
+    EXPECT_EQ(0, Count(each.table));
+    EXPECT_EQ(each.otherwise, each.act()) << each.table;
+    EXPECT_EQ(1, Count(each.table));
+    ExpectBooksBalance();
+  }
 }
 
 TEST_P(MovementTest, AmountsAtTheLimits) {

@@ -72,13 +72,6 @@ TEST_P(SaleTest, BothFormsOfTheDiscountsReadTheSame) {
   EXPECT_EQ("Tati", Read("SELECT nome_do_funcionario FROM itens_de_venda WHERE item = 1"));
 }
 
-TEST_P(SaleTest, ChangeBelowOneRealArrivesAsZeroAndStillBalances) {
-  Register({.tenders = Grid({Tender("1-Dinheiro", "100,50")})});
-  EXPECT_EQ(std::to_string(Brl("0,50").TenThousandths()), OfSale("troco"));
-  EXPECT_EQ(std::to_string((100_brl).TenThousandths()),
-            Read("SELECT dinheiro FROM caixas WHERE numero = 1"));
-}
-
 TEST_P(SaleTest, CreditIsTakenFromWhatTheDatabaseHolds) {
   Register({.tenders = Grid({Tender("7-Crédito do cliente", "40,00"), Tender("8-PIX", "60,00")})});
   EXPECT_EQ(std::to_string((10_brl).TenThousandths()),

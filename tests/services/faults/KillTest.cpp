@@ -1,5 +1,4 @@
 #include <csignal>
-#include <thread>
 
 #include "services/Database.h"
 #include "services/venda/VendasRegistradas.h"
@@ -144,23 +143,6 @@ TEST_P(KillTest, AtEveryStepOfAnOpening) {
               "UPDATE caixas SET aberto = 0, dinheiro = 0 WHERE numero = 2");
         }
       });
-}
-
-TEST_P(KillTest, AtAnyMomentOfManySales) {
-  constexpr int kRounds = 40;
-  for (int round = 0; round < kRounds; ++round) {
-    const pid_t process = Start("LOJA", [] {
-      for (;;) {
-        const NewSale sale(EverySide(false));
-        if (sale->RegistrarPagamento() != 0) return 3;
-      }
-    });
-    std::this_thread::sleep_for(std::chrono::microseconds(15'000 + round * 1'237));
-    kill(process, SIGKILL);
-    ASSERT_EQ(-1, EndOf(process)) << "a sale was refused";
-    ExpectBooksBalance();
-  }
-  EXPECT_GT(Count("vendas"), kRounds / 4) << "the kills came too early to prove anything";
 }
 
 }  // namespace

@@ -57,29 +57,7 @@ class ServerTest : public OverDatabase {
   }
 
   static std::int32_t Number(Trouble trouble) { return static_cast<std::int32_t>(trouble); }
-  /// Writes a row with this number in a transaction; the doubt, when it could not be told whether
-  /// it stands. Otherwise `told_` is what was told.
-  std::optional<Doubt> Mark(int number) {
-    static const Statement insert("INSERT INTO marcas (n) VALUES ($1)");
-    static const Statement proof("SELECT 1 FROM marcas WHERE n = $1");
-    told_ = Standing::kStands;
-    try {
-      InTransaction(session(), [&](Transaction& transaction) {
-        session().Run(insert, {number});
-        transaction.ProvedBy(proof, {number});
-      });
-    } catch (const InDoubt& error) {
-      return error.Which();
-    } catch (const DatabaseError& error) {
-      EXPECT_EQ(Trouble::kConnectionLost, error.What()) << error.what();
-      told_ = Standing::kDoesNotStand;
-    }
-    return std::nullopt;
-  }
-
-  static constexpr Limits kShort{.writing = std::chrono::milliseconds(800)};
   static support::PrivatePostgres* server_;
-  Standing told_ = Standing::kUnknown;
   std::int32_t lastError_ = 0;
   std::int32_t lastNumber_ = 0;
   std::string lastWords_;
@@ -153,67 +131,6 @@ TEST_P(ServerTest, ACommitThatTheServerIsStillAtIsEndedBeforeItIsSaidToHaveFaile
   EXPECT_EQ(static_cast<std::int32_t>(Trouble::kConnectionLost), lastError_) << lastWords_;
   EXPECT_EQ(0, Count("pg_stat_activity WHERE wait_event = 'PgSleep'"));
   EXPECT_EQ(0, Count("vendas"));
-}
-
-TEST_P(ServerTest, WhatIsInDoubtIsFoundOutOnceTheServerIsBack) {
-  Write("CREATE TABLE marcas (n integer)");
-  for (const auto moment : {CuttingProxy::Moment::kCommitArrives, CuttingProxy::Moment::kCommitting,
-                            CuttingProxy::Moment::kCommitted}) {
-    CuttingProxy proxy(server_->Port(), moment, CuttingProxy::Deed::kGone);
-    OpenThrough(proxy, "LOJA");
-    session().KeepTo({.writing = kShort.writing, .findingOut = kShort.writing});
-    const auto doubt = Mark(1);
-    ASSERT_TRUE(doubt) << "nobody could know";
-    EXPECT_EQ(Standing::kUnknown, session().FindOut(*doubt));
-    EXPECT_FALSE(session().IsConnected());
-    int news = 0;
-    session().OnReconnected([&] { news += static_cast<int>(Count("marcas WHERE n >= 0") >= 0); });
-    proxy.LetIn();
-    EXPECT_TRUE(session().TryToReconnect());
-    EXPECT_EQ(1, news);
-    const bool stands = session().FindOut(*doubt) == Standing::kStands;
-    EXPECT_EQ(stands ? 1 : 0, Count("marcas"));
-    EXPECT_EQ(moment == CuttingProxy::Moment::kCommitArrives, !stands);
-    Write("DELETE FROM marcas");
-  }
-}
-
-TEST_P(ServerTest, ACommitThatArrivesLateFindsNobody) {
-  Write("CREATE TABLE marcas (n integer)");
-  CuttingProxy proxy(server_->Port(), CuttingProxy::Moment::kCommitArrives,
-                     CuttingProxy::Deed::kMute);
-  OpenThrough(proxy, "LOJA");
-  session().KeepTo(kShort);
-  const auto doubt = Mark(1);
-  EXPECT_EQ(Standing::kDoesNotStand, doubt ? session().FindOut(*doubt) : told_);
-  proxy.LetIn();
-  std::this_thread::sleep_for(std::chrono::milliseconds(200));
-  EXPECT_EQ(0, Count("marcas"));
-}
-
-TEST_P(ServerTest, WhatIsToldOfAWriteCutAnywhereIsWhatStands) {
-  using Moment = CuttingProxy::Moment;
-  constexpr int kPlaces = 6;
-  Write("CREATE TABLE marcas (n integer)");
-  int n = 0;
-  for (const auto moment : {Moment::kClientBytes, Moment::kServerBytes}) {
-    for (const auto deed : {CuttingProxy::Deed::kCut, CuttingProxy::Deed::kMute}) {
-      std::int64_t whole = 0;
-      for (int place = 0; place <= kPlaces; ++place) {
-        CuttingProxy proxy(server_->Port(), moment, deed);
-        OpenThrough(proxy, "LOJA");
-        if (place != 0) session().KeepTo(kShort);
-        proxy.Arm(place == 0 ? INT64_MAX : 1 + (whole - 2) * (place - 1) / (kPlaces - 1));
-        const auto doubt = Mark(++n);
-        if (place == 0) whole = proxy.Bytes();
-        EXPECT_EQ(place != 0, proxy.HasStruck());
-        const auto standing = doubt ? session().FindOut(*doubt) : told_;
-        const auto row = "marcas WHERE n = " + std::to_string(n);
-        EXPECT_EQ(standing == Standing::kStands ? 1 : 0, Count(row)) << place;
-        EXPECT_NE(Standing::kUnknown, standing) << place;
-      }
-    }
-  }
 }
 
 TEST_P(ServerTest, AReadingThatGetsNoAnswerIsGivenUpWhileTheScreensLive) {

@@ -1,4 +1,4 @@
-#include "services/venda/LeituraDeVenda.h"
+#include "services/venda/VendaDasGrades.h"
 
 #include <limits>
 #include <set>
