@@ -101,7 +101,6 @@ double SecondsToBuild(support::Module& module, const Sale& sale) {
   form.MontarExibirFormulario();
   // What the desktop was asked for meanwhile is nobody's here.
   module.desktop.TakeJournal();
-  module.TakeCalls();
   return std::chrono::duration<double>(Export::at - answered).count();
 }
 

@@ -137,7 +137,6 @@ TEST_F(MoneyTest, AChangeOfATenderIsARemovalAndANewEntry) {
     EXPECT_EQ(Tenders(form),
               "7-Crédito do cliente 40,00 __/__/____, 6-A crédito (Fiado) 60,00 22/11/2026");
   });
-  module.TakeCalls();
 }
 
 }  // namespace

@@ -82,10 +82,10 @@ class Player {
     int number = 0;
     for (std::string line; std::getline(in, line);) {
       here_ = file + ":" + std::to_string(++number) + ": ";
-      if (line.empty() || line.starts_with('#')) continue;
       Replace(line, "${BANCO}", bank_);
       Replace(line, "${DIR}", folder_.Path().string());
       for (const auto& [name, word] : words_) Replace(line, "${" + name + "}", word);
+      if (line.empty() || line.starts_with('#')) continue;
       Follow(line, std::filesystem::path(file).parent_path());
     }
   }
