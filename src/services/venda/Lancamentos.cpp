@@ -73,11 +73,9 @@ void Lancar(Session& session, Transaction& transaction, const std::vector<Lancam
     row.push_back(NumeroOuNulo(each.estorna));
     row.emplace_back(each.consentidoPor);
     session.Run(enter, row);
-    if (each.numeroDaVenda != 0) continue;
-    const bool isSettlement = each.tipo == servicos::kAcerto;
-    transaction.ProvedBy(
-        ProvaDe(isSettlement ? TipoDeRegistro::kAcerto : TipoDeRegistro::kMovimento),
-        {each.operacao});
+    if (each.numeroDaVenda == 0 && each.tipo != servicos::kAcerto) {
+      transaction.ProvedBy(ProvaDe(TipoDeRegistro::kMovimento), {each.operacao});
+    }
   }
 }
 

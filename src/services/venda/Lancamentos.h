@@ -39,9 +39,10 @@ struct Passagem {
 };
 
 /// Writes the entries of one register in the open transaction, and moves the cash among them in
-/// the drawer at once. Entries that belong to no sale prove the transaction. Throws Refusal: 41,
-/// 43, 51 or 52 for the register's state, 2 when more cash would leave the drawer than is in it.
-/// Throws DatabaseError: kConstraint when an entry was taken back before.
+/// the drawer at once. They prove the transaction, but for a sale's and a settlement's, which what
+/// goes with them proves. Throws Refusal: 41, 43, 51 or 52 for the register's state, 2 when more
+/// cash would leave the drawer than is in it. Throws DatabaseError: kConstraint when an entry was
+/// taken back before.
 void Lancar(Session& session, Transaction& transaction, const std::vector<Lancamento>& lancamentos,
             const Passagem& passagem = {});
 

@@ -8,6 +8,8 @@
 #include "services/Database.h"
 #include "services/banco/DatabaseError.h"
 #include "services/faults/CuttingProxy.h"
+#include "services/venda/Contas.h"
+#include "services/venda/Lancamentos.h"
 #include "support/TemporaryFolder.h"
 
 namespace services {
@@ -236,6 +238,30 @@ TEST_P(CutDoubtTest, ACommitWithoutAnAnswerIsFoundOutOnceTheServerIsBack) {
           << news;
       ExpectBooksBalance();
     }
+  }
+}
+
+TEST_P(CutDoubtTest, WhatClosesADebtOrPaysCreditInIsFoundByItsProof) {
+  ASSERT_EQ(0, Sell({.tenders = Grid({Tender("6-Fiado", "100,00", "28/02/2027")})}).status);
+  for (const bool closes : {true, false}) {
+    const CuttingProxy proxy(Port(), Moment::kCommitted, Deed::kCut);
+    OpenThrough(proxy);
+    EXPECT_NO_THROW(InTransaction(session(), [&](Transaction& transaction) {
+      if (closes) {
+        BaixarContas(session(), transaction,
+                     {{.numero = 1, .valor = 100_brl, .quando = clock_.now, .operacao = 91}});
+      } else {
+        Lancar(session(), transaction,
+               {{.operacao = 92,
+                 .numeroDoCaixa = 1,
+                 .quando = clock_.now,
+                 .tipo = servicos::kCreditoAdicionado,
+                 .valor = 5_brl}});
+      }
+    }));
+    EXPECT_TRUE(proxy.HasStruck());
+    EXPECT_EQ(1, Count(closes ? "contas_a_receber WHERE situacao = 'recebida'"
+                              : "lancamentos_de_caixa WHERE operacao = 92"));
   }
 }
 
