@@ -69,6 +69,7 @@ TEST_P(CommandTest, ListsAndFreesLocks) {
             OnDatabase("travas"));
   EXPECT_EQ("0 O cliente 5 foi liberado.\n", OnDatabase("liberar 5"));
   EXPECT_EQ("1 O cliente 5 não está em atendimento.\n", OnDatabase("liberar 5"));
+  EXPECT_EQ("1 Não há venda de número 99.\n", OnDatabase("venda 99"));
 }
 
 TEST_P(CommandTest, ListsAndClosesCoupons) {
