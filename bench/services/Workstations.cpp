@@ -10,7 +10,7 @@
 #include "services/RawSale.h"
 #include "services/banco/Preenchimento.h"
 #include "services/banco/Session.h"
-#include "services/venda/VendasRegistradas.h"
+#include "services/venda/Conferencia.h"
 #include "support/Bench.h"
 #include "support/Crowd.h"
 

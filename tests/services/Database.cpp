@@ -9,7 +9,7 @@
 
 #include "base/Numbers.h"
 #include "services/Abertura.h"
-#include "services/venda/VendasRegistradas.h"
+#include "services/venda/Conferencia.h"
 #include "support/PrivatePostgres.h"
 
 namespace services {

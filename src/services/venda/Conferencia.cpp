@@ -1,3 +1,5 @@
+#include "services/venda/Conferencia.h"
+
 #include <deque>
 
 #include "base/Numbers.h"
@@ -8,7 +10,6 @@
 #include "services/banco/Session.h"
 #include "services/banco/SqliteSession.h"
 #include "services/venda/CodigosNoSql.h"
-#include "services/venda/VendasRegistradas.h"
 
 namespace services {
 namespace {

@@ -12,6 +12,7 @@
 #include "services/Abertura.h"
 #include "services/Banco.h"
 #include "services/banco/Search.h"
+#include "services/venda/Conferencia.h"
 #include "services/venda/Cupons.h"
 #include "tools/banco/Relatorios.h"
 

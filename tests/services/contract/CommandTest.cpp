@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "services/Database.h"
-#include "services/venda/VendasRegistradas.h"
+#include "services/venda/Conferencia.h"
 
 namespace services {
 namespace {

@@ -9,7 +9,7 @@
 #include "services/banco/PostgresSession.h"
 #include "services/banco/Schema.h"
 #include "services/banco/SqliteSession.h"
-#include "services/venda/VendasRegistradas.h"
+#include "services/venda/Conferencia.h"
 
 namespace services {
 namespace {

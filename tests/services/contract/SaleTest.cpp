@@ -1,5 +1,6 @@
 #include "base/Text.h"
 #include "services/Database.h"
+#include "services/venda/Conferencia.h"
 #include "services/venda/VendasRegistradas.h"
 
 namespace services {
