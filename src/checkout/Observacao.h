@@ -7,7 +7,7 @@
 
 namespace checkout {
 
-/// The note that a sale is registered with: the customer, his document where it is known, and the
+/// The note that a sale is registered with: the customer, their document where it is known, and the
 /// animals named on the lines of the sale.
 ///
 ///     Cliente: 12-Ana Maria Souza (111.444.777-35)

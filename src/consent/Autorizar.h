@@ -15,7 +15,7 @@ enum class Chamador {
 };
 
 /// Asks a supervisor to consent to one act, over the host that the caller has darkened. True when
-/// he consents. The calling screen is back in its place when this returns.
+/// they consent. The calling screen is back in its place when this returns.
 bool Autorizar(const Autorizacao& autorizacao);
 bool Autorizar(const Autorizacao& autorizacao, platform::Form& formulario, Chamador chamador);
 

@@ -24,8 +24,8 @@ class clsCaixa {
 
   /// The customer that this workstation holds locked, 0 if none.
   std::int32_t CodigoDoClienteComOperacoesBloqueadas() const;
-  /// Locks a customer for this workstation (action 1) or frees him (any other): how a host releases
-  /// the lock when the counter goes away with a customer on it.
+  /// Locks a customer for this workstation (action 1) or frees them (any other): how a host
+  /// releases the lock when the counter goes away with a customer on it.
   void ClasseBloquearOuDesbloquearClienteParaOperacoesNosCaixas(std::int32_t codigo,
                                                                 std::int16_t acao);
 };

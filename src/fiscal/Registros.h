@@ -15,7 +15,7 @@ namespace fiscal {
 enum Identificacao : std::int16_t {
   kNaoIdentificado = 1,
   kDocumentoInformado = 2,  ///< By the CPF or CNPJ told at the register.
-  kClienteCadastrado = 3,   ///< By his code in the clinic's records.
+  kClienteCadastrado = 3,   ///< By their code in the clinic's records.
 };
 
 struct Cabecalho {

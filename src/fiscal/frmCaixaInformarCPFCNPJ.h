@@ -40,8 +40,8 @@ class frmCaixaInformarCPFCNPJ : public platform::Form {
   platform::ZVCommandButton zvcmdNaoEnviar{picRodape, "zvcmdNaoEnviar"};
   platform::ZVCommandButton zvcmdEnviar{picRodape, "zvcmdEnviar"};
 
-  /// Shows the dialog until the operator is done: 0, or 99 when he closed it. The answer stands in
-  /// TipoDeEnvio either way.
+  /// Shows the dialog until the operator is done: 0, or 99 when they closed it. The answer stands
+  /// in TipoDeEnvio either way.
   std::int16_t MontarExibirFormulario();
 
  private:

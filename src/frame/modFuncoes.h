@@ -7,13 +7,13 @@
 namespace frame {
 
 /// Whether another computer holds the customer: 1, the operator has been told; otherwise 0, also
-/// when this very computer holds him or the question failed.
+/// when this very computer holds them or the question failed.
 std::int16_t VerificarBloqueioDoClienteParaOperacoesNosCaixas(double codigo);
 
 /// The two actions of BloquearOuDesbloquearClienteParaOperacoesNosCaixas.
 enum : std::int16_t { kBloquear = 1, kDesbloquear = 2 };
 
-/// Locks a customer for this computer (action 1) or frees him (any other). What the database makes
+/// Locks a customer for this computer (action 1) or frees them (any other). What the database makes
 /// of it is not acted upon: the lock is advisory. A run-time error is the caller's to report.
 void BloquearOuDesbloquearClienteParaOperacoesNosCaixas(double codigo, std::int16_t acao);
 

@@ -8,7 +8,7 @@
 namespace frame {
 
 /// The one reporter of errors. It first frees the customer that this workstation holds, so that
-/// other workstations can serve him, then shows the error viewer. It has no handler of its own.
+/// other workstations can serve them, then shows the error viewer. It has no handler of its own.
 void ExibirMensagemDeErro(std::int32_t numero, std::string_view descricao, std::string_view local);
 
 /// The error viewer alone, nobody freed: for a service that tells its fault itself while the screen

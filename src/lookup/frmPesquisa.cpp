@@ -201,7 +201,7 @@ bool frmPesquisa::Pesquisar() {
     // Chosen or left during the wait: the row chosen stands, and nothing is looked for any more.
     if (!IsVisible()) return;
     suprimirProximoClick_ = true;
-    // It stands while the dialog writes; the operator's next search is his own.
+    // It stands while the dialog writes; the operator's next search is their own.
     const auto baixar = [](bool* suprimir) { *suprimir = false; };
     const std::unique_ptr<bool, decltype(baixar)> escrita(&suprimirProximoClick_, baixar);
     const std::string texto = zvfndCampo.Text();

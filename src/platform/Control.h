@@ -87,7 +87,7 @@ class Control : public Object {
   Event<> Click;
   Event<> GotFocus;
   Event<> LostFocus;
-  /// Raised before the operator leaves the control; a handler that sets the argument keeps him
+  /// Raised before the operator leaves the control; a handler that sets the argument keeps them
   /// there.
   Event<bool&> Validate;
   /// A handler that sets the key to kNone drops it.

@@ -33,7 +33,8 @@ std::optional<struct stat> StatusOf(const fs::path& path) {
 }
 
 /// Where the bytes lie that a path names: a link goes on being one, and what it names is replaced.
-/// One that another user has put there is not followed, since he would choose what is overwritten.
+/// One that another user has put there is not followed, since they would choose what is
+/// overwritten.
 fs::path Followed(fs::path path) {
   constexpr int kMostLinks = 16;
   for (int links = 0; links < kMostLinks; ++links) {
@@ -61,8 +62,7 @@ bool IsReplaceable(const fs::path& path, const std::optional<struct stat>& statu
 class Beside {
  public:
   explicit Beside(const fs::path& folder)
-      : path_((folder / ".caixa-XXXXXX").string()),
-        file_(mkostemp(path_.data(), O_CLOEXEC)) {
+      : path_((folder / ".caixa-XXXXXX").string()), file_(mkostemp(path_.data(), O_CLOEXEC)) {
     if (file_ < 0) Refuse(errno);
   }
   ~Beside() {

@@ -27,7 +27,7 @@ void frmCaixaOperar::optServico_Click() {
     }
     zvcmbAnimal.Visible = true;
     ponto = 3;
-    // An only animal needs no choosing: it is chosen, and the list stays closed.
+    // A customer with one animal needs no choosing: it is chosen, and the list stays closed.
     if (zvcmbAnimal.ListCount() >= 2) zvcmbAnimal.Enabled = true;
     if (zvcmbAnimal.ListCount() == 1) zvcmbAnimal.ListIndex = 0;
     item_.ZerarValores("0");

@@ -77,7 +77,7 @@ void Banco::LiberarClientes() {
     try {
       DestravarCliente(*this, proxima.codigo, proxima.estacao);
     } catch (const Refusal&) {
-      // Another workstation serves him by now.
+      // Another workstation serves them by now.
     }
     NaoLiberar(proxima.codigo);
   }

@@ -19,7 +19,7 @@ class Session;
 
 /// The clinic's database as one process uses it: one connection with its prepared statements, the
 /// clock, the name and mark of this computer, what keeps the screens alive, and what the operator
-/// is to hear besides the answers to what he does. The services share it. For one thread.
+/// is to hear besides the answers to what they do. The services share it. For one thread.
 class Banco {
  public:
   /// `relogio` outlives the database. `computador` is the name under which the module knows this
@@ -69,7 +69,7 @@ class Banco {
   /// looked at, like what is in doubt now.
   void LembrarRegistros(const std::string& pasta, std::string_view endereco);
   /// A customer could not be freed for now: it is done as soon as the database is there, unless
-  /// this computer takes him again before.
+  /// this computer takes them again before.
   void LiberarDepois(std::int32_t codigo, const services::Estacao& estacao);
   void NaoLiberar(std::int32_t codigo);
   /// Whether something waits: a customer to be freed, a registration in doubt, the note of one that

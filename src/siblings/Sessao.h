@@ -4,7 +4,7 @@
 
 namespace siblings {
 
-/// Whom a screen is about, as the counter hands him over.
+/// Whom a screen is about, as the counter hands them over.
 struct Cliente {
   double codigo = 0;
   std::string apelido, nome;

@@ -51,8 +51,8 @@ class CheckoutTest : public testing::Test {
     module.session.values["PermissaoDoModuloCaixaEfetuarVendasACreditoFiado"] = true;
   }
 
-  /// Opens a checkout, lets the operator act in it, closes it when he leaves it open, and tells its
-  /// answer.
+  /// Opens a checkout, lets the operator act in it, closes it when they leave it open, and tells
+  /// its answer.
   std::int16_t Pay(std::string_view net, std::string_view credit,
                    const std::function<void(frmCaixaPagar&)>& operate) {
     frmCaixaPagar form;

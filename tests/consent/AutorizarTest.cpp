@@ -18,7 +18,8 @@ namespace input = platform::input;
 
 class AutorizarTest : public testing::Test {
  protected:
-  /// Opens a dialog, lets the operator act in it, closes what he leaves open, and tells the answer.
+  /// Opens a dialog, lets the operator act in it, closes what they leave open, and tells the
+  /// answer.
   std::int16_t Open(const Autorizacao& autorizacao,
                     const std::function<void(frmCaixaAutorizar&)>& operate) {
     frmCaixaAutorizar form(autorizacao);

@@ -183,7 +183,7 @@ TEST_F(Files, BehindALinkAreReplacedThere) {
   EXPECT_EQ(files::Read(Path("rede/caixa.ini")), "depois");
 }
 
-// Who guesses the name of the file in the making must not have the cash desk write where he likes.
+// Who guesses the name of the file in the making must not have the cash desk write where they like.
 TEST_F(Files, AreWrittenUnderNamesThatNobodyForesees) {
   const std::string path = Path("caixa.ini");
   std::set<std::string> seen;

@@ -1,4 +1,4 @@
-// The guards around the operator's acts: what he cannot do, what is dropped, what ends in a box.
+// The guards around the operator's acts: what they cannot do, what is dropped, what ends in a box.
 
 #include <gtest/gtest.h>
 

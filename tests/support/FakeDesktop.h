@@ -49,7 +49,7 @@ class FakeDesktop final : public platform::Desktop {
 
   /// The answer to the next question that has none yet.
   void Answer(platform::Answer answer) { answers_.push_back(answer); }
-  /// What the operator does, an act each time that a modal screen waits for him.
+  /// What the operator does, an act each time that a modal screen waits for them.
   void Then(Act act) { acts_.push_back(std::move(act)); }
   /// The entry that the operator takes from the next popup menu; empty to dismiss it.
   void ThenChoose(std::string item) { choices_.push_back(std::move(item)); }

@@ -17,7 +17,7 @@ class Banco;
 /// Throws DatabaseError.
 void ContarTentativa(Banco& banco, std::string_view usuario);
 
-/// The user is who he says he is: the count begins anew. Throws DatabaseError.
+/// The user is who they say they are: the count begins anew. Throws DatabaseError.
 void EsquecerTentativas(Banco& banco, std::string_view usuario);
 
 }  // namespace services

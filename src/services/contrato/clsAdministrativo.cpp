@@ -24,7 +24,7 @@ class clsAdministrativo : public SobreBanco<Contrato> {
  public:
   using SobreBanco::SobreBanco;
 
-  /// For who frees a customer without saying where, it is the computer of this database object.
+  /// Where a caller names no computer, the customer is freed for this database object's own.
   void NomeDoComputador(std::string_view nome) override { computador_ = nome; }
 
   std::int16_t SelecionarClientesComTransacoesBloqueadas(std::int32_t, std::int16_t, double& codigo,

@@ -67,7 +67,7 @@ class clsClientes : public SobreBanco<Contrato> {
                                                     base::Currency& disponivel) override {
     return Numerado("RetornarInformacoesDoLimiteDeCredito", [&] {
       const auto credito = LerLimiteDeCredito(sessao(), CodeIn(codigo).value_or(0));
-      // Without a limit of his own a customer may buy on credit at will, so this may not pass as
+      // Without a limit of their own a customer may buy on credit at will, so this may not pass as
       // one.
       if (!credito) {
         throw base::RuntimeError(
@@ -94,7 +94,7 @@ class clsClientes : public SobreBanco<Contrato> {
     Lista().ShowNamed(search, nobody, nome, {});
   }
 
-  /// Whoever has the code comes first, lest the cap cut him off.
+  /// Whoever has the code comes first, so that the cap on rows never leaves them out.
   void PorCodigoOuNome(const std::string& texto) {
     static const NameSearch search(
         SelectCustomers("codigo IN (SELECT CAST($1 AS integer) UNION ALL"

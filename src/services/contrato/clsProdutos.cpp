@@ -85,7 +85,7 @@ class clsProdutos : public SobreBanco<Contrato> {
   }
 
   /// What stands in the search field of a pick list; a code read by the scanner counts too. What
-  /// has the code comes first, lest the cap cut it off.
+  /// has the code comes first, so that the cap on rows never leaves it out.
   void PorCodigoOuNome(const std::string& texto) {
     static const std::string byCode =
         "codigo_interno IN (SELECT CAST($1 AS integer) UNION ALL"

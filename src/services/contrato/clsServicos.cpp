@@ -56,7 +56,7 @@ class clsServicos : public SobreBanco<Contrato> {
     Lista().ShowNamed(search, none, nome, {tipo});
   }
 
-  /// What has the code comes first, lest the cap cut it off.
+  /// What has the code comes first, so that the cap on rows never leaves it out.
   void PorCodigoOuNome(const std::string& texto, std::int32_t tipo) {
     static const NameSearch search(
         SelectServices("(codigo = $2 OR codigo IN ({named}))", "codigo <> $2, "), kTable, 2);

@@ -124,7 +124,7 @@ void PastaAberta::Partilhar(int arquivo) const {
   struct stat estado {};
   const bool doGrupo = fstat(arquivo, &estado) == 0 &&
                        (estado.st_gid == grupo_ || fchown(arquivo, uid_t(-1), grupo_) == 0);
-  // Of another group, nobody of the folder's own could read what he is to take.
+  // Of another group, nobody of the folder's own could read what they are to take.
   if ((modo & kDoGrupo) != 0 && !doGrupo) modo |= kLer;
   // A network folder may know no such rights; then its own hold.
   fchmod(arquivo, modo);

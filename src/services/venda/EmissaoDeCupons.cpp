@@ -84,7 +84,7 @@ bool EmissaoDeCupons::Serve(const CupomIgual& cupom, const RegistrosDoCupom& reg
   if (pasta_.EDeOutroPrograma(cupom.arquivos.envio)) return false;
   const std::int32_t cliente =
       registros.codigoDoCliente != 0 ? registros.codigoDoCliente : banco_->ClienteEmAtendimento();
-  // An error on the screen frees the customer: then he is not known, and the same lines decide.
+  // An error on the screen frees the customer: then they are not known, and the same lines decide.
   if (cliente != 0 && cupom.codigoDoCliente != 0 && cliente != cupom.codigoDoCliente) return false;
   const bool respondido = DevolverResposta(cupom.arquivos.retorno,
                                            cupom.temChave ? Resposta(cupom.chave) : std::string());

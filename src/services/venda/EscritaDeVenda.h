@@ -11,7 +11,7 @@ namespace services {
 
 // The two ways of writing the same rows of a sale inside a transaction that is open, for one
 // workstation. Both give its number, or nothing when the register is not open, the customer unknown
-// or held by another workstation, his credit or its limit too small, or a pre-sale line no longer
+// or held by another workstation, their credit or its limit too small, or a pre-sale line no longer
 // open; the transaction is then to be rolled back. Until it ends nobody can take the customer.
 
 /// In one file: a statement a row, which costs next to nothing where no network lies between.

@@ -15,7 +15,7 @@ struct RegistrosDoCupom {
   std::int32_t caixa = 0;
   /// How the coupon names the consumer: identification, code and document, as they stand.
   std::string consumidor;
-  std::int32_t codigoDoCliente = 0;  ///< 0 where the coupon does not name him.
+  std::int32_t codigoDoCliente = 0;  ///< 0 where the coupon does not name them.
   /// The items and payments of this try, by which the same sale is known again.
   std::string conteudo;
   base::Currency valor;  ///< What its products come to.

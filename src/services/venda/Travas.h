@@ -26,7 +26,7 @@ struct Trava {
   base::DateTime desde;
 };
 
-/// Holds a customer for a workstation, which may hold him already. Throws Refusal when another one
+/// Holds a customer for a workstation, which may hold them already. Throws Refusal when another one
 /// does, and when there is no such customer; DatabaseError.
 void TravarCliente(Banco& banco, std::int32_t codigo, const Estacao& estacao,
                    const std::string& usuario);
@@ -50,8 +50,8 @@ std::string OutroDetentor(Session& session, std::int32_t codigo, const Estacao& 
 /// All locks that stand, the oldest first. Throws DatabaseError.
 std::vector<Trava> ListarTravas(Banco& banco);
 
-/// Frees a customer whoever holds him, as when a computer died with a customer on its screen; false
-/// when nobody held him. Throws DatabaseError.
+/// Frees a customer whoever holds them, as when a computer died with a customer on its screen;
+/// false when nobody held them. Throws DatabaseError.
 bool LiberarTrava(Banco& banco, std::int32_t codigoDoCliente);
 
 }  // namespace services

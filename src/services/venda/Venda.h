@@ -50,7 +50,7 @@ struct Venda {
   base::Currency custo, comissao, lucroEmValor, lucroEmPercentual;
   base::Currency creditoAnterior;
   std::string observacao, chaveSat;
-  bool alemDoLimite = false;  ///< Who sells may let the customer owe more than his limit.
+  bool alemDoLimite = false;  ///< Who sells may let the customer owe more than their limit.
   std::int32_t cupom = 0;     ///< That it was to have, by its number in `cupons`; 0 for none.
   std::vector<Item> itens;
   std::vector<Recebimento> recebimentos;

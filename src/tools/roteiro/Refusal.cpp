@@ -7,7 +7,7 @@
 namespace roteiro {
 namespace {
 
-/// Why the operator cannot reach the screen; empty when he can.
+/// Why the operator cannot reach the screen; empty when they can.
 std::string OutOfReach(const platform::Form& form) {
   if (!form.IsVisible()) return form.Name() + " is hidden";
   if (!platform::screens::IsReachable(form)) return form.Name() + " is behind a modal screen";

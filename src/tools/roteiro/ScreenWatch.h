@@ -13,8 +13,8 @@ class PictureBox;
 
 namespace roteiro {
 
-/// Watches the screens for what an operator would notice by himself: screens that come and go, the
-/// mouse pointer, the wait panel.
+/// Watches the screens for what an operator would notice without help: screens that come and go,
+/// the mouse pointer, the wait panel.
 class ScreenWatch final : public platform::Observer {
  public:
   using Tell = std::function<void(Json)>;

@@ -203,7 +203,7 @@ constexpr std::array kRoll{
     Step{Act::kSettle, "frmCaixaOperar"},
 };
 
-/// The customer's history, his estimates and a new one, with a product picked from the list.
+/// The customer's history, their estimates and a new one, with a product picked from the list.
 constexpr std::array kHistoryAndEstimates{
     Step{Act::kTool, "tbMenuCaixa", "ConsultarHistoricoDeVendas"},
     Step{Act::kScreen, "frmHistoricoDeVendas"},

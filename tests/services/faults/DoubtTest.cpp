@@ -19,7 +19,7 @@ using Register = servicos::ZOVA_N_Caixa::clsCaixa;
 using Moment = CuttingProxy::Moment;
 using Deed = CuttingProxy::Deed;
 
-/// What the operator is told of a registration whose end he did not see, and what stands.
+/// What the operator is told of a registration whose end they did not see, and what stands.
 class DoubtTest : public OverDatabase {
  protected:
   /// A status, and the words that go with it.
@@ -94,7 +94,7 @@ class DoubtTest : public OverDatabase {
     registers->SelecionarParaComboBox();
     return registers->DescricaoDoErro();
   }
-  /// Takes customer 5, or lets him go.
+  /// Takes customer 5, or lets them go.
   static void Lock(bool takes) {
     const SessionRecord renata("renata");
     const auto service =

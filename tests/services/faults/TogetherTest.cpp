@@ -73,7 +73,7 @@ class LockingDesk {
   std::string said_;
 };
 
-/// Takes a customer and lets him go, and counts what should not have happened.
+/// Takes a customer and lets them go, and counts what should not have happened.
 void Serve(LockingDesk& desk, int customer, Counter& counter) {
   const auto expect = [&](bool right) { counter.wrong += right ? 0 : 1; };
   std::atomic<int>& holders = counter.holders.at(static_cast<std::size_t>(customer - 1));

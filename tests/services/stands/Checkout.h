@@ -12,7 +12,7 @@
 namespace services {
 
 /// What one press of Confirmar came to, as the operator was told. Lies in memory that processes
-/// share, since he may be killed.
+/// share, since the one that pressed may be killed.
 struct Press {
   enum Outcome : std::int16_t { kRegistered = 0, kFault = 1, kRefusal = 2, kNoCoupon = 10, kNone };
   std::int16_t outcome = kNone;
