@@ -17,7 +17,7 @@ namespace services {
 class Banco;
 
 /// What is about to be registered: how the operator is told of it, and what it is known by when
-/// they does it again.
+/// they do it again.
 struct Registro {
   std::string oQue;   ///< As in "venda de 100,00 para Dudu".
   char artigo = 'a';  ///< Of these words: 'a' or 'o'.
