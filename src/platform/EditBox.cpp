@@ -116,8 +116,7 @@ void EditBox::Insert(char32_t character) {
 EditBox::Part EditBox::Erased(bool forward) const {
   const std::int32_t start = SelStart();
   if (SelLength() > 0) return {start, start + SelLength()};
-  return forward ? Part{start, std::min(start + 1, Length())}
-                 : Part{std::max(start - 1, 0), start};
+  return forward ? Part{start, std::min(start + 1, Length())} : Part{std::max(start - 1, 0), start};
 }
 
 void EditBox::Erase(bool forward) {

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Control.h"
 #include "platform/CharacterIndex.h"
+#include "platform/Control.h"
 
 namespace platform {
 
