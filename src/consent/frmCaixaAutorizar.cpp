@@ -59,7 +59,7 @@ void frmCaixaAutorizar::MontarExibirFormulario(std::int16_t& resultado) {
 }
 
 void frmCaixaAutorizar::Form_Load() {
-  frame::Procedimento(frame::Etiqueta{autorizacao_.formulario, "Form_Load"},
+  frame::Procedimento(*this, "Form_Load",
                       [&](Ponto&) { frame::EmoldurarFormulario(*this, lshpObj); });
 }
 
@@ -100,7 +100,7 @@ void frmCaixaAutorizar::zvcmdOk_Click() {
     frmCaixaAutorizar& formulario;
     bool encerrar = true;
   } encerramento{*this};
-  frame::Procedimento(frame::Etiqueta{autorizacao_.formulario, "zvcmdOk_Click"}, [&](Ponto& ponto) {
+  frame::Procedimento(*this, "zvcmdOk_Click", [&](Ponto& ponto) {
     if (ValidarCampos() == 1) {
       encerramento.encerrar = false;
       return;

@@ -142,7 +142,7 @@ std::string frmPesquisa::AvisoDaSelecao(servicos::ServicoDeNegocio& servico,
 }
 
 void frmPesquisa::Form_Load() {
-  Procedimento(frame::Etiqueta{pesquisa_.formulario, "Form_Load"}, [&](Ponto& ponto) {
+  Procedimento(*this, "Form_Load", [&](Ponto& ponto) {
     frame::EmoldurarFormulario(*this, lshpObj);
     ponto = 2;
     Carregar();
@@ -167,7 +167,7 @@ void frmPesquisa::Form_Unload(bool& recusar) {
 }
 
 void frmPesquisa::msfgGrade_Click() {
-  Procedimento(frame::Etiqueta{pesquisa_.formulario, "msfgGrade_Click"}, [&](Ponto&) {
+  Procedimento(*this, "msfgGrade_Click", [&](Ponto&) {
     if (ValidarCampos() == 1) return;
     registroSelecionado_ = true;
     Hide();
@@ -196,7 +196,7 @@ void frmPesquisa::zvfndCampo_Click() {
 
 bool frmPesquisa::Pesquisar() {
   bool encontrou = false;
-  Procedimento(frame::Etiqueta{pesquisa_.formulario, pesquisa_.rotina}, [&](Ponto& ponto) {
+  Procedimento(*this, pesquisa_.rotina, [&](Ponto& ponto) {
     frame::Espera espera(painel_);
     // Chosen or left during the wait: the row chosen stands, and nothing is looked for any more.
     if (!IsVisible()) return;

@@ -84,7 +84,7 @@ QFont MSFlexGridView::CellFont(std::int32_t row, std::int32_t col) const {
   return fonts::Sized(points > 0 ? points * kPixelsPerPoint : fonts::kGridSize);
 }
 
-bool MSFlexGridView::IsCalm(std::int32_t row) const {
+bool MSFlexGridView::StandsBack(std::int32_t row) const {
   return Grid().standsBack && Grid().standsBack(row);
 }
 
@@ -149,14 +149,14 @@ void MSFlexGridView::PaintCell(QPainter& painter, std::int32_t row,
     return;
   }
   if (text.isEmpty() || IsEmptyMask(text)) return;
-  const bool calm = IsCalm(row);
-  QColor ink = calm ? palette::kQuietText : palette::kText;
+  const bool back = StandsBack(row);
+  QColor ink = back ? palette::kQuietText : palette::kText;
   if (format.fore != platform::kDefaultColor) ink = ToQt(format.fore);
   painter.setFont(CellFont(row, column.index));
   painter.setPen(ink);
   QRectF room = box.adjusted(kCellMargin, 0, -kCellMargin, 0);
   if (column.rightwards) return PaintFigures(painter, room, text);
-  if (calm && column.index == columns_.Main()) {
+  if (back && column.index == columns_.Main()) {
     const QString word = QStringLiteral("  ·  ") + QString::fromUtf8(kCalmWord);
     const double wide = QFontMetricsF(painter.font()).horizontalAdvance(word);
     const double name = QFontMetricsF(painter.font()).horizontalAdvance(text);

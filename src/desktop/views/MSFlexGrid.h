@@ -54,7 +54,7 @@ class MSFlexGridView final : public View {
   // What they look like.
   QFont CellFont(std::int32_t row, std::int32_t col) const;
   QString CellText(std::int32_t row, std::int32_t col) const;
-  bool IsCalm(std::int32_t row) const;
+  bool StandsBack(std::int32_t row) const;
   bool IsSelected(std::int32_t row) const;
   bool IsBlank(std::int32_t row) const;
   void PaintHeader(QPainter& painter);

@@ -39,15 +39,6 @@ class Param {
 
 using Params = std::vector<Param>;
 
-/// One row; made in place, where a list in braces would copy every text of a long sale once more.
-template <class... Values>
-Params ParamsOf(const Values&... values) {
-  Params row;
-  row.reserve(sizeof...(values));
-  (row.emplace_back(values), ...);
-  return row;
-}
-
 /// The moment of a "yyyy-mm-dd" text, with " hh:mm:ss" behind it or not; error 13 otherwise.
 base::DateTime MomentOf(std::string_view text);
 
