@@ -1,16 +1,15 @@
 #include "base/DateTime.h"
 #include "base/RuntimeError.h"
+#include "checkout/DadosDoComprovante.h"
 #include "checkout/GradeDePagamentos.h"
-#include "checkout/drComprovanteDePagamentoDeVenda.h"
+#include "checkout/drComprovante.h"
 #include "checkout/frmCaixaPagar.h"
 #include "frame/CamposNumericos.h"
-#include "frame/Empresa.h"
 #include "frame/Mensagens.h"
 #include "frame/Procedimento.h"
 #include "frame/Valores.h"
 #include "frame/servicos/Pagamento.h"
 #include "frame/servicos/ZOVA_A_RelFin.clsRelFin.h"
-#include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
 #include "platform/Desktop.h"
 
 // The papers of a sale that is registered: the receipt, and a promissory note for each tender on
@@ -23,14 +22,6 @@ using enum servicos::pagamento::Codigo;
 using frame::valores;
 
 namespace {
-
-constexpr std::string_view kSemEmpresa =
-    "Não foi possível imprimir o documento porque não há empresa cadastrada.\n"
-    "Selecione a guia (aba) 'Cadastros' e em seguida, clique na opções 'Empresa'. Efetue o "
-    "cadastro e solicite a impressão novamente";
-constexpr std::string_view kSemItens =
-    "Não foi possível imprimir porque os dados não foram localizados.\n"
-    "Tente a impressão novamente";
 
 /// Prints a paper, asking first where the company wants that.
 template <class Impressao>
@@ -78,18 +69,6 @@ Recebimento LerRecebimento(const base::GradeLida& pagamentos) {
   return recebimento;
 }
 
-/// The rows of a selection, or null when it failed or found none: the operator has been told.
-base::RecordSetPtr ItensDaVenda(std::int32_t numeroDaVenda) {
-  auto caixa = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsCaixa>();
-  const std::int16_t resultado = caixa->SelecionarItensDeVenda(
-      " WHERE ItensDeVendas.NumeroDaVenda = " + base::ToText(numeroDaVenda) + " ");
-  if (!frame::Aceitar(resultado, *caixa)) return nullptr;
-  base::RecordSetPtr itens = caixa->ResultadoDaSelecaoEmRecordSet();
-  if (itens->RecordCount() > 0) return itens;
-  frame::Informar(kSemItens);
-  return nullptr;
-}
-
 }  // namespace
 
 void frmCaixaPagar::ImprimirComprovante(frame::Espera& espera, std::int32_t numeroDaVenda) {
@@ -104,45 +83,30 @@ void frmCaixaPagar::ImprimirComprovanteDePagamentoDeVenda(std::int32_t numeroDaV
     lblMensagem.Caption = "Aguarde, reorganizando dados.";
     const frame::Espera espera(painel_);
     ponto = 2;
-    const frame::LeituraDaEmpresa leitura = frame::LerEmpresa();
-    if (leitura.falhou) return;
-    if (!leitura.Cadastrada()) {
-      frame::Informar(kSemEmpresa);
-      return;
-    }
-    ponto = 3;
-    const base::RecordSetPtr itens = ItensDaVenda(numeroDaVenda);
-    if (!itens) return;
+    const auto dados = LerDadosDoComprovante(numeroDaVenda);
+    if (!dados) return;
     ponto = 4;
     drComprovanteDePagamentoDeVenda comprovante(platform::Desktop::Current().ReceiptPaper());
-    comprovante.lblNomeFantasiaDaEmpresa.Caption =
-        base::ToText(leitura.empresa->Fields("NomeFantasia"));
-    comprovante.lblNumeroDaVenda.Caption = base::ToText(numeroDaVenda);
-    comprovante.DataSource = itens;
-    PreencherComprovante(comprovante);
+    comprovante.DataSource = dados->itens;
+    PreencherComprovante(comprovante, dados->empresa, numeroDaVenda);
     ponto = 5;
-    // Also a panel that the confirmation has up must not lie over the preview.
-    painel_.ExibirOcultar(false, false);
-    if (valores().VisualizarImpressaoDoComprovanteDePagamento) {
-      comprovante.Show();
-    } else {
-      comprovante.PrintReport();
-    }
+    EmitirComprovante(comprovante, painel_);
   });
 }
 
 /// What the checkout itself knows: the customer, and how the sale was paid.
-void frmCaixaPagar::PreencherComprovante(drComprovanteDePagamentoDeVenda& comprovante) {
-  comprovante.Title = "Imprimir comprovante de pagamento de venda";
-  comprovante.lblTituloDoAplicativo.Caption = valores().NomeDaAplicacao;
-  comprovante.lblCodigoENomeOuRazaoSocialDoCliente.Caption =
-      zvtxtCodigoDoCliente.Text() + " - " + zvtxtNomeOuRazaoSocialDoCliente.Text();
-  comprovante.lblEnderecoDoCliente.Caption = venda_.EnderecoDoCliente;
-  comprovante.lblCanalDeComunicacaoDoCliente.Caption = venda_.CanalDeComunicacaoDoCliente;
-  comprovante.txtTotalDosServicosEProdutos.Caption = zvtxtValorDaVenda.Text();
+void frmCaixaPagar::PreencherComprovante(drComprovanteDePagamentoDeVenda& comprovante,
+                                         const std::string& empresa, std::int32_t numeroDaVenda) {
   const Recebimento recebimento = LerRecebimento(msfgGrade);
-  comprovante.lblValorPago.Caption = recebimento.rotulo;
-  comprovante.txtValorPago.Caption = base::FormatMoney(recebimento.pago);
+  comprovante.Preencher(
+      {.empresa = empresa,
+       .venda = base::ToText(numeroDaVenda),
+       .cliente = zvtxtCodigoDoCliente.Text() + " - " + zvtxtNomeOuRazaoSocialDoCliente.Text(),
+       .endereco = venda_.EnderecoDoCliente,
+       .canais = venda_.CanalDeComunicacaoDoCliente,
+       .total = zvtxtValorDaVenda.Text(),
+       .rotuloDoPago = recebimento.rotulo,
+       .pago = base::FormatMoney(recebimento.pago)});
   comprovante.txtSaldoDevedor.Caption = base::FormatMoney(recebimento.aReceber);
   const Currency saldo = frame::LerCurrency(zvtxtSaldoDevedorOuTroco);
   if (saldo < Currency()) {

@@ -199,7 +199,8 @@ class frmCaixaPagar : public platform::Form {
   // Comprovante.cpp: the papers of the sale.
   void ImprimirComprovante(frame::Espera& espera, std::int32_t numeroDaVenda);
   void ImprimirComprovanteDePagamentoDeVenda(std::int32_t numeroDaVenda);
-  void PreencherComprovante(drComprovanteDePagamentoDeVenda& comprovante);
+  void PreencherComprovante(drComprovanteDePagamentoDeVenda& comprovante,
+                            const std::string& empresa, std::int32_t numeroDaVenda);
   void ImprimirNotasPromissorias(frame::Espera& espera);
   void ImprimirNotaPromissoria(std::int32_t linha);
 

@@ -18,10 +18,13 @@ class ForaDeVista {
     constexpr std::int32_t kForaDaTela = 150'000;
     if (chamador == Chamador::kAfastaSe) formulario.Left = esquerda_ - kForaDaTela;
     if (chamador == Chamador::kDesaparece) Dimensionar(0, 0);
+    if (chamador == Chamador::kRecolhe) Dimensionar(largura_, 0);
   }
   ~ForaDeVista() {
     if (chamador_ == Chamador::kAfastaSe) formulario_.Left = esquerda_;
-    if (chamador_ == Chamador::kDesaparece) Dimensionar(largura_, altura_);
+    if (chamador_ != Chamador::kAfastaSe && chamador_ != Chamador::kFica) {
+      Dimensionar(largura_, altura_);
+    }
   }
   ForaDeVista(const ForaDeVista&) = delete;
   ForaDeVista& operator=(const ForaDeVista&) = delete;

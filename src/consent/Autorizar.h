@@ -12,6 +12,7 @@ enum class Chamador {
   kFica,        ///< It stays where it is.
   kAfastaSe,    ///< It moves out of sight, at its full size.
   kDesaparece,  ///< It shrinks to nothing.
+  kRecolhe,     ///< Its height does.
 };
 
 /// Asks a supervisor to consent to one act, over the host that the caller has darkened. True when

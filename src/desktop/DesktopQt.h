@@ -14,7 +14,9 @@
 #include "desktop/Loops.h"
 #include "desktop/Windows.h"
 #include "desktop/reports/Printing.h"
+#include "desktop/reports/frmSalvarDocumento.h"
 #include "platform/Desktop.h"
+#include "platform/ReportTable.h"
 
 namespace desktop {
 
@@ -118,9 +120,12 @@ class DesktopQt final : public platform::Desktop {
   void ClearAtRest();
   QPainterPath WaitPanels(const QWidget& window) const;
   /// Shows a report that is laid out until the operator has closed it.
-  void ShowPages(const std::shared_ptr<const platform::ReportPages>& pages);
-  /// Saves a report as PDF where the operator says.
-  void SavePages(const platform::ReportPages& pages);
+  void ShowPages(const std::shared_ptr<const platform::ReportPages>& pages,
+                 const platform::ReportTable& table);
+  /// Has a report saved where the operator says.
+  void Save(const platform::ReportPages& pages,
+            const std::vector<reports::frmSalvarDocumento::Formato>& formats,
+            const std::function<void(const std::string& path)>& write);
   void TellTrouble(const std::string& sentence);
 
   std::string moduleFolder_;

@@ -25,4 +25,15 @@ LeituraDaEmpresa LerEmpresa() {
   }
 }
 
+std::optional<std::string> EmpresaParaImprimir() {
+  const LeituraDaEmpresa leitura = LerEmpresa();
+  if (leitura.falhou) return std::nullopt;
+  if (leitura.Cadastrada()) return base::ToText(leitura.empresa->Fields("NomeFantasia"));
+  Informar(
+      "Não foi possível imprimir o documento porque não há empresa cadastrada.\n"
+      "Selecione a guia (aba) 'Cadastros' e em seguida, clique na opções 'Empresa'. Efetue o "
+      "cadastro e solicite a impressão novamente");
+  return std::nullopt;
+}
+
 }  // namespace frame

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 #include "base/Record.h"
 
 namespace frame {
@@ -18,5 +22,13 @@ struct LeituraDaEmpresa {
 
 /// Reads the one company record; a fault or refusal is told to the operator.
 LeituraDaEmpresa LerEmpresa();
+
+/// The name that stands on a document; nothing when there is no company to print one for, or it
+/// could not be read: the operator has been told.
+std::optional<std::string> EmpresaParaImprimir();
+/// A document would be empty.
+inline constexpr std::string_view kSemDadosParaImprimir =
+    "Não foi possível imprimir porque os dados não foram localizados.\n"
+    "Tente a impressão novamente";
 
 }  // namespace frame

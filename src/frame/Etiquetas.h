@@ -33,6 +33,9 @@ inline constexpr Etiqueta kValidarData{"frmFicha", "ValidarData"};
 inline constexpr Etiqueta kPreencherFormaDePagamento{"frmFichaCompleta",
                                                      "PreencherzvcmbFormaDePagamento"};
 inline constexpr Etiqueta kGradeDePagamentosConfigurar{"frmLista", "Grade_Configurar"};
+inline constexpr Etiqueta kImprimir2aVia{"frmCaixaPagar",
+                                         "Imprimir2aViaDoComprovanteDePagamentoDeVenda"};
+inline constexpr Etiqueta kCarregarDetalhes{"frmPesquisaDeProdutos1", "Form_Load"};
 inline constexpr Etiqueta kListaDeColunas{"frmCaixaOperarDeClientes", "mnuListaDeColunas_Click"};
 
 }  // namespace etiquetas

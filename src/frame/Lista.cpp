@@ -37,6 +37,7 @@ std::int32_t PosicaoDoCampo(const base::RecordSet& registros, std::string_view c
 Lista::Lista(platform::MSFlexGrid& grade, std::span<const Coluna> colunas)
     : grade_(grade), colunas_(colunas) {
   grade_.Click = [this] { Clicar(); };
+  grade_.DblClick = [this] { Abrir(); };
   grade_.KeyDown = [this](platform::KeyStroke& tecla) { Teclar(tecla); };
   grade_.SelChange = [this] {
     SelecionarLinhaInteira(grade_);
@@ -54,15 +55,33 @@ void Lista::Esvaziar() {
 }
 
 void Lista::Preencher(base::RecordSet& registros) {
+  // A list may have thousands of rows: each field is looked for once.
+  std::vector<Campo> campos;
+  if (registros.RecordCount() > 0) {
+    std::int32_t numero = 0;
+    for (const Coluna& coluna : colunas_) {
+      if (!coluna.campo.empty())
+        campos.push_back({numero, PosicaoDoCampo(registros, coluna.campo)});
+      ++numero;
+    }
+  }
+  Preencher(registros, campos, TextoDaCelula);
+}
+
+void Lista::PreencherPorPosicao(base::RecordSet& registros) {
+  std::vector<Campo> campos;
+  const auto quantos = std::min(registros.FieldCount(), static_cast<std::int32_t>(colunas_.size()));
+  for (std::int32_t i = 0; i < quantos; ++i) campos.push_back({i, i});
+  Preencher(registros, campos, [](const base::Value& valor, TipoDeColuna tipo) {
+    return base::Replace(TextoDaCelula(valor, tipo), "\u00A0", "\n");
+  });
+}
+
+template <class Texto>
+void Lista::Preencher(base::RecordSet& registros, const std::vector<Campo>& campos, Texto texto) {
   const SemRedesenho semRedesenho(grade_);
   Esvaziar();
   if (registros.RecordCount() == 0) return;
-  // A list may have thousands of rows: each field is looked for once.
-  std::vector<std::pair<std::int32_t, std::int32_t>> campos;
-  for (std::int32_t i = 0; i < grade_.Cols(); ++i) {
-    const std::string_view campo = colunas_[static_cast<std::size_t>(i)].campo;
-    if (!campo.empty()) campos.emplace_back(i, PosicaoDoCampo(registros, campo));
-  }
   // Records that cannot be shown leave the list empty, with no row to choose.
   grade_.Rows(registros.RecordCount() + 1);
   quantos_ = registros.RecordCount();
@@ -70,7 +89,7 @@ void Lista::Preencher(base::RecordSet& registros) {
   base::ForEachRow(registros, [&] {
     for (const auto& [coluna, campo] : campos) {
       const TipoDeColuna tipo = colunas_[static_cast<std::size_t>(coluna)].tipo;
-      grade_.TextMatrix(linha, coluna, TextoDaCelula(registros.Fields(campo), tipo));
+      grade_.TextMatrix(linha, coluna, texto(registros.Fields(campo), tipo));
     }
     ++linha;
   });
@@ -83,11 +102,18 @@ std::string Lista::Selecionado(std::int32_t coluna) const {
 
 void Lista::SelecionarOnde(std::int32_t coluna, const std::string& texto) {
   for (std::int32_t linha = 1; linha <= quantos_; ++linha) {
-    if (grade_.TextMatrix(linha, coluna) != texto) continue;
-    SelecionarLinha(grade_, linha);
-    Selecionar();
-    return;
+    if (grade_.TextMatrix(linha, coluna) == texto) return SelecionarA(linha);
   }
+}
+
+void Lista::SelecionarA(std::int32_t linha) {
+  SelecionarLinha(grade_, linha);
+  Selecionar();
+}
+
+void Lista::Classificar(std::int16_t coluna, bool alternar) {
+  frame::Classificar(grade_, coluna, alternar, classificacao_);
+  Selecionar();
 }
 
 void Lista::Clicar() {
@@ -96,15 +122,19 @@ void Lista::Clicar() {
     if (aoEscolher) aoEscolher();
     return;
   }
-  Classificar(grade_, static_cast<std::int16_t>(grade_.MouseCol()), true, classificacao_);
-  Selecionar();
+  Classificar(static_cast<std::int16_t>(grade_.MouseCol()), true);
+}
+
+void Lista::Abrir() {
+  if (aoAbrir && quantos_ > 0 && grade_.MouseRow() > 0) aoAbrir();
 }
 
 void Lista::Teclar(platform::KeyStroke& tecla) {
-  if (tecla.key != platform::Key::kEnter || !aoEscolher || quantos_ == 0) return;
+  const auto& acao = aoEscolher ? aoEscolher : aoAbrir;
+  if (tecla.key != platform::Key::kEnter || !acao || quantos_ == 0) return;
   // The screen that opens next shall not take it for its own.
   tecla.key = platform::Key::kNone;
-  aoEscolher();
+  acao();
 }
 
 void Lista::Selecionar() {

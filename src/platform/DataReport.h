@@ -25,11 +25,13 @@ struct Paper {
   std::int32_t sideMargin = 0;
   std::int32_t endMargin = 0;  ///< At the top and at the bottom.
 
-  std::int32_t InnerWidth() const { return width - 2 * sideMargin; }
+  constexpr std::int32_t InnerWidth() const { return width - 2 * sideMargin; }
 };
 
 /// 210 x 297 mm with margins of 15 mm.
 inline constexpr Paper kA4Paper{Paper::Kind::kA4, 11906, 16838, 850, 850};
+/// The same sheet on its side.
+inline constexpr Paper kA4SidewaysPaper{Paper::Kind::kA4, 16838, 11906, 850, 850};
 /// The roll of a receipt printer: 80 mm wide, of which its head reaches 72.
 inline constexpr Paper kRoll80Paper{Paper::Kind::kRoll80, 4535, 0, 227, 170};
 
@@ -46,7 +48,7 @@ enum class ReportAlign { kLeft, kCenter, kRight };
 /// One thing on a report. Positions are in twips from the upper left corner of its section.
 class ReportControl : public Object {
  public:
-  enum class Kind { kLabel, kText, kSum, kLine, kBox };
+  enum class Kind { kLabel, kText, kSum, kLine, kBox, kBar };
 
   ReportControl(ReportSection& section, std::string_view name, Kind kind);
 
@@ -142,6 +144,13 @@ class ReportBox final : public ReportControl {
       : ReportControl(section, name, Kind::kBox) {}
 };
 
+/// A place that is filled: the bar of a chart.
+class ReportBar final : public ReportControl {
+ public:
+  ReportBar(ReportSection& section, std::string_view name)
+      : ReportControl(section, name, Kind::kBar) {}
+};
+
 enum class Band {
   kReportHeader,
   kPageHeader,
@@ -201,6 +210,11 @@ struct ReportLayout {
   std::vector<ReportPlace> places;
 };
 
+/// A column of the rows of a report, saved as a table.
+struct ReportColumn {
+  std::string title, field;
+};
+
 /// A printed document in bands: a class of its own for each report, with its sections and controls
 /// as members under their given names, its constructor ending with Arrange. It is filled by its
 /// caller, then shown or printed.
@@ -213,6 +227,8 @@ class DataReport : public Object {
   /// The rows that the details are printed from. Null or without rows, the headers and footers of
   /// the report and its page are printed alone.
   base::RecordSetPtr DataSource;
+  /// What a table of the rows shows, for reports that may be saved as one; empty for none.
+  std::vector<ReportColumn> columns;
 
   const std::vector<ReportSection*>& Sections() const { return sections_; }
   const Paper& GetPaper() const { return paper_; }

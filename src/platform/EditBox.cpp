@@ -78,6 +78,7 @@ bool EditBox::TakeKey(const KeyStroke& stroke) {
       default:
         Insert(stroke.character);
     }
+    Edited();
     return true;
   }
   switch (stroke.key) {

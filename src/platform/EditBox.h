@@ -25,6 +25,9 @@ class EditBox : public Control {
   /// The most characters that the operator can type; 0 for no limit.
   Property<std::int32_t> MaxLength{*this, "MaxLength"};
 
+  /// The operator has typed into the field, or pasted.
+  Event<> Edited;
+
   /// The text on display.
   const std::string& Shown() const { return ShownText()(); }
   /// Its characters.

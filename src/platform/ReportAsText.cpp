@@ -81,15 +81,21 @@ class Grid {
     for (const PrintedText& each : page.texts) {
       items.push_back({each.top + each.height / 2, each.height, StartOf(each), each.text, false});
     }
-    const auto add = [&](const PrintedRule& rule, std::int32_t y) {
+    const auto add = [&](const PrintedRule& rule, std::int32_t y, char ink) {
       const std::int32_t start = Column(rule.left);
       const std::int32_t length = std::max(1, Column(rule.left + rule.width) - start);
-      items.push_back({y, 0, start, std::string(static_cast<std::size_t>(length), '-'), true});
+      items.push_back(
+          {y, 0, start, std::string(static_cast<std::size_t>(length), ink), ink == '-'});
     };
     for (const PrintedRule& each : page.rules) {
-      if (!each.isBox && each.height > each.width) continue;
-      add(each, each.top);
-      if (each.isBox && each.height > 0) add(each, each.top + each.height);
+      const bool isLine = each.kind == PrintedRule::Kind::kLine;
+      if (isLine && each.height > each.width) continue;
+      if (each.kind == PrintedRule::Kind::kBar) {
+        add(each, each.top + each.height / 2, '#');
+        continue;
+      }
+      add(each, each.top, '-');
+      if (!isLine && each.height > 0) add(each, each.top + each.height, '-');
     }
     return items;
   }

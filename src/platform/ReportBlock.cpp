@@ -55,7 +55,13 @@ std::string Decoded(const std::string& words, const Codes& codes) {
 }
 
 bool Says(const ReportControl& control) {
-  return control.GetKind() != Kind::kLine && control.GetKind() != Kind::kBox;
+  const Kind kind = control.GetKind();
+  return kind == Kind::kLabel || kind == Kind::kText || kind == Kind::kSum;
+}
+
+PrintedRule::Kind RuleOf(Kind kind) {
+  if (kind == Kind::kBox) return PrintedRule::Kind::kBox;
+  return kind == Kind::kBar ? PrintedRule::Kind::kBar : PrintedRule::Kind::kLine;
 }
 
 std::string WordsOf(const ReportControl& control, const std::string& filled, const Codes& codes) {
@@ -161,7 +167,7 @@ class BlockMaker {
     const std::int32_t end = control.Top() + control.Height();
     const std::int32_t bottom = control.Height() == 0 ? top : end + PushAt(end);
     block_.rules.push_back(
-        {control.Left(), top, control.Width(), bottom - top, control.GetKind() == Kind::kBox});
+        {control.Left(), top, control.Width(), bottom - top, RuleOf(control.GetKind())});
     block_.height = std::max(block_.height, bottom);
   }
 

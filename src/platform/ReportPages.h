@@ -36,10 +36,11 @@ struct PrintedText {
   ReportAlign align = ReportAlign::kLeft;
 };
 
-/// A line, or with `isBox` the frame of its place.
+/// A line, the frame of its place, or the place filled.
 struct PrintedRule {
+  enum class Kind { kLine, kBox, kBar };
   std::int32_t left = 0, top = 0, width = 0, height = 0;
-  bool isBox = false;
+  Kind kind = Kind::kLine;
 };
 
 struct ReportPage {

@@ -1,9 +1,7 @@
-#include "base/Text.h"
-#include "frame/Mensagens.h"
-#include "frame/modMensagemDeErro.h"
+#include "frame/Caixas.h"
+
+#include "frame/Procedimento.h"
 #include "frame/servicos/Codigos.h"
-#include "frame/servicos/ZOVA_N_Caixas.clsCaixas.h"
-#include "platform/Input.h"
 #include "sale/frmCaixaOperar.h"
 
 namespace sale {
@@ -13,27 +11,11 @@ using frame::Procedimento;
 
 void frmCaixaOperar::PreencherComboboxCaixas(std::int16_t& falha) {
   Procedimento(*this, "PreencherComboboxCaixas", [&](Ponto& ponto) {
-    auto caixas = servicos::CriarServico<servicos::ZOVA_N_Caixas::clsCaixas>();
-    ponto = 2;
-    if (caixas->SelecionarParaComboBox() != servicos::kSucesso) {
-      frame::ExibirErroDoServico(*caixas);
-      falha = 1;
-      return;
-    }
-    ponto = 3;
-    const base::RecordSetPtr linhas = caixas->ResultadoDaSelecaoEmRecordSet();
-    zvcmbCaixas.Clear();
-    if (linhas->RecordCount() == 0) {
-      frame::Informar(
-          "Nenhum caixa cadastrado ou ativado.\nÉ necessário ter pelo menos um caixa cadastrado ou "
-          "ativado para o início de operações.");
-      platform::input::SendKeys("+({HOME})");
-      falha = 1;
-      return;
-    }
+    const base::RecordSetPtr linhas = frame::LerCaixas(zvcmbCaixas, ponto);
+    falha = linhas ? 0 : 1;
+    if (!linhas) return;
     ponto = 4;
     base::ForEachRow(*linhas, [&] { caixas_.Acrescentar(*linhas); });
-    falha = 0;
   });
 }
 

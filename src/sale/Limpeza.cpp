@@ -2,6 +2,7 @@
 #include "frame/Mensagens.h"
 #include "frame/Valores.h"
 #include "frame/modFuncoes.h"
+#include "lookup/frmExibirDetalhesDoItemDaVenda.h"
 #include "platform/CheckBox.h"
 #include "platform/Colors.h"
 #include "platform/ZVTextBox.h"
@@ -166,7 +167,16 @@ void frmCaixaOperar::zvcmdDetalhes_Click() {
       frame::Informar("Nenhum item para ser detalhado da grade.");
       return;
     }
-    TelaIndisponivel("Detalhes do item");
+    frame::FundoEscuro fundo;
+    lookup::frmExibirDetalhesDoItemDaVenda detalhes;
+    detalhes.GradeDeItensDaVendas(msfgGrade);
+    std::int16_t resultado = 0;
+    detalhes.MontarExibirFormulario(resultado);
+    fundo.Remover();
+    if (resultado == lookup::frmExibirDetalhesDoItemDaVenda::kNaoExibido) {
+      frame::Informar("Operação cancelada");
+    }
+    detalhes.Unload();
   });
 }
 

@@ -8,7 +8,10 @@
 #include "lookup/frmPesquisaDeServicos.h"
 #include "platform/Desktop.h"
 #include "register/Movimentos.h"
+#include "register/frmCaixaComprovanteDeVenda.h"
 #include "register/frmCaixaMovimento.h"
+#include "register/frmCaixaRelatoriosDeCaixas.h"
+#include "register/frmCaixaReverterVenda.h"
 #include "sale/Menu.h"
 #include "sale/frmCaixaOperar.h"
 
@@ -31,16 +34,19 @@ void frmCaixaOperar::tbMenuCaixa_ButtonClick(platform::ToolbarButton& botao) {
          [](frmCaixaOperar& f) { f.Movimentar(registers::kCaixaEntradas, "Entrada efetuada."); }},
         {"Saidas",
          [](frmCaixaOperar& f) { f.Movimentar(registers::kCaixaSaidas, "Saída efetuada."); }},
-        {"CancelarVenda", [](frmCaixaOperar&) { TelaIndisponivel("Cancelar venda"); }},
+        {"CancelarVenda",
+         [](frmCaixaOperar& f) { f.Reverter(registers::kCancelarVenda, "Venda cancelada."); }},
         {"DesfazerCancelamento",
-         [](frmCaixaOperar&) { TelaIndisponivel("Desfazer cancelamento"); }},
+         [](frmCaixaOperar& f) {
+           f.Reverter(registers::kDesfazerCancelamento, "Desfeito o cancelamento da venda.");
+         }},
         {"CreditoDoCliente", [](frmCaixaOperar& f) { f.CreditoDoCliente(); }},
         {"DebitosDoCliente", [](frmCaixaOperar&) { TelaIndisponivel("Débitos do cliente"); }},
         {"ConsultarHistoricoDeVendas", [](frmCaixaOperar& f) { f.ConsultarHistoricoDeVendas(); }},
         {"ConsultarPrecos", [](frmCaixaOperar& f) { f.mnuConsultarPrecos.PopUp(f.tbMenuCaixa); }},
         {"Orcamentos", [](frmCaixaOperar& f) { f.Orcamentos(); }},
-        {"Relatorios", [](frmCaixaOperar&) { TelaIndisponivel("Relatórios de caixas"); }},
-        {"Comprovantes", [](frmCaixaOperar&) { TelaIndisponivel("Comprovante de venda"); }}};
+        {"Relatorios", [](frmCaixaOperar& f) { f.Relatorios(); }},
+        {"Comprovantes", [](frmCaixaOperar& f) { f.Comprovantes(); }}};
     for (const Entrada& entrada : kEntradas) {
       if (entrada.chave == botao.Key()) entrada.abrir(*this);
     }
@@ -69,9 +75,8 @@ void frmCaixaOperar::TratarFalha(std::int32_t numeroDaFalha) {
   }
 }
 
-void frmCaixaOperar::Movimentar(const registers::Movimento& movimento, std::string_view mensagem) {
-  registers::frmCaixaMovimento formulario(movimento);
-  formulario.MontarExibirFormulario();
+template <class Formulario>
+void frmCaixaOperar::Concluir(Formulario& formulario, std::string_view mensagem) {
   if (formulario.OperacaoConcluida()) {
     frame::Informar(mensagem);
     zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
@@ -79,6 +84,48 @@ void frmCaixaOperar::Movimentar(const registers::Movimento& movimento, std::stri
     TratarFalha(formulario.NumeroDaFalha());
   }
   formulario.Unload();
+}
+
+void frmCaixaOperar::Movimentar(const registers::Movimento& movimento, std::string_view mensagem) {
+  registers::frmCaixaMovimento formulario(movimento);
+  formulario.MontarExibirFormulario();
+  Concluir(formulario, mensagem);
+}
+
+void frmCaixaOperar::Reverter(const registers::ReversaoDeVenda& reversao,
+                              std::string_view mensagem) {
+  registers::frmCaixaReverterVenda formulario(reversao);
+  frame::FundoEscuro fundo;
+  formulario.MontarExibirFormulario();
+  fundo.Remover();
+  Concluir(formulario, mensagem);
+}
+
+void frmCaixaOperar::Comprovantes() {
+  frame::FundoEscuro fundo;
+  Refresh();
+  registers::frmCaixaComprovanteDeVenda formulario;
+  formulario.MontarExibirFormulario();
+  formulario.Unload();
+  fundo.Remover();
+  VoltarAoAtendimento();
+}
+
+void frmCaixaOperar::Relatorios() {
+  Refresh();
+  registers::frmCaixaRelatoriosDeCaixas formulario;
+  const std::int16_t falha = formulario.MontarExibirFormulario();
+  formulario.Unload();
+  if (falha == 0) VoltarAoAtendimento();
+}
+
+/// Where the operator goes on after a look at something else.
+void frmCaixaOperar::VoltarAoAtendimento() {
+  if (zvfApelidoOuNomeFantasiaDoCliente.Enabled()) {
+    zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
+  } else {
+    optServico.SetFocus();
+  }
 }
 
 void frmCaixaOperar::AbrirOuFechar(const registers::Movimento& movimento) {
@@ -204,11 +251,7 @@ void frmCaixaOperar::ConsultarPrecos(lookup::frmPesquisa& lista) {
   if (falha == 0) lista.ShowModal();
   lista.Unload();
   fundo.Remover();
-  if (zvfApelidoOuNomeFantasiaDoCliente.Enabled()) {
-    zvfApelidoOuNomeFantasiaDoCliente.SetFocus();
-  } else {
-    optServico.SetFocus();
-  }
+  VoltarAoAtendimento();
 }
 
 }  // namespace sale

@@ -16,7 +16,8 @@
 
 namespace registers {
 struct Movimento;
-}
+struct ReversaoDeVenda;
+}  // namespace registers
 namespace lookup {
 class frmPesquisa;
 struct Selecao;
@@ -73,6 +74,12 @@ class frmCaixaOperar final : public TelaDoBalcao {
   void tbMenuCaixa_ButtonClick(platform::ToolbarButton& botao);
   void AbrirOuFechar(const registers::Movimento& movimento);
   void Movimentar(const registers::Movimento& movimento, std::string_view mensagem);
+  void Reverter(const registers::ReversaoDeVenda& reversao, std::string_view mensagem);
+  template <class Formulario>
+  void Concluir(Formulario& formulario, std::string_view mensagem);
+  void Comprovantes();
+  void Relatorios();
+  void VoltarAoAtendimento();
   void CreditoDoCliente();
   void ConsultarHistoricoDeVendas();
   void Orcamentos();

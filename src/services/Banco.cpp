@@ -22,6 +22,22 @@ Banco::Banco(std::unique_ptr<Session> sessao, const base::Clock& relogio, std::s
 
 Banco::~Banco() = default;
 
+void Banco::SessaoDoUsuario(const base::Record* dados) {
+  if (dados != sessaoDoUsuario_) EsquecerConsentimento();
+  sessaoDoUsuario_ = dados;
+}
+
+const base::Record* Banco::Consentimento() const {
+  constexpr double kSegundosDeValidade = 15 * 60;
+  const bool vale = Decorridos() - consentidoEm_ <= kSegundosDeValidade;
+  return vale ? consentimento_.get() : nullptr;
+}
+
+void Banco::Consentir(std::shared_ptr<const base::Record> usuario) {
+  consentimento_ = std::move(usuario);
+  consentidoEm_ = Decorridos();
+}
+
 void Banco::Avisar(const std::string& frase) {
   if (aoAvisar_) aoAvisar_(frase);
 }

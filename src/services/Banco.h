@@ -54,7 +54,12 @@ class Banco {
   /// The session record that a service was given last, null before; it is the host's, and lives
   /// as long as the host lets it.
   const base::Record* SessaoDoUsuario() const { return sessaoDoUsuario_; }
-  void SessaoDoUsuario(const base::Record* dados) { sessaoDoUsuario_ = dados; }
+  void SessaoDoUsuario(const base::Record* dados);
+  /// The user who was authenticated last, until what they were asked for is registered, and for 15
+  /// minutes at most; null for none. Another session begins without.
+  const base::Record* Consentimento() const;
+  void Consentir(std::shared_ptr<const base::Record> usuario);
+  void EsquecerConsentimento() { consentimento_.reset(); }
   /// The customer that this computer locked last and has not freed since; 0 for none.
   std::int32_t ClienteEmAtendimento() const { return clienteEmAtendimento_; }
   void ClienteEmAtendimento(std::int32_t codigo) { clienteEmAtendimento_ = codigo; }
@@ -110,6 +115,8 @@ class Banco {
   std::function<void()> correrEventos_;
   std::function<void(const std::string&)> aoAvisar_;
   const base::Record* sessaoDoUsuario_ = nullptr;
+  std::shared_ptr<const base::Record> consentimento_;
+  double consentidoEm_ = 0;  ///< By the clock's seconds.
   std::int32_t clienteEmAtendimento_ = 0;
   std::int32_t cupomEmAndamento_ = 0;
   std::unique_ptr<services::Registros> registros_;

@@ -13,7 +13,7 @@
 #include "desktop/Stage.h"
 #include "desktop/reports/Pdf.h"
 #include "desktop/reports/QtMeasure.h"
-#include "desktop/reports/frmSalvarPDF.h"
+#include "desktop/reports/frmSalvarDocumento.h"
 #include "desktop/reports/frmVisualizacao.h"
 #include "platform/Screens.h"
 #include "support/Receipt.h"
@@ -22,7 +22,7 @@
 namespace {
 
 using desktop::ToQt;
-using desktop::reports::frmSalvarPDF;
+using desktop::reports::frmSalvarDocumento;
 using desktop::reports::frmVisualizacao;
 
 /// What a program of the outside tells of a PDF.
@@ -45,7 +45,9 @@ class PreviewTest : public stage::Stage {
   static frmVisualizacao& Preview() {
     return dynamic_cast<frmVisualizacao&>(*platform::screens::Modal());
   }
-  static frmSalvarPDF& Saving() { return dynamic_cast<frmSalvarPDF&>(*platform::screens::Modal()); }
+  static frmSalvarDocumento& Saving() {
+    return dynamic_cast<frmSalvarDocumento&>(*platform::screens::Modal());
+  }
   static bool IsUp(std::string_view name) {
     return platform::screens::Modal() != nullptr && platform::screens::Modal()->Name() == name;
   }
@@ -251,7 +253,7 @@ TEST_F(PreviewTest, TheHostMayCloseMeanwhile) {
   bool wentOn = false;
   Then({[&] { Click(Preview().zvcmdSalvar); },
         [&] {
-          EXPECT_TRUE(IsUp("frmSalvarPDF"));
+          EXPECT_TRUE(IsUp("frmSalvarDocumento"));
           desktop->ShutDown([&] { ++unwound; });
         }});
   platform::input::Run([&] {

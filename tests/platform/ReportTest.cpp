@@ -337,7 +337,7 @@ TEST(Report, BreaksASectionThatIsHigherThanAPageBetweenItsLines) {
   std::int32_t framed = 0;
   for (const ReportPage& page : pages.pages) {
     CheckPage(page);
-    for (const PrintedRule& rule : page.rules) framed += rule.isBox ? rule.height : 0;
+    for (const PrintedRule& rule : page.rules) framed += rule.kind == platform::PrintedRule::Kind::kBox ? rule.height : 0;
   }
   EXPECT_EQ(framed, 440 + 41 * 216) << "the frame goes on over the pages";
 }

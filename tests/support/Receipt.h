@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/Record.h"
-#include "checkout/drComprovanteDePagamentoDeVenda.h"
+#include "checkout/drComprovante.h"
 
 namespace support {
 

@@ -10,7 +10,8 @@
 #include "desktop/reports/PageArea.h"
 #include "desktop/reports/Pdf.h"
 #include "desktop/reports/QtMeasure.h"
-#include "desktop/reports/frmSalvarPDF.h"
+#include "desktop/reports/Spreadsheet.h"
+#include "desktop/reports/frmSalvarDocumento.h"
 #include "desktop/reports/frmVisualizacao.h"
 #include "desktop/views/View.h"
 
@@ -72,7 +73,7 @@ class Darkness {
 }  // namespace
 
 void DesktopQt::Preview(platform::DataReport& report) {
-  ShowPages(Composed(report, Now()));
+  ShowPages(Composed(report, Now()), platform::TableOf(report));
 }
 
 void DesktopQt::Print(platform::DataReport& report) {
@@ -84,15 +85,15 @@ void DesktopQt::Print(platform::DataReport& report) {
     TellTrouble(std::string(failure.what()) +
                 " O documento será aberto na tela: dali pode ser salvo em PDF.");
   }
-  ShowPages(pages);
+  ShowPages(pages, platform::TableOf(report));
 }
 
 void DesktopQt::TellTrouble(const std::string& sentence) {
   Ask({sentence, kBoxTitle, platform::Icon::kStop, platform::Buttons::kOk, platform::Answer::kOk});
 }
 
-void DesktopQt::ShowPages(const PagesPtr& pages) {
-  reports::frmVisualizacao form(pages);
+void DesktopQt::ShowPages(const PagesPtr& pages, const platform::ReportTable& table) {
+  reports::frmVisualizacao form(pages, !table.heads.empty());
   form.Activate = [this, &form] {
     if (form.Pages() == nullptr) form.Attach(*ViewOf(form.picPaginas));
     form.zvcmdImprimir.SetFocus();
@@ -106,7 +107,14 @@ void DesktopQt::ShowPages(const PagesPtr& pages) {
     }
     form.Hide();
   };
-  form.aoSalvar = [this, &pages] { SavePages(*pages); };
+  form.aoSalvar = [this, &pages] {
+    Save(*pages, {{"PDF", ".pdf"}},
+         [&](const std::string& path) { reports::WritePdf(*pages, path); });
+  };
+  form.aoSalvarPlanilha = [this, &pages, &table] {
+    Save(*pages, {{"planilha", ".xlsx"}, {"texto", ".csv"}},
+         [&](const std::string& path) { reports::WriteTable(table, path); });
+  };
   QWidget* const host = windows_.Host();
   const Darkness darkness(*this, host);
   std::unique_ptr<FillHost> filling;
@@ -114,10 +122,12 @@ void DesktopQt::ShowPages(const PagesPtr& pages) {
   form.ShowModal();
 }
 
-void DesktopQt::SavePages(const platform::ReportPages& pages) {
+void DesktopQt::Save(const platform::ReportPages& pages,
+                     const std::vector<reports::frmSalvarDocumento::Formato>& formats,
+                     const std::function<void(const std::string& path)>& write) {
   const auto save = [&](const std::string& path) {
     try {
-      reports::WritePdf(pages, path);
+      write(path);
     } catch (const std::runtime_error& failure) {
       TellTrouble(failure.what());
       return false;
@@ -126,10 +136,10 @@ void DesktopQt::SavePages(const platform::ReportPages& pages) {
   };
   const std::string name = reports::FileNameOf(pages, Now());
   if (printing_.saveAs) {
-    save(printing_.saveAs(name));
+    save(printing_.saveAs(name + formats.front().final));
     return;
   }
-  reports::frmSalvarPDF form(reports::UsualPlaces(), name);
+  reports::frmSalvarDocumento form(reports::UsualPlaces(), name, formats);
   form.aoSalvar = save;
   form.ShowModal();
 }

@@ -52,10 +52,14 @@ class Setter {
 
 void Draw(QPainter& painter, const platform::PrintedRule& rule) {
   const QRectF place = PlaceOf(rule);
-  if (rule.isBox) {
-    painter.drawRect(place);
-  } else {
-    painter.drawLine(place.topLeft(), place.bottomRight());
+  switch (rule.kind) {
+    case platform::PrintedRule::Kind::kBox:
+      return painter.drawRect(place);
+    case platform::PrintedRule::Kind::kBar:
+      // Dark enough on any printer, and apart from the black of the words.
+      return painter.fillRect(place, QColor(90, 90, 90));
+    case platform::PrintedRule::Kind::kLine:
+      return painter.drawLine(place.topLeft(), place.bottomRight());
   }
 }
 

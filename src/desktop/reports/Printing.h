@@ -15,8 +15,8 @@ struct Printing {
   /// into numbered PDF files in that folder, for a computer without a printer; a folder that is not
   /// absolute counts from that of the module.
   std::string printer;
-  /// For scripted runs: where to save a document as PDF, given its usual name, instead of asking
-  /// the operator.
+  /// For scripted runs: where to save a document, given its usual name with the ending, instead of
+  /// asking the operator.
   std::function<std::string(const std::string& name)> saveAs;
 };
 

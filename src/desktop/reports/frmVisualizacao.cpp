@@ -52,8 +52,9 @@ class CommandKeys final : public QObject {
 
 }  // namespace
 
-frmVisualizacao::frmVisualizacao(std::shared_ptr<const platform::ReportPages> report)
+frmVisualizacao::frmVisualizacao(std::shared_ptr<const platform::ReportPages> report, bool isTable)
     : Form("frmVisualizacao"), report_(std::move(report)) {
+  zvcmdPlanilha.Visible.Assign(isTable);
   Caption.Assign(report_->title.empty() ? "Visualizar impressão" : report_->title);
   // What stands at the left is placed as the room allows.
   const auto picture = [](platform::Control& control, std::string_view does,
@@ -62,43 +63,50 @@ frmVisualizacao::frmVisualizacao(std::shared_ptr<const platform::ReportPages> re
         control, {0, 210, 510, 480}, "", Look::kNormal, platform::kHoldTopLeft, does, icon};
   };
   constexpr auto kRight = platform::kHoldTopRight;
-  Arrange({.size = {kWidth, kHeight},
-           .places = {
-               {picPaginas, {0, 0, kWidth, kTop}, "", Look::kNormal, platform::kHoldAll},
-               {picRodape, {0, kTop, kWidth, kBar}, "", Look::kFooter, kHoldFoot},
-               picture(zvcmdDiminuir, "Diminuir (-)", "smaller"),
-               picture(zvcmdAumentar, "Aumentar (+)", "larger"),
-               picture(zvcmdLargura, "Ajustar à largura", "page-width"),
-               picture(zvcmdPaginaInteira, "Página inteira", "whole-page"),
-               {zvcmdTamanhoReal,
-                {0, 210, 930, 480},
-                "100%",
-                Look::kNormal,
-                platform::kHoldTopLeft,
-                "Tamanho real"},
-               picture(zvcmdPrimeira, "Primeira página (Home)", "first"),
-               picture(zvcmdAnterior, "Página anterior", "previous"),
-               picture(zvcmdProxima, "Próxima página", "next"),
-               picture(zvcmdUltima, "Última página (End)", "last"),
-               {zvcmdFechar, {8460, 210, 1200, 480}, "Fechar", Look::kNormal, kRight},
-               {zvcmdSalvar,
-                {9810, 210, 1950, 480},
-                "Salvar PDF",
-                Look::kNormal,
-                kRight,
-                "Salvar em um arquivo PDF (Ctrl+S)",
-                "save"},
-               {zvcmdImprimir,
-                {11910, 210, 1950, 480},
-                "Imprimir",
-                Look::kPrimary,
-                kRight,
-                "Imprimir (Ctrl+P)",
-                "printer"},
-               // Last, since a label that stands before a control would name it.
-               {lblTamanho, {0, 330, 540, 240}, "100%", Look::kHint},
-               {lblPagina, {0, 330, 1500, 240}, "", Look::kHint},
-           }});
+  Arrange(
+      {.size = {kWidth, kHeight},
+       .places = {
+           {picPaginas, {0, 0, kWidth, kTop}, "", Look::kNormal, platform::kHoldAll},
+           {picRodape, {0, kTop, kWidth, kBar}, "", Look::kFooter, kHoldFoot},
+           picture(zvcmdDiminuir, "Diminuir (-)", "smaller"),
+           picture(zvcmdAumentar, "Aumentar (+)", "larger"),
+           picture(zvcmdLargura, "Ajustar à largura", "page-width"),
+           picture(zvcmdPaginaInteira, "Página inteira", "whole-page"),
+           {zvcmdTamanhoReal,
+            {0, 210, 930, 480},
+            "100%",
+            Look::kNormal,
+            platform::kHoldTopLeft,
+            "Tamanho real"},
+           picture(zvcmdPrimeira, "Primeira página (Home)", "first"),
+           picture(zvcmdAnterior, "Página anterior", "previous"),
+           picture(zvcmdProxima, "Próxima página", "next"),
+           picture(zvcmdUltima, "Última página (End)", "last"),
+           {zvcmdFechar, {isTable ? 7110 : 8460, 210, 1200, 480}, "Fechar", Look::kNormal, kRight},
+           {zvcmdPlanilha,
+            {8460, 210, 1200, 480},
+            "Planilha",
+            Look::kNormal,
+            kRight,
+            "Salvar as linhas em uma planilha"},
+           {zvcmdSalvar,
+            {9810, 210, 1950, 480},
+            "Salvar PDF",
+            Look::kNormal,
+            kRight,
+            "Salvar em um arquivo PDF (Ctrl+S)",
+            "save"},
+           {zvcmdImprimir,
+            {11910, 210, 1950, 480},
+            "Imprimir",
+            Look::kPrimary,
+            kRight,
+            "Imprimir (Ctrl+P)",
+            "printer"},
+           // Last, since a label that stands before a control would name it.
+           {lblTamanho, {0, 330, 540, 240}, "100%", Look::kHint},
+           {lblPagina, {0, 330, 1500, 240}, "", Look::kHint},
+       }});
   defaultButton = &zvcmdImprimir;
   cancelButton = &zvcmdFechar;
   TakeCommands();
@@ -120,6 +128,7 @@ void frmVisualizacao::TakeCommands() {
   zvcmdUltima.Click = [this] { pages_->GoTo(pages_->PageCount() - 1); };
   zvcmdFechar.Click = [this] { Hide(); };
   zvcmdSalvar.Click = [this] { aoSalvar(); };
+  zvcmdPlanilha.Click = [this] { aoSalvarPlanilha(); };
   zvcmdImprimir.Click = [this] { aoImprimir(); };
 }
 

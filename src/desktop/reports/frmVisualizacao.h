@@ -18,10 +18,11 @@ namespace desktop::reports {
 class PageArea;
 
 /// The preview of a report: its sheets as they will be printed, to be looked at in any size,
-/// printed, and saved as PDF.
+/// printed, and saved as PDF or, where it is a list, as a spreadsheet.
 class frmVisualizacao final : public platform::Form {
  public:
-  explicit frmVisualizacao(std::shared_ptr<const platform::ReportPages> report);
+  /// `isTable`: its rows may be saved as a table too.
+  frmVisualizacao(std::shared_ptr<const platform::ReportPages> report, bool isTable);
   ~frmVisualizacao() override;
 
   platform::PictureBox picPaginas{*this, "picPaginas"};
@@ -38,11 +39,12 @@ class frmVisualizacao final : public platform::Form {
   platform::ZVCommandButton zvcmdProxima{picRodape, "zvcmdProxima"};
   platform::ZVCommandButton zvcmdUltima{picRodape, "zvcmdUltima"};
   platform::ZVCommandButton zvcmdFechar{picRodape, "zvcmdFechar"};
+  platform::ZVCommandButton zvcmdPlanilha{picRodape, "zvcmdPlanilha"};
   platform::ZVCommandButton zvcmdSalvar{picRodape, "zvcmdSalvar"};
   platform::ZVCommandButton zvcmdImprimir{picRodape, "zvcmdImprimir"};
 
-  /// The operator wants it printed, or saved.
-  std::function<void()> aoImprimir, aoSalvar;
+  /// The operator wants it printed, saved, or its rows saved.
+  std::function<void()> aoImprimir, aoSalvar, aoSalvarPlanilha;
 
   /// Lays the sheets over the place of picPaginas; once the form is up.
   void Attach(QWidget& place);

@@ -1,7 +1,5 @@
 #include "services/banco/Fields.h"
 
-#include <vector>
-
 namespace services {
 namespace {
 
@@ -36,7 +34,8 @@ std::string ColumnsOf(std::span<const Field> fields) {
 }
 
 Selected SelectRows(Session& session, std::span<const Field> fields, const Statement& statement,
-                    const Params& params, std::int64_t most) {
+                    const Params& params, std::int64_t most,
+                    const std::function<void(std::vector<base::Value>&)>& finish) {
   std::vector<std::string> names;
   names.reserve(fields.size());
   for (const Field& field : fields) names.emplace_back(field.name);
@@ -51,6 +50,7 @@ Selected SelectRows(Session& session, std::span<const Field> fields, const State
     values.reserve(fields.size());
     int column = 0;
     for (const Field& field : fields) values.push_back(ValueOf(row, column++, field.kind));
+    if (finish) finish(values);
     rows->Append(std::move(values));
   });
   return {rows, more};

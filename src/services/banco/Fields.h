@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Record.h"
 #include "services/banco/Session.h"
@@ -29,12 +31,13 @@ struct Field {
 std::string ColumnsOf(std::span<const Field> fields);
 
 /// The rows of a selection whose columns are those of the fields, in their order; at most `most` of
-/// them. `more` tells whether there were further ones.
+/// them. `more` tells whether there were further ones. `finish` may change the values of a row.
 struct Selected {
   base::RecordSetPtr rows;
   bool more = false;
 };
 Selected SelectRows(Session& session, std::span<const Field> fields, const Statement& statement,
-                    const Params& params, std::int64_t most = INT64_MAX);
+                    const Params& params, std::int64_t most = INT64_MAX,
+                    const std::function<void(std::vector<base::Value>&)>& finish = {});
 
 }  // namespace services

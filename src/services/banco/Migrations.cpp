@@ -472,6 +472,13 @@ CREATE TABLE cancelamentos_de_venda (
 CREATE INDEX cancelamentos_por_venda ON cancelamentos_de_venda (numero_da_venda, numero);
 )sql";
 
+/// The cash reports read the entries of a register and its days by this index alone.
+constexpr std::string_view kReportsByIndex = R"sql(
+DROP INDEX lancamentos_por_caixa;
+CREATE INDEX lancamentos_por_caixa ON lancamentos_de_caixa
+  (numero_do_caixa, data_e_hora, tipo, moeda, valor, numero_da_venda);
+)sql";
+
 /// The index of a table's names keeps no copy of them: it follows its table through triggers.
 constexpr std::string_view kSearchOnSqlite = R"sql(
 CREATE VIRTUAL TABLE {t}_busca USING fts5(nome_busca, content='{t}', content_rowid='{k}',
@@ -507,6 +514,7 @@ constexpr Migration kMigrations[] = {
     {5, kCoupons, {}},
     {6, kKeysOfAnyLength, {}},
     {7, kReversals, {}},
+    {8, kReportsByIndex, {}},
 };
 
 }  // namespace

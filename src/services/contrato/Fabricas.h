@@ -26,6 +26,7 @@ ServicoNovo NovoClsLogin(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsObterVersaoDoSO(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsOrcamentos(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsProdutos(const std::shared_ptr<Banco>& banco);
+ServicoNovo NovoClsRelFin(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsServicos(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsServicosEProdutos(const std::shared_ptr<Banco>& banco);
 ServicoNovo NovoClsTiposDeServ(const std::shared_ptr<Banco>& banco);

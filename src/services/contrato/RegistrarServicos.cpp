@@ -13,6 +13,7 @@
 #include "frame/servicos/ZOVA_N_Funcionarios.clsFuncionarios.h"
 #include "frame/servicos/ZOVA_N_Login.clsLogin.h"
 #include "frame/servicos/ZOVA_N_Produtos.clsProdutos.h"
+#include "frame/servicos/ZOVA_N_RelFin.clsRelFin.h"
 #include "frame/servicos/ZOVA_N_SO.clsObterVersaoDoSO.h"
 #include "frame/servicos/ZOVA_N_Servicos.clsServicos.h"
 #include "frame/servicos/ZOVA_N_TipoDeServ.clsTiposDeServ.h"
@@ -43,6 +44,7 @@ constexpr Entry kEntries[] = {
     {servicos::ZOVA_N_Login::clsLogin::kIdentificador, NovoClsLogin},
     {servicos::ZOVA_N_SO::clsObterVersaoDoSO::kIdentificador, NovoClsObterVersaoDoSO},
     {servicos::ZOVA_N_Produtos::clsProdutos::kIdentificador, NovoClsProdutos},
+    {servicos::ZOVA_N_RelFin::clsRelFin::kIdentificador, NovoClsRelFin},
     {servicos::ZOVA_N_Servicos::clsServicos::kIdentificador, NovoClsServicos},
     {servicos::ZOVA_N_Caixa::clsServicosEProdutos::kIdentificador, NovoClsServicosEProdutos},
     {servicos::ZOVA_N_TipoDeServ::clsTiposDeServ::kIdentificador, NovoClsTiposDeServ},

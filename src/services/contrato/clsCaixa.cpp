@@ -11,7 +11,9 @@
 #include "services/venda/Cupons.h"
 #include "services/venda/Movimento.h"
 #include "services/venda/RegistroDeVenda.h"
+#include "services/venda/Reversao.h"
 #include "services/venda/VendaDasGrades.h"
+#include "services/venda/VendasDoDia.h"
 
 namespace services {
 namespace {
@@ -122,6 +124,27 @@ class clsCaixa : public SobreBanco<Contrato> {
   }
   std::int32_t NumeroDaVenda() override { return numeroDaVenda_; }
 
+  std::int16_t CancelarVenda(double numeroDaVenda, std::string_view motivo) override {
+    return Numerado("CancelarVenda", [&] { Reverter(false, numeroDaVenda, motivo); });
+  }
+  std::int16_t DesfazerCancelamento(double numeroDaVenda, std::string_view motivo) override {
+    return Numerado("DesfazerCancelamento", [&] { Reverter(true, numeroDaVenda, motivo); });
+  }
+
+  std::int16_t PesquisarVendaDoDia(std::string_view situacao, std::int32_t& numeroDoCaixa,
+                                   std::int32_t, std::int16_t) override {
+    return Numerado("PesquisarVendaDoDia", [&] {
+      // Whoever lists sales begins anew: nobody has consented to anything yet.
+      banco().EsquecerConsentimento();
+      outcome_.rows = VendasDoDia(sessao(), situacao, numeroDoCaixa, banco().Agora());
+    });
+  }
+  std::int16_t PesquisarItensDaVenda(double numeroDaVenda) override {
+    return Numerado("PesquisarItensDaVenda", [&] {
+      outcome_.rows = ItensDeUmaVenda(sessao(), CodeIn(numeroDaVenda).value_or(0));
+    });
+  }
+
   std::int16_t SelecionarItensDeVenda(std::string_view condicao) override {
     return Numerado("SelecionarItensDeVenda", [&] {
       static const Statement lines("SELECT " + ColumnsOf(kItensDoComprovante) +
@@ -162,6 +185,40 @@ class clsCaixa : public SobreBanco<Contrato> {
     venda.operacao = NumeroUnico();
     venda.cupom = CupomDaVenda(banco(), venda);
     numeroDaVenda_ = RegistrarVenda(banco(), venda);
+  }
+
+  void Reverter(bool desfaz, double numero, std::string_view motivo) {
+    constexpr std::string_view kDireito = "PermissaoDoModuloCaixaCancelarVendas";
+    if (base::Trim(motivo).empty()) {
+      throw Refusal{.sentence = "O motivo está em branco. Informe-o e confirme de novo."};
+    }
+    ReverterVenda(banco(), {.desfaz = desfaz,
+                            .numeroDaVenda = CodeIn(numero).value_or(0),
+                            .numeroDoCaixa = movimento_.numeroDoCaixa,
+                            .quando = banco().Agora(),
+                            .operacao = NumeroUnico(),
+                            .operador = base::ToText(DaSessao("NomeDeUsuario")),
+                            .motivo = base::Trim(motivo),
+                            .consentidoPor = QuemConsentiu(kDireito)});
+    banco().EsquecerConsentimento();
+  }
+
+  /// A field of the session, null where there is none.
+  base::Value DaSessao(std::string_view campo) const {
+    return dados() == nullptr ? base::Value() : dados()->Field(campo);
+  }
+
+  /// Who lets the user do what their own rights do not; empty for one who has the right. Throws
+  /// Refusal when nobody with the right has been asked.
+  std::string QuemConsentiu(std::string_view direito) {
+    if (base::ToBool(DaSessao(direito))) return {};
+    const base::Record* supervisor = banco().Consentimento();
+    if (supervisor != nullptr && base::ToBool(supervisor->Field(direito))) {
+      return base::ToText(supervisor->Field("NomeDeUsuario"));
+    }
+    throw Refusal{.sentence =
+                      "O usuário não tem permissão para isto, e nenhum supervisor autorizou. Peça "
+                      "a autorização de um supervisor."};
   }
 
   void Mover(servicos::TipoDeMovimento tipo, const char* descricao, base::Currency valor) {

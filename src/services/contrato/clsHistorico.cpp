@@ -20,9 +20,8 @@ using enum Field::Kind;
 /// More than anybody looks through; the walk-in customer buys all day.
 constexpr std::int64_t kMostSales = 2000;
 
-constexpr std::string_view kPagamentos = "Pagamentos";
-
 /// The tenders are written into their place afterwards.
+constexpr std::size_t kTendersColumn = 9;
 constexpr Field kSales[] = {
     {"Numero", kNumber, "numero"},
     {"DataEHora", kMoment, "data_e_hora"},
@@ -33,7 +32,7 @@ constexpr Field kSales[] = {
     {"ValorLiquido", kMoney, "valor_liquido"},
     {"Situacao", kText, "CASE WHEN situacao = {cancelada} THEN 'Cancelada' ELSE 'Efetuada' END"},
     {"ChaveSAT", kText, "chave_sat"},
-    {kPagamentos, kText, "''"},
+    {"Pagamentos", kText, "''"},
     {"DescontoNosItens", kMoney, kDescontoNosItens},
     {"DescontoDaVenda", kMoney, kDescontoDaVenda},
 };
@@ -78,8 +77,15 @@ class clsHistorico : public SobreBanco<Contrato> {
     return Numerado("SelecionarVendas", [&] {
       static const Statement select(ComCodigos(SalesOfPeriod(ColumnsOf(kSales))));
       const Params period{CodeIn(codigoDoCliente).value_or(0), de.Date(), ate.Date().PlusDays(1)};
-      const Selected sales = SelectRows(sessao(), kSales, select, period, kMostSales);
-      outcome_.rows = WithTenders(*sales.rows, TendersOf(sessao(), period));
+      const auto tenders = TendersOf(sessao(), period);
+      const Selected sales = SelectRows(sessao(), kSales, select, period, kMostSales,
+                                        [&](std::vector<base::Value>& sale) {
+                                          const auto found = tenders.find(base::ToInt32(sale[0]));
+                                          if (found != tenders.end()) {
+                                            sale[kTendersColumn] = found->second;
+                                          }
+                                        });
+      outcome_.rows = sales.rows;
       if (sales.more) {
         outcome_.sentence =
             "Há mais vendas no período: só as 2.000 mais recentes estão na lista. Informe um "
@@ -95,26 +101,6 @@ class clsHistorico : public SobreBanco<Contrato> {
           " FROM itens_de_venda WHERE numero_da_venda = $1 ORDER BY item");
       outcome_.rows = SelectRows(sessao(), kItems, select, {numeroDaVenda}).rows;
     });
-  }
-
- private:
-  static base::RecordSetPtr WithTenders(base::RecordSet& sales,
-                                        const std::map<std::int32_t, std::string>& tenders) {
-    std::vector<std::string> names;
-    names.reserve(sales.FieldCount());
-    for (std::int32_t i = 0; i < sales.FieldCount(); ++i) names.push_back(sales.FieldName(i));
-    const auto rows = std::make_shared<base::RecordSet>(std::move(names));
-    base::ForEachRow(sales, [&] {
-      std::vector<base::Value> row;
-      const auto found = tenders.find(base::ToInt32(sales.Fields("Numero")));
-      for (std::int32_t i = 0; i < sales.FieldCount(); ++i) {
-        const bool isPaid = found != tenders.end() && sales.FieldName(i) == kPagamentos;
-        row.push_back(isPaid ? base::Value(found->second) : sales.Fields(i));
-      }
-      rows->Append(std::move(row));
-    });
-    rows->MoveFirst();
-    return rows;
   }
 };
 

@@ -79,6 +79,9 @@ class clsLogin : public SobreBanco<Contrato> {
       }
       EsquecerTentativas(banco(), nome_);
       outcome_.rows = SelectRows(sessao(), kFields, rights, {codigo}).rows;
+      const auto user = std::make_shared<base::RecordSet>(*outcome_.rows);
+      user->MoveFirst();
+      banco().Consentir(user);
     });
   }
 

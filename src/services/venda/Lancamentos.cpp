@@ -56,17 +56,16 @@ Params LinhaDoLancamento(const Lancamento& lancamento) {
   return Valores(kColunas, lancamento);
 }
 
-void Lancar(Session& session, Transaction& transaction, const std::vector<Lancamento>& lancamentos,
-            const Passagem& passagem) {
+void Lancar(Session& session, Transaction& transaction, std::int32_t numeroDoCaixa,
+            const std::vector<Lancamento>& lancamentos, const Passagem& passagem) {
   static const Statement enter("INSERT INTO lancamentos_de_caixa (" + Nomes(ColunasDoLancamento()) +
                                ", numero_da_venda, estorna, consentido_por) VALUES (" +
                                Places(ColunasDoLancamento().size() + 3) + ")");
-  if (lancamentos.empty()) return;
   base::Currency cash;
   for (const Lancamento& each : lancamentos) {
     if (each.moeda == servicos::pagamento::kDinheiro) cash += each.valor;
   }
-  MoveCash(session, lancamentos.front().numeroDoCaixa, cash, passagem);
+  MoveCash(session, numeroDoCaixa, cash, passagem);
   for (const Lancamento& each : lancamentos) {
     Params row = LinhaDoLancamento(each);
     row.push_back(NumeroOuNulo(each.numeroDaVenda));

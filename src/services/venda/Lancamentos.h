@@ -38,12 +38,13 @@ struct Passagem {
   bool ficaAberto = true;
 };
 
-/// Writes the entries of one register in the open transaction, and moves the cash among them in
-/// the drawer at once. They prove the transaction, but for a sale's and a settlement's, which what
+/// Writes entries of the register in the open transaction, and moves the cash among them in the
+/// drawer at once; without any the register has to be open all the same, and stays so until the
+/// transaction ends. They prove the transaction, but for a sale's and a settlement's, which what
 /// goes with them proves. Throws Refusal: 41, 43, 51 or 52 for the register's state, 2 when more
 /// cash would leave the drawer than is in it. Throws DatabaseError: kConstraint when an entry was
 /// taken back before.
-void Lancar(Session& session, Transaction& transaction, const std::vector<Lancamento>& lancamentos,
-            const Passagem& passagem = {});
+void Lancar(Session& session, Transaction& transaction, std::int32_t numeroDoCaixa,
+            const std::vector<Lancamento>& lancamentos, const Passagem& passagem = {});
 
 }  // namespace services

@@ -48,7 +48,7 @@ Registro Told(const Lancamento& movement) {
 void RegistrarMovimento(Banco& banco, const Lancamento& movimento) {
   banco.Registros().Registrar(Told(movimento), [&](std::int32_t&) {
     InTransaction(banco.Sessao(), [&](Transaction& transaction) {
-      Lancar(banco.Sessao(), transaction, {movimento},
+      Lancar(banco.Sessao(), transaction, movimento.numeroDoCaixa, {movimento},
              {.exigeAberto = NeedsOpenRegister(movimento.tipo),
               .ficaAberto = LeavesRegisterOpen(movimento.tipo)});
     });

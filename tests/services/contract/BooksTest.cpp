@@ -89,7 +89,7 @@ TEST_P(BooksTest, ASaleIsTakenBackAndRestoredAndTheBooksBalance) {
   Sell();
   EXPECT_EQ("50 30 aberta 4 2", State());
   const auto cancel = [&](Transaction& transaction) {
-    Lancar(session(), transaction, {Reversal(71, 1, -60_brl), Reversal(71, 4, 10_brl)});
+    Lancar(session(), transaction, 1, {Reversal(71, 1, -60_brl), Reversal(71, 4, 10_brl)});
     MoverCredito(session(), Credit(71, 20_brl));
     BaixarContas(session(), transaction, {Closing(71, servicos::kContaCancelada)});
     NoteCancellation(71, "C");
@@ -100,7 +100,7 @@ TEST_P(BooksTest, ASaleIsTakenBackAndRestoredAndTheBooksBalance) {
   ExpectBooksBalance();
   EXPECT_NE("", Do(cancel)) << "each entry is taken back once";
   EXPECT_EQ("", Do([&](Transaction& transaction) {
-              Lancar(session(), transaction, {Reversal(72, 5, 60_brl), Reversal(72, 6, -10_brl)});
+              Lancar(session(), transaction, 1, {Reversal(72, 5, 60_brl), Reversal(72, 6, -10_brl)});
               MoverCredito(session(), Credit(72, -20_brl));
               EXPECT_EQ(1, ReabrirContas(session(), 1, clock_.now, "renata"));
               NoteCancellation(72, "F");
@@ -125,10 +125,10 @@ TEST_P(BooksTest, WhatWouldBreakTheBooksIsRefusedWhole) {
       "Há 50,00 em dinheiro neste caixa, menos do que os 51,00 que sairiam. Informe um valor "
       "menor.",
       [&](Transaction& transaction) {
-        Lancar(session(), transaction, {Reversal(80, 1, -60_brl), Reversal(80, 4, 9_brl)});
+        Lancar(session(), transaction, 1, {Reversal(80, 1, -60_brl), Reversal(80, 4, 9_brl)});
       });
   refused("constraint", [&](Transaction& transaction) {
-    Lancar(session(), transaction, {Reversal(80, 1, -1_brl), Reversal(80, 1, 1_brl)});
+    Lancar(session(), transaction, 1, {Reversal(80, 1, -1_brl), Reversal(80, 1, 1_brl)});
   });
   refused(
       "O crédito do cliente agora é de 31,00 e não cobre os 31,01 que sairiam. Nada foi registrado;"
@@ -164,7 +164,7 @@ TEST_P(BooksTest, ASettlementEntersEachTenderAndReplacesADebt) {
               cash.numeroDaVenda = 0;
               auto pix = cash;
               pix.moeda = servicos::pagamento::kPix;
-              Lancar(session(), transaction, {cash, pix});
+              Lancar(session(), transaction, 1, {cash, pix});
               AbrirContas(session(), {{.codigoDoCliente = 5,
                                        .apelidoDoCliente = "Dudu",
                                        .nomeDoCliente = "Eduardo",

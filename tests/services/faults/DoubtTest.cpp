@@ -251,7 +251,7 @@ TEST_P(CutDoubtTest, WhatClosesADebtOrPaysCreditInIsFoundByItsProof) {
         BaixarContas(session(), transaction,
                      {{.numero = 1, .valor = 100_brl, .quando = clock_.now, .operacao = 91}});
       } else {
-        Lancar(session(), transaction,
+        Lancar(session(), transaction, 1,
                {{.operacao = 92,
                  .numeroDoCaixa = 1,
                  .quando = clock_.now,

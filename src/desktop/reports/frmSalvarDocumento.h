@@ -13,16 +13,23 @@
 
 namespace desktop::reports {
 
-/// Asks into which folder and under which name a document is saved as PDF.
-class frmSalvarPDF final : public platform::Form {
+/// Asks into which folder, under which name and, where there are several, in which format a
+/// document is saved.
+class frmSalvarDocumento final : public platform::Form {
  public:
   /// A folder that the operator knows by a name.
   struct Lugar {
     std::string nome, pasta;
   };
 
-  /// `nome` without an ending.
-  frmSalvarPDF(std::vector<Lugar> lugares, const std::string& nome);
+  /// A kind of file, with the ending of its name.
+  struct Formato {
+    std::string nome, final;
+  };
+
+  /// `nome` without an ending; one format at least, the first is the usual one.
+  frmSalvarDocumento(std::vector<Lugar> lugares, const std::string& nome,
+                     std::vector<Formato> formatos);
 
   platform::Label lblLugar{*this, "lblLugar"};
   platform::ZVComboBox zvcmbLugar{*this, "zvcmbLugar"};
@@ -30,6 +37,8 @@ class frmSalvarPDF final : public platform::Form {
   platform::ZVTextBox zvtxtPasta{*this, "zvtxtPasta"};
   platform::Label lblNome{*this, "lblNome"};
   platform::ZVTextBox zvtxtNome{*this, "zvtxtNome"};
+  platform::Label lblFormato{*this, "lblFormato"};
+  platform::ZVComboBox zvcmbFormato{*this, "zvcmbFormato"};
   platform::PictureBox picRodape{*this, "picRodape"};
   platform::ZVCommandButton zvcmdCancelar{picRodape, "zvcmdCancelar"};
   platform::ZVCommandButton zvcmdSalvar{picRodape, "zvcmdSalvar"};
@@ -44,10 +53,11 @@ class frmSalvarPDF final : public platform::Form {
   void Recusar(platform::Label& rotulo, const std::string& frase, platform::ZVTextBox& campo);
 
   std::vector<Lugar> lugares_;
+  std::vector<Formato> formatos_;
 };
 
 /// The folders in which operators keep documents, the usual one first: documents, desktop,
 /// downloads, their own, and what is plugged in.
-std::vector<frmSalvarPDF::Lugar> UsualPlaces();
+std::vector<frmSalvarDocumento::Lugar> UsualPlaces();
 
 }  // namespace desktop::reports

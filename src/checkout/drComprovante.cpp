@@ -1,6 +1,7 @@
-#include "checkout/drComprovanteDePagamentoDeVenda.h"
+#include "checkout/drComprovante.h"
 
 #include "base/Numbers.h"
+#include "frame/Valores.h"
 
 namespace checkout {
 
@@ -19,19 +20,70 @@ constexpr std::string_view kSemValorFiscal = "Este comprovante não tem valor fi
 constexpr std::string_view kAgradecimento = "Obrigado pela preferência!";
 constexpr std::string_view kCreditoParaOCliente = "Crédito para o cliente";
 
+constexpr ReportFont kFonteNaFolha{.points = 9};
+constexpr ReportFont kFonteNaBobina{.points = 8};
+
+bool EhBobina(const Paper& papel) {
+  return papel.kind == Paper::Kind::kRoll80;
+}
+
 }  // namespace
 
-drComprovanteDePagamentoDeVenda::drComprovanteDePagamentoDeVenda(const Paper& papel)
-    : DataReport("drComprovanteDePagamentoDeVenda") {
+drComprovante::drComprovante(std::string_view nome, std::string_view impressao) : DataReport(nome) {
+  Title = std::string(impressao);
   for (platform::ReportText* valor : {&txtValorUnitario, &txtDesconto, &txtValorTotal}) {
     valor->DataFormat = std::string(base::kMoneyMask);
   }
-  Arrange(papel.kind == Paper::Kind::kRoll80 ? EmBobina() : EmFolha());
+}
+
+void drComprovante::Preencher(const Comprovante& comprovante) {
+  lblNomeFantasiaDaEmpresa.Caption = comprovante.empresa;
+  lblNumeroDaVenda.Caption = comprovante.venda;
+  lblCodigoENomeOuRazaoSocialDoCliente.Caption = comprovante.cliente;
+  lblEnderecoDoCliente.Caption = comprovante.endereco;
+  lblCanalDeComunicacaoDoCliente.Caption = comprovante.canais;
+  txtTotalDosServicosEProdutos.Caption = comprovante.total;
+  lblValorPago.Caption = comprovante.rotuloDoPago;
+  txtValorPago.Caption = comprovante.pago;
+  lblTituloDoAplicativo.Caption = frame::valores().NomeDaAplicacao;
+}
+
+drComprovanteDePagamentoDeVenda::drComprovanteDePagamentoDeVenda(const Paper& papel)
+    : drComprovante("drComprovanteDePagamentoDeVenda",
+                    "Imprimir comprovante de pagamento de venda") {
+  constexpr Palavras kPalavras{"Comprovante de pagamento", "COMPROVANTE DE PAGAMENTO",
+                               "Emitido em %d às %t", "%d %t"};
+  const bool bobina = EhBobina(papel);
+  ReportLayout desenho = bobina ? EmBobina(kPalavras) : EmFolha(kPalavras);
+  // Empty ones have no height, so that they leave no gap.
+  const auto par = [&](platform::ReportControl& rotulo, platform::ReportControl& valor,
+                       std::int32_t alto, std::string_view palavras) {
+    const platform::Place::Box doRotulo =
+        bobina ? platform::Place::Box{0, alto, 2900, 0} : platform::Place::Box{2430, alto, 5570, 0};
+    const platform::Place::Box doValor = bobina ? platform::Place::Box{2900, alto, 1181, 0}
+                                                : platform::Place::Box{8160, alto, 2046, 0};
+    const ReportFont fonte = bobina ? kFonteNaBobina : kFonteNaFolha;
+    desenho.places.push_back(
+        {rotulo, doRotulo, palavras, fonte, bobina ? kAEsquerda : kADireita, kCresce});
+    desenho.places.push_back({valor, doValor, "", fonte, kADireita, kCresce});
+  };
+  par(lblTroco, txtTroco, bobina ? 975 : 1080, "");
+  par(lblCredito, txtCredito, bobina ? 1020 : 1140, kCreditoParaOCliente);
+  Arrange(desenho);
+}
+
+dr2aViaDoComprovanteDePagamentoDeVenda::dr2aViaDoComprovanteDePagamentoDeVenda(const Paper& papel)
+    : drComprovante("dr2aViaDoComprovanteDePagamentoDeVenda",
+                    "Imprimir 2a. via do comprovante de pagamento de venda") {
+  constexpr Palavras kPalavras{"Comprovante de pagamento - 2ª via",
+                               "COMPROVANTE DE PAGAMENTO - 2ª VIA", "2ª via impressa em %d às %t",
+                               "%d %t"};
+  Arrange(EhBobina(papel) ? EmBobina(kPalavras) : EmFolha(kPalavras));
 }
 
 // A sheet: a table whose columns stand under their headings on every page. What may be empty has no
 // height of its own, so that it leaves no gap.
-ReportLayout drComprovanteDePagamentoDeVenda::EmFolha() {
+ReportLayout drComprovante::EmFolha(const Palavras& palavras) {
   constexpr ReportFont kTitulo{.points = 15, .bold = true};
   constexpr ReportFont kTotal{.points = 13, .bold = true};
   constexpr ReportFont kDestaque{.points = 11, .bold = true};
@@ -46,14 +98,10 @@ ReportLayout drComprovanteDePagamentoDeVenda::EmFolha() {
                 {RodapeDaPagina, 420}},
       .places = {
           {lblNomeFantasiaDaEmpresa, {0, 0, 6600, 345}, "", kTitulo, kAEsquerda, kCresce},
-          {lblTituloDoComprovante,
-           {6700, 60, 3506, 285},
-           "Comprovante de pagamento",
-           kDestaque,
-           kADireita},
+          {lblTituloDoComprovante, {6700, 60, 3506, 285}, palavras.titulo, kDestaque, kADireita},
           {lblRotuloDaVenda, {0, 420, 960, 285}, "Venda nº", kDestaque},
           {lblNumeroDaVenda, {1020, 420, 4000, 285}, "", kDestaque},
-          {lblEmissao, {6600, 450, 3606, 240}, "Emitido em %d às %t", kTexto, kADireita},
+          {lblEmissao, {6600, 450, 3606, 240}, palavras.emissao, kTexto, kADireita},
           {linCliente, {0, 780, 10206, 0}},
           {lblRotuloDoCliente, {0, 870, 1000, 210}, "Cliente", kForte},
           {lblCodigoENomeOuRazaoSocialDoCliente,
@@ -103,10 +151,6 @@ ReportLayout drComprovanteDePagamentoDeVenda::EmFolha() {
           {txtValorPago, {8160, 540, 2046, 210}, "", kTexto, kADireita},
           {lblSaldoDevedor, {2430, 810, 5570, 210}, "Saldo devedor:", kForte, kADireita},
           {txtSaldoDevedor, {8160, 810, 2046, 210}, "", kForte, kADireita},
-          {lblTroco, {2430, 1080, 5570, 0}, "", kTexto, kADireita, kCresce},
-          {txtTroco, {8160, 1080, 2046, 0}, "", kTexto, kADireita, kCresce},
-          {lblCredito, {2430, 1140, 5570, 0}, kCreditoParaOCliente, kTexto, kADireita, kCresce},
-          {txtCredito, {8160, 1140, 2046, 0}, "", kTexto, kADireita, kCresce},
           {lblSemValorFiscal, {0, 1320, 6000, 240}, kSemValorFiscal, kMiudo},
           {lblAgradecimento, {6000, 1320, 4206, 240}, kAgradecimento, kMiudo, kADireita},
 
@@ -118,7 +162,7 @@ ReportLayout drComprovanteDePagamentoDeVenda::EmFolha() {
 
 // The roll is too narrow for a table: an item is its name, and below it the sum that makes its
 // price.
-ReportLayout drComprovanteDePagamentoDeVenda::EmBobina() {
+ReportLayout drComprovante::EmBobina(const Palavras& palavras) {
   constexpr ReportFont kTitulo{.points = 11, .bold = true};
   constexpr ReportFont kTotal{.points = 13, .bold = true};
   constexpr ReportFont kForte{.points = 9, .bold = true};
@@ -136,14 +180,10 @@ ReportLayout drComprovanteDePagamentoDeVenda::EmBobina() {
                 {RodapeDaPagina, 390}},
       .places = {
           {lblNomeFantasiaDaEmpresa, {0, 0, 4081, 0}, "", kTitulo, kAoCentro, kCresce},
-          {lblTituloDoComprovante,
-           {0, 45, 4081, 210},
-           "COMPROVANTE DE PAGAMENTO",
-           kTexto,
-           kAoCentro},
+          {lblTituloDoComprovante, {0, 45, 4081, 210}, palavras.tituloNaBobina, kTexto, kAoCentro},
           {lblRotuloDaVenda, {0, 345, 840, 210}, "Venda nº", kForte},
           {lblNumeroDaVenda, {840, 345, 1100, 210}, "", kForte},
-          {lblEmissao, {1950, 360, 2131, 195}, "%d %t", kTexto, kADireita},
+          {lblEmissao, {1950, 360, 2131, 195}, palavras.emissaoNaBobina, kTexto, kADireita},
           {linCliente, {0, 630, 4081, 0}},
           {lblRotuloDoCliente, {0, 690, 4081, 195}, "Cliente", kTexto},
           {lblCodigoENomeOuRazaoSocialDoCliente,
@@ -187,10 +227,6 @@ ReportLayout drComprovanteDePagamentoDeVenda::EmBobina() {
           {txtValorPago, {2900, 480, 1181, 195}, "", kTexto, kADireita},
           {lblSaldoDevedor, {0, 720, 2900, 210}, "Saldo devedor:", kForte},
           {txtSaldoDevedor, {2900, 720, 1181, 210}, "", kForte, kADireita},
-          {lblTroco, {0, 975, 2900, 0}, "", kTexto, kAEsquerda, kCresce},
-          {txtTroco, {2900, 975, 1181, 0}, "", kTexto, kADireita, kCresce},
-          {lblCredito, {0, 1020, 2900, 0}, kCreditoParaOCliente, kTexto, kAEsquerda, kCresce},
-          {txtCredito, {2900, 1020, 1181, 0}, "", kTexto, kADireita, kCresce},
           {lblSemValorFiscal, {0, 1200, 4081, 210}, kSemValorFiscal, kTexto, kAoCentro},
           {lblAgradecimento, {0, 1425, 4081, 210}, kAgradecimento, kTexto, kAoCentro},
 

@@ -1,14 +1,22 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "platform/DataReport.h"
 
 namespace checkout {
 
-/// The receipt of a sale that a customer takes home: not a fiscal document, and it says so.
-class drComprovanteDePagamentoDeVenda final : public platform::DataReport {
- public:
-  explicit drComprovanteDePagamentoDeVenda(const platform::Paper& papel);
+/// What a receipt says beside the lines of its sale, in its final form.
+struct Comprovante {
+  std::string empresa, venda, cliente, endereco, canais;
+  std::string total, rotuloDoPago, pago;
+};
 
+/// The receipt of a sale that a customer takes home: not a fiscal document, and it says so. The
+/// first one and its copy are told apart by what they add to it.
+class drComprovante : public platform::DataReport {
+ public:
   platform::ReportSection CabecalhoDaPagina{*this, "CabecalhoDaPagina",
                                             platform::Band::kPageHeader};
   platform::ReportLabel lblNomeFantasiaDaEmpresa{CabecalhoDaPagina, "lblNomeFantasiaDaEmpresa"};
@@ -56,10 +64,6 @@ class drComprovanteDePagamentoDeVenda final : public platform::DataReport {
   platform::ReportLabel txtValorPago{RodapeDoRelatorio, "txtValorPago"};
   platform::ReportLabel lblSaldoDevedor{RodapeDoRelatorio, "lblSaldoDevedor"};
   platform::ReportLabel txtSaldoDevedor{RodapeDoRelatorio, "txtSaldoDevedor"};
-  platform::ReportLabel lblTroco{RodapeDoRelatorio, "lblTroco"};
-  platform::ReportLabel txtTroco{RodapeDoRelatorio, "txtTroco"};
-  platform::ReportLabel lblCredito{RodapeDoRelatorio, "lblCredito"};
-  platform::ReportLabel txtCredito{RodapeDoRelatorio, "txtCredito"};
   platform::ReportLabel lblSemValorFiscal{RodapeDoRelatorio, "lblSemValorFiscal"};
   platform::ReportLabel lblAgradecimento{RodapeDoRelatorio, "lblAgradecimento"};
 
@@ -68,9 +72,35 @@ class drComprovanteDePagamentoDeVenda final : public platform::DataReport {
   platform::ReportLabel lblTituloDoAplicativo{RodapeDaPagina, "lblTituloDoAplicativo"};
   platform::ReportLabel lblPagina{RodapeDaPagina, "lblPagina"};
 
- private:
-  platform::ReportLayout EmFolha();
-  platform::ReportLayout EmBobina();
+  /// Writes what does not come from the lines, which are the DataSource.
+  void Preencher(const Comprovante& comprovante);
+
+ protected:
+  /// The words of the head, on a sheet and on the roll.
+  struct Palavras {
+    std::string_view titulo, tituloNaBobina, emissao, emissaoNaBobina;
+  };
+  drComprovante(std::string_view nome, std::string_view impressao);
+
+  platform::ReportLayout EmFolha(const Palavras& palavras);
+  platform::ReportLayout EmBobina(const Palavras& palavras);
+};
+
+/// The one that is printed right after the sale: it tells the change too.
+class drComprovanteDePagamentoDeVenda final : public drComprovante {
+ public:
+  explicit drComprovanteDePagamentoDeVenda(const platform::Paper& papel);
+
+  platform::ReportLabel lblTroco{RodapeDoRelatorio, "lblTroco"};
+  platform::ReportLabel txtTroco{RodapeDoRelatorio, "txtTroco"};
+  platform::ReportLabel lblCredito{RodapeDoRelatorio, "lblCredito"};
+  platform::ReportLabel txtCredito{RodapeDoRelatorio, "txtCredito"};
+};
+
+/// The copy, which must not pass for the first: it says that it is one, and when it was printed.
+class dr2aViaDoComprovanteDePagamentoDeVenda final : public drComprovante {
+ public:
+  explicit dr2aViaDoComprovanteDePagamentoDeVenda(const platform::Paper& papel);
 };
 
 }  // namespace checkout
