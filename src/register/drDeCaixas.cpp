@@ -11,7 +11,6 @@ using platform::ReportFont;
 namespace {
 
 constexpr std::int32_t kLargura = platform::kA4SidewaysPaper.InnerWidth();
-constexpr std::int32_t kEntreColunas = 60;
 constexpr bool kCresce = true;
 
 constexpr ColunaDoRelatorio ColunaDeValor(std::string_view titulo, std::string_view controle,
@@ -84,6 +83,7 @@ const RelatorioDeCaixas kLancamentosDeCaixas{
     .titulo = "Lançamentos de caixas",
     .rodapeDaPagina = "RodapeDapagina",
     .letra = 8,
+    .entreColunas = 150,
     .colunas = kColunasDosLancamentos,
     .legenda =
         "Só os lançamentos que movem dinheiro ou outro recebimento. O que uma venda deixou a "
@@ -141,7 +141,7 @@ void drDeCaixas::Desenhar() {
           {lblSomas, {0, 75, 900, 210}, "Soma", forte},
           {linTotais, {0, 30, kLargura, 0}},
           {lblTotais, {0, 75, 900, 210}, "Total geral", forte},
-          {lblLegenda, {0, 450, kLargura, 420}, relatorio_.legenda, kMiudo, kAEsquerda, kCresce},
+          {lblLegenda, {0, 375, kLargura, 420}, relatorio_.legenda, kMiudo, kAEsquerda, kCresce},
           {linRodape, {0, 90, kLargura, 0}},
           {lblTituloDoAplicativo, {0, 150, 9000, 240}, "", kMiudo},
           {lblPagina, {9000, 150, kLargura - 9000, 240}, "Página %p de %P", kMiudo, kADireita},
@@ -149,7 +149,7 @@ void drDeCaixas::Desenhar() {
   std::int32_t esquerda = 0;
   std::size_t i = 0, somada = 0;
   for (const ColunaDoRelatorio& coluna : relatorio_.colunas) {
-    const std::int32_t largura = coluna.largura - kEntreColunas;
+    const std::int32_t largura = coluna.largura - relatorio_.entreColunas;
     const auto lado = coluna.valor || coluna.numero ? kADireita : kAEsquerda;
     desenho.places.push_back(
         {titulos_[i], {esquerda, 795, largura, 420}, coluna.titulo, forte, lado, kCresce});

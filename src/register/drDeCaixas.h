@@ -25,6 +25,7 @@ struct RelatorioDeCaixas {
   std::string_view nome, titulo;
   std::string_view rodapeDaPagina;  ///< The name of that section.
   std::int16_t letra = 7;           ///< Points.
+  std::int32_t entreColunas = 60;   ///< Twips.
   std::span<const ColunaDoRelatorio> colunas;
   std::string_view legenda;
 };

@@ -23,21 +23,21 @@ using enum platform::Align;
 
 using Colunas = std::array<frame::Coluna, 15>;
 
-// What the receipt needs of the customer stands in the list, unseen.
+// What the receipt and the search need of the customer stands in the list, unseen.
 constexpr Colunas ColunasCom(std::string_view numero, std::string_view codigo) {
   return {{
       {numero, 1300, kRightCenter, kNumero},
-      {"Data", 1350, kLeftCenter, kData},
-      {"Hora", 1000, kLeftCenter, kTexto},
-      {"Operador", 1300, kLeftCenter, kTexto},
-      {"Cliente", 2500, kLeftCenter, kTexto},
-      {"Valor bruto", 1300, kRightCenter, kNumero},
-      {"Valor total de descontos", 2150, kRightCenter, kNumero},
-      {"Valor liquido", 1350, kRightCenter, kNumero},
-      {"Chave SAT", 4600, kLeftCenter, kTexto},
-      {"Valor Recebido", 1450, kRightCenter, kNumero},
+      {"Data", 1500, kLeftCenter, kData},
+      {"Hora", 1200, kLeftCenter, kTexto},
+      {"Operador", 1150, kLeftCenter, kTexto},
+      {"Cliente", 2000, kLeftCenter, kTexto},
+      {"Valor bruto", 1250, kRightCenter, kNumero},
+      {"Valor total de descontos", 2100, kRightCenter, kNumero},
+      {"Valor liquido", 1250, kRightCenter, kNumero},
+      {"Chave SAT", 1200, kLeftCenter, kTexto},
+      {"Valor Recebido", 1350, kRightCenter, kNumero},
       {codigo, 0, kLeftCenter, kNumero},
-      {"Nome ou Razão Social do Cliente", 3600, kLeftCenter, kTexto},
+      {"Nome ou Razão Social do Cliente", 0, kLeftCenter, kTexto},
       {"Endereço completo do cliente", 0, kLeftCenter, kTexto},
       {"Tipos e canais de comunicação do cliente", 0, kLeftCenter, kTexto},
       {"Data invertida", 0, kLeftCenter, kNumero},

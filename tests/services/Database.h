@@ -47,7 +47,8 @@ class SessionRecord : public base::Record {
       : user_(std::move(user)), administrator_(administrator) {}
   base::Value Field(std::string_view name) const override {
     if (name == "NomeDeUsuario") return user_;
-    if (name == "Administrador") return administrator_;
+    // Who is one may do everything.
+    if (name == "Administrador" || name.starts_with("Permissao")) return administrator_;
     throw base::RuntimeError(base::Fault::kIndexOutOfRange);
   }
 

@@ -8,8 +8,8 @@ constexpr Usuario kUsuarios[] = {
     {"paulo", "trovoada-27",
      "supervisor: altera descontos e autoriza fiado, saídas e cancelamentos", false, true, true,
      true, true, true},
-    {"renata", "pitanga-63", "operadora: altera descontos e vende a crédito", false, true, false,
-     true, false, false},
+    {"renata", "pitanga-63", "operadora: altera descontos, vende a crédito e vê os relatórios",
+     false, true, true, true, false, false},
     {"caio", "ladrilho-85", "operador em treinamento: vende sem descontos nem fiado", false, false,
      false, false, false, false},
 };

@@ -96,9 +96,17 @@ constexpr std::array<std::string_view, 12> kBarcodes{
     "7890000010542", "7890000010603", "7890000010665", "7890000010726"};
 
 constexpr std::array kFullGrid{
-    Step{Act::kCell, "msfgGrade", "14"}, Step{Act::kPicture, "", "lista-cheia"},
-    Step{Act::kClick, "zvcmdRemover"},   Step{Act::kBox},
-    Step{Act::kPicture, "", "pergunta"}, Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kCell, "msfgGrade", "14"},
+    Step{Act::kPicture, "", "lista-cheia"},
+    Step{Act::kClick, "zvcmdDetalhes"},
+    Step{Act::kSettle, "frmExibirDetalhesDoItemDaVenda"},
+    Step{Act::kPicture, "", "detalhes-do-item"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kClick, "zvcmdRemover"},
+    Step{Act::kBox},
+    Step{Act::kPicture, "", "pergunta"},
+    Step{Act::kSettle, "frmCaixaOperar"},
 };
 
 constexpr std::array kPay{
@@ -240,6 +248,69 @@ constexpr std::array kHistoryAndEstimates{
     Step{Act::kScreen, "frmCaixaOperar"},
 };
 
+/// A receipt once more, what a sale was made of, a sale that is cancelled and may be restored.
+constexpr std::array kPastSales{
+    Step{Act::kTool, "tbMenuCaixa", "Comprovantes"},
+    Step{Act::kScreen, "frmCaixaComprovanteDeVenda"},
+    Step{Act::kType, "zvtxtLocalizar", "ana"},
+    Step{Act::kPicture, "", "comprovantes"},
+    Step{Act::kClick, "zvcmdExibirItensDaVenda"},
+    Step{Act::kScreen, "frmCaixaItensDaVenda"},
+    Step{Act::kPicture, "", "itens-da-venda"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kScreen, "frmCaixaComprovanteDeVenda"},
+    Step{Act::kClick, "zvcmdEmitirComprovanteDeVenda"},
+    Step{Act::kSettle, "frmVisualizacao"},
+    Step{Act::kPicture, "", "segunda-via"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaComprovanteDeVenda"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kTool, "tbMenuCaixa", "CancelarVenda"},
+    Step{Act::kScreen, "frmCaixaCancelarVenda"},
+    Step{Act::kType, "zvtxtLocalizar", "2"},
+    Step{Act::kType, "zvtxtMotivoDoCancelamento", "O cliente desistiu da compra."},
+    Step{Act::kPicture, "", "cancelar-venda"},
+    Step{Act::kClick, "zvcmdConfirmar"},
+    Step{Act::kScreen, "frmCaixaAutorizarCancelarVendas"},
+    Step{Act::kType, "zvtxtUsuario", "{supervisor}"},
+    Step{Act::kType, "zvtxtSenha", "{senha do supervisor}"},
+    Step{Act::kClick, "zvcmdOk"},
+    Step{Act::kBox, "", "Venda cancelada."},
+    Step{Act::kPicture, "", "venda-cancelada"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+    Step{Act::kTool, "tbMenuCaixa", "DesfazerCancelamento"},
+    Step{Act::kScreen, "frmCaixaDesfazerCancelamento"},
+    Step{Act::kPicture, "", "desfazer-cancelamento"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+};
+
+constexpr std::array kReports{
+    Step{Act::kTool, "tbMenuCaixa", "Relatorios"},
+    Step{Act::kScreen, "frmCaixaRelatoriosDeCaixas"},
+    Step{Act::kPick, "zvcmbCaixas", "Todos"},
+    Step{Act::kPicture, "", "relatorios"},
+    Step{Act::kClick, "zvcmdImprimir"},
+    Step{Act::kSettle, "frmVisualizacao"},
+    Step{Act::kPicture, "", "resumo-de-caixas"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaRelatoriosDeCaixas"},
+    Step{Act::kClick, "optTipoDeRelatorio(1)"},
+    Step{Act::kClick, "zvcmdImprimir"},
+    Step{Act::kSettle, "frmVisualizacao"},
+    Step{Act::kPicture, "", "lancamentos-de-caixas"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaRelatoriosDeCaixas"},
+    Step{Act::kClick, "zvcmdRetratoDoDia"},
+    Step{Act::kSettle, "frmVisualizacao"},
+    Step{Act::kPicture, "", "retrato-do-dia"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaRelatoriosDeCaixas"},
+    Step{Act::kKey, "", "Esc"},
+    Step{Act::kSettle, "frmCaixaOperar"},
+};
+
 constexpr std::array kClose{
     Step{Act::kClick, "zvcmdLimparCampos"},
     Step{Act::kSettle, "frmCaixaOperar"},
@@ -293,6 +364,8 @@ std::vector<Step> Portraits() {
                  kNextCustomer,
                  kRoll,
                  kHistoryAndEstimates,
+                 kPastSales,
+                 kReports,
                  kClose});
 }
 

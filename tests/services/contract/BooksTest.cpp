@@ -70,46 +70,11 @@ class BooksTest : public OverDatabase {
             .operador = "renata",
             .operacao = operation};
   }
-  void NoteCancellation(std::int64_t operation, const std::string& state) {
-    static const Statement note(
-        "INSERT INTO cancelamentos_de_venda (numero_da_venda, operacao, situacao, data_e_hora,"
-        " numero_do_caixa, operador, consentido_por, motivo)"
-        " VALUES (1, $1, $2, $3, 1, 'renata', 'marina', 'engano')");
-    static const Statement turn("UPDATE vendas SET situacao = $1 WHERE numero = 1");
-    session().Run(note, {operation, state, clock_.now});
-    session().Run(turn, {state});
-  }
   bool IsProved(TipoDeRegistro kind, std::int64_t operation) {
     return session().Select(ProvaDe(kind), {operation}, [](const Row&) {}) > 0;
   }
 };
 OVER_BOTH_ENGINES(BooksTest);
-
-TEST_P(BooksTest, ASaleIsTakenBackAndRestoredAndTheBooksBalance) {
-  Sell();
-  EXPECT_EQ("50 30 aberta 4 2", State());
-  const auto cancel = [&](Transaction& transaction) {
-    Lancar(session(), transaction, 1, {Reversal(71, 1, -60_brl), Reversal(71, 4, 10_brl)});
-    MoverCredito(session(), Credit(71, 20_brl));
-    BaixarContas(session(), transaction, {Closing(71, servicos::kContaCancelada)});
-    NoteCancellation(71, "C");
-  };
-  EXPECT_EQ("", Do(cancel));
-  EXPECT_EQ("0 50 cancelada 6 3", State());
-  EXPECT_EQ("marina", Read("SELECT max(consentido_por) FROM lancamentos_de_caixa"));
-  ExpectBooksBalance();
-  EXPECT_NE("", Do(cancel)) << "each entry is taken back once";
-  EXPECT_EQ("", Do([&](Transaction& transaction) {
-              Lancar(session(), transaction, 1, {Reversal(72, 5, 60_brl), Reversal(72, 6, -10_brl)});
-              MoverCredito(session(), Credit(72, -20_brl));
-              EXPECT_EQ(1, ReabrirContas(session(), 1, clock_.now, "renata"));
-              NoteCancellation(72, "F");
-            }));
-  EXPECT_EQ("50 30 aberta 8 4", State());
-  ExpectBooksBalance();
-  EXPECT_TRUE(IsProved(TipoDeRegistro::kCancelamento, 72));
-  EXPECT_FALSE(IsProved(TipoDeRegistro::kCancelamento, 73));
-}
 
 TEST_P(BooksTest, WhatWouldBreakTheBooksIsRefusedWhole) {
   Sell();

@@ -213,6 +213,30 @@ TEST_P(DoubtTest, WhatIsFoundOutByItselfAnswersTheNextRegistrationForAWhile) {
   }
 }
 
+TEST_P(DoubtTest, ACancellationInDoubtIsToldOnceItIsKnown) {
+  const SessionRecord marina("marina", true);
+  for (const bool lands : {false, true}) {
+    ASSERT_EQ(0, Sell().status);
+    const double sale = base::Val(Read("SELECT max(numero) FROM vendas"));
+    LoseNextAnswer(lands);
+    const auto service = servicos::CriarServico<Register>();
+    service->NumeroDoCaixa(1);
+    service->DadosDoUsuario(&marina);
+    EXPECT_EQ(servicos::kErro, service->CancelarVenda(sale, "engano"));
+    BackAgain(lands);
+    News();
+    banco_->CuidarDoPendente();
+    EXPECT_EQ("O cancelamento da venda " + Read("SELECT max(numero) FROM vendas") +
+                  ", das 14:30, " +
+                  (lands ? "ficou registrado. Não o registre de novo."
+                         : "não ficou registrado. Registre-o de novo, se ainda for o caso."),
+              News());
+    EXPECT_EQ(lands ? 1 : 0, Count("cancelamentos_de_venda"));
+    ExpectBooksBalance();
+    Write("DROP TABLE provas");
+  }
+}
+
 /// Cuts where they come about.
 class CutDoubtTest : public DoubtTest {};
 INSTANTIATE_TEST_SUITE_P(Only, CutDoubtTest, testing::Values(Engine::kPostgres), Name);

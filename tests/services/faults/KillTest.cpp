@@ -123,6 +123,31 @@ TEST_P(KillTest, TheNextProgramTellsWhatBecameOfTheSaleAndDoesNotDoubleIt) {
   EXPECT_GT(missed, 0);
 }
 
+TEST_P(KillTest, AtEveryStepOfACancellationAndOfItsUndoing) {
+  const NewSale sale(EverySide(true));
+  ASSERT_EQ(0, sale->RegistrarPagamento());
+  const SessionRecord marina("marina", true);
+  for (const bool back : {false, true}) {
+    const std::string from = back ? "C" : "F";
+    const auto turn = [&](bool undoes) {
+      const auto service = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsCaixa>();
+      service->NumeroDoCaixa(1);
+      service->DadosDoUsuario(&marina);
+      return int{undoes ? service->DesfazerCancelamento(1, "engano")
+                        : service->CancelarVenda(1, "engano")};
+    };
+    KillAtEveryStep([&] { return turn(back); },
+                    [&](bool survived) {
+                      const bool turned = Read("SELECT situacao FROM vendas") != from;
+                      EXPECT_TRUE(turned || !survived);
+                      // It stands though its process is dead: once more from the start.
+                      if (turned && !survived) {
+                        EXPECT_EQ(0, turn(!back));
+                      }
+                    });
+  }
+}
+
 TEST_P(KillTest, AtEveryStepOfAnOpening) {
   KillAtEveryStep(
       [] {

@@ -328,5 +328,25 @@ TEST_P(TogetherTest, ATransactionInTheWayOfAnotherIsTriedAgain) {
       DatabaseError);
 }
 
+TEST_P(TogetherTest, OfTwoWhoCancelTheSameSaleOneIsRefused) {
+  for (int sale = 1; sale <= 20; ++sale) {
+    const NewSale sold({});
+    ASSERT_EQ(0, sold->RegistrarPagamento());
+    Shared<Counter> counter;
+    const int refusals = TwoAtOnce([&](int) {
+      const SessionRecord marina("marina", true);
+      const auto service = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsCaixa>();
+      service->NumeroDoCaixa(1);
+      service->DadosDoUsuario(&marina);
+      ++counter->ready;
+      while (counter->ready < 2) std::this_thread::yield();
+      return int{service->CancelarVenda(sale, "engano")};
+    });
+    EXPECT_EQ(servicos::kRecusa, refusals);
+    EXPECT_EQ(sale, Count("cancelamentos_de_venda"));
+  }
+  ExpectBooksBalance();
+}
+
 }  // namespace
 }  // namespace services
