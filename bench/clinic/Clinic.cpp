@@ -4,6 +4,7 @@
 
 #include "clinic/Clock.h"
 #include "clinic/Goods.h"
+#include "clinic/Kept.h"
 #include "clinic/Loading.h"
 #include "clinic/People.h"
 #include "services/Abertura.h"
@@ -23,11 +24,6 @@ using services::Engine;
 
 /// Grows with every change to what a large clinic holds, so that none of an older form is used.
 constexpr const char* kForm = "1";
-
-fs::path FileIn(const std::string& folder, const std::string& name) {
-  static const support::TemporaryFolder own;
-  return (folder.empty() ? own.Path() : fs::path(folder)) / (name + ".db");
-}
 
 void AddCustomers(const Database& database, std::int64_t count) {
   People people;
@@ -62,6 +58,11 @@ Database FilledClinic(Engine engine, const std::string& folder, const std::strin
 
 }  // namespace
 
+fs::path FileIn(const std::string& folder, const std::string& name) {
+  static const support::TemporaryFolder own;
+  return (folder.empty() ? own.Path() : fs::path(folder)) / (name + ".db");
+}
+
 std::string NameOf(Engine engine) {
   return engine == Engine::kSqlite ? "sqlite" : "postgresql";
 }
@@ -94,9 +95,8 @@ void AddProducts(const Database& database, std::int64_t count) {
             }});
 }
 
-Database LargeClinic(Engine engine) {
-  const std::int64_t rows = Chosen().rows;
-  const std::string name = std::string("clinica") + kForm + "_" + std::to_string(rows);
+Database Kept(Engine engine, const std::string& name,
+              const std::function<void(const Database&)>& fill) {
   const bool isFile = engine == Engine::kSqlite;
   const fs::path file = FileIn(Chosen().folder, name);
   if (isFile ? fs::exists(file) : server::Has(name)) {
@@ -106,14 +106,22 @@ Database LargeClinic(Engine engine) {
   // Under another name until it is whole: what an interrupted run leaves is not taken for it.
   const std::string unfinished = name + "_inacabada";
   const Database database = FilledClinic(engine, Chosen().folder, unfinished);
-  AddCustomers(database, rows);
-  AddProducts(database, rows);
+  fill(database);
   if (!isFile) {
     server::Rename(unfinished, name);
     return {engine, server::ConnectionText(name)};
   }
   fs::rename(database.target, file);
   return {engine, file.string()};
+}
+
+Database LargeClinic(Engine engine) {
+  const std::int64_t rows = Chosen().rows;
+  return Kept(engine, std::string("clinica") + kForm + "_" + std::to_string(rows),
+              [=](const Database& clinic) {
+                AddCustomers(clinic, rows);
+                AddProducts(clinic, rows);
+              });
 }
 
 }  // namespace bench

@@ -29,6 +29,7 @@ class Opened {
 
   services::Banco& Bank() { return *banco_; }
   services::Session& Session() { return banco_->Sessao(); }
+  const std::shared_ptr<services::Banco>& Shared() const { return banco_; }
 
  private:
   StandingClock clock_;

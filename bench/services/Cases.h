@@ -13,4 +13,7 @@ void AddPayments(services::Engine engine);
 /// Several workstations registering sales at once, over the server.
 void AddWorkstations();
 
+/// What is done with sales of the past, among very many.
+void AddPastSales(services::Engine engine);
+
 }  // namespace bench

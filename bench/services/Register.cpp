@@ -6,6 +6,7 @@ void bench::Register() {
     AddBarcodes(engine);
     AddNames(engine);
     AddPayments(engine);
+    AddPastSales(engine);
   }
   AddWorkstations();
 }

@@ -30,6 +30,12 @@ void CreateAnew(const std::string& database) {
   link.Execute(("CREATE DATABASE " + database).c_str());
 }
 
+void Copy(const std::string& database, const std::string& name) {
+  RawPostgres link(ConnectionText(kAlwaysThere));
+  link.Execute(("DROP DATABASE IF EXISTS " + name).c_str());
+  link.Execute(("CREATE DATABASE " + name + " TEMPLATE " + database).c_str());
+}
+
 void Rename(const std::string& database, const std::string& name) {
   RawPostgres link(ConnectionText(kAlwaysThere));
   link.Execute(("ALTER DATABASE " + database + " RENAME TO " + name).c_str());

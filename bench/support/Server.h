@@ -14,7 +14,9 @@ std::string ConnectionText(const std::string& database);
 bool Has(const std::string& database);
 /// Creates an empty database in place of any earlier one.
 void CreateAnew(const std::string& database);
-/// Nobody may be connected to it.
+// Nobody may be connected to it.
+
+void Copy(const std::string& database, const std::string& name);
 void Rename(const std::string& database, const std::string& name);
 
 }  // namespace server
