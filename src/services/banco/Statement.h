@@ -18,7 +18,6 @@ class Statement {
   };
 
   explicit Statement(const std::string& text) : Statement(text, text) {}
-  Statement(const std::string& text, Planning planning) : Statement(text, text, planning) {}
   Statement(std::string sqlite, std::string postgres, Planning planning = Planning::kOnce);
   Statement(const Statement&) = delete;
   Statement& operator=(const Statement&) = delete;

@@ -36,15 +36,6 @@ void Explain(Session& session, std::int32_t caixa, base::Currency cash, bool mus
   });
 }
 
-void MoveCash(Session& session, std::int32_t caixa, base::Currency cash, const Passagem& passagem) {
-  static const Statement move(
-      "UPDATE caixas SET aberto = $2, dinheiro = dinheiro + $3 WHERE numero = $1 AND ativo = 1"
-      " AND aberto = $4 AND (CAST($3 AS bigint) >= 0 OR dinheiro + $3 >= 0)");
-  if (session.Run(move, {caixa, passagem.ficaAberto, cash, passagem.exigeAberto}) > 0) return;
-  Explain(session, caixa, cash, passagem.exigeAberto);
-  throw DatabaseError(Trouble::kConflict, "caixas");
-}
-
 }  // namespace
 
 const std::vector<Coluna>& ColunasDoLancamento() {
@@ -58,24 +49,31 @@ Params LinhaDoLancamento(const Lancamento& lancamento) {
 
 void Lancar(Session& session, Transaction& transaction, std::int32_t numeroDoCaixa,
             const std::vector<Lancamento>& lancamentos, const Passagem& passagem) {
+  static const Statement move(
+      "UPDATE caixas SET aberto = $2, dinheiro = dinheiro + $3 WHERE numero = $1 AND ativo = 1"
+      " AND aberto = $4 AND (CAST($3 AS bigint) >= 0 OR dinheiro + $3 >= 0)");
   static const Statement enter("INSERT INTO lancamentos_de_caixa (" + Nomes(ColunasDoLancamento()) +
                                ", numero_da_venda, estorna, consentido_por) VALUES (" +
                                Places(ColunasDoLancamento().size() + 3) + ")");
   base::Currency cash;
+  std::vector<Request> requests;
   for (const Lancamento& each : lancamentos) {
     if (each.moeda == servicos::pagamento::kDinheiro) cash += each.valor;
-  }
-  MoveCash(session, numeroDoCaixa, cash, passagem);
-  for (const Lancamento& each : lancamentos) {
     Params row = LinhaDoLancamento(each);
     row.push_back(NumeroOuNulo(each.numeroDaVenda));
     row.push_back(NumeroOuNulo(each.estorna));
     row.emplace_back(each.consentidoPor);
-    session.Run(enter, row);
+    requests.push_back({enter, std::move(row)});
     if (each.numeroDaVenda == 0 && each.tipo != servicos::kAcerto) {
       transaction.ProvedBy(ProvaDe(TipoDeRegistro::kMovimento), {each.operacao});
     }
   }
+  const Params passing{numeroDoCaixa, passagem.ficaAberto, cash, passagem.exigeAberto};
+  if (session.Run(move, passing) == 0) {
+    Explain(session, numeroDoCaixa, cash, passagem.exigeAberto);
+    throw DatabaseError(Trouble::kConflict, "caixas");
+  }
+  if (!requests.empty()) session.RunTogether(requests);
 }
 
 }  // namespace services

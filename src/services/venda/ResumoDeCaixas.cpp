@@ -8,6 +8,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/servicos/Codigos.h"
 #include "frame/servicos/Pagamento.h"
 #include "services/banco/Fields.h"
 #include "services/banco/Session.h"
@@ -17,18 +18,9 @@ namespace services {
 namespace {
 
 using enum Field::Kind;
+namespace pagamento = servicos::pagamento;
 
 constexpr std::string_view kRegister = "CAST(x.numero AS text) || ' - ' || x.local_de_atendimento";
-
-// What came in: the tenders of sales and settlements, and credit that was paid in. A settlement
-// enters its change under its own kind, negative.
-constexpr std::string_view kTakings = "l.tipo IN ({recebimento}, {acerto}, {creditoAdicionado})";
-// Given back by cancellations, which restorations give back again, and credit that was paid out.
-constexpr std::string_view kGivenBack = "l.tipo IN ({estorno}, {creditoDevolvido})";
-
-std::string SumWhere(const std::string& condition) {
-  return "CAST(coalesce(sum(CASE WHEN " + condition + " THEN l.valor ELSE 0 END), 0) AS bigint)";
-}
 
 /// A figure of the summary that is read from the entries; the others are worked out of these.
 enum Figure {
@@ -46,28 +38,58 @@ enum Figure {
   kClosing,
   kOnCredit,
   kFigures,
+  kNoFigure,
 };
 
-std::string SummedFigures() {
-  const std::string takings(kTakings);
-  const std::string givenBack(kGivenBack);
-  const std::array<std::string, kFigures> conditions{
-      "l.tipo = {abertura} AND l.moeda = {dinheiro}",
-      "l.tipo = {entrada} AND l.moeda = {dinheiro}",
-      "l.tipo = {saida} AND l.moeda = {dinheiro}",
-      takings + " AND l.moeda = {dinheiro} AND l.valor > 0",
-      takings + " AND l.moeda = {cheque}",
-      takings + " AND l.moeda = {cartaoDeCredito}",
-      takings + " AND l.moeda IN ({cartaoDeDebito}, {pix})",
-      takings + " AND l.moeda = {boleto}",
-      "l.tipo = {troco} OR (l.tipo = {acerto} AND l.moeda = {dinheiro} AND l.valor < 0)",
-      givenBack + " AND l.moeda = {dinheiro}",
-      givenBack + " AND l.moeda NOT IN ({dinheiro}, {aCredito}, {creditoDoCliente})",
-      "l.tipo = {fechamento} AND l.moeda = {dinheiro}",
-      "l.tipo = {recebimento} AND l.moeda = {aCredito} AND v.situacao <> {cancelada}"};
-  std::string columns;
-  for (const std::string& condition : conditions) columns += ", " + SumWhere(condition);
-  return columns;
+/// Where what came in by a tender belongs: with the sales' tenders, those of settlements and credit
+/// that was paid in.
+Figure TakingsIn(std::int32_t tender) {
+  switch (tender) {
+    case pagamento::kDinheiro:
+      return kCash;
+    case pagamento::kCheque:
+      return kCheques;
+    case pagamento::kCartaoDeCredito:
+      return kCreditCards;
+    case pagamento::kCartaoDeDebito:
+    case pagamento::kPix:
+      return kDebitCardsAndPix;
+    case pagamento::kBoleto:
+      return kBankSlips;
+    default:
+      return kNoFigure;
+  }
+}
+
+/// Where entries of a kind in a tender belong; `leaves` is for those below zero. What neither is
+/// money nor on credit has no figure, nor has what the host entered in another tender than cash.
+Figure FigureOf(std::int32_t kind, std::int32_t tender, bool leaves) {
+  const bool isCash = tender == pagamento::kDinheiro;
+  const bool isMoney = TakingsIn(tender) != kNoFigure;
+  switch (kind) {
+    case servicos::kAbertura:
+      return isCash ? kOpening : kNoFigure;
+    case servicos::kFechamento:
+      return isCash ? kClosing : kNoFigure;
+    case servicos::kEntrada:
+      return isCash ? kDeposits : kNoFigure;
+    case servicos::kSaida:
+      return isCash ? kWithdrawals : kNoFigure;
+    case servicos::kTroco:
+      return kChange;
+    case servicos::kEstorno:
+    case servicos::kCreditoDevolvido:
+      // Restorations give back what cancellations gave.
+      if (!isMoney) return kNoFigure;
+      return isCash ? kCashGivenBack : kOtherGivenBack;
+    case servicos::kRecebimento:
+      return tender == pagamento::kACredito ? kOnCredit : TakingsIn(tender);
+    case servicos::kAcerto:
+      // A settlement enters its change under its own kind.
+      return isCash && leaves ? kChange : TakingsIn(tender);
+    default:
+      return TakingsIn(tender);
+  }
 }
 
 /// The register and the days, as the places $1 to $3 of a selection; a register of 0 is all.
@@ -75,21 +97,29 @@ Params PlacesOf(const Cobertura& coverage) {
   return {coverage.caixa.value_or(0), coverage.de.Date(), coverage.ate.Date().PlusDays(1)};
 }
 
-/// The entries that are covered, `l`, each with its register, `x`: the registers come first, so
-/// that of each no more than its days is read.
-constexpr std::string_view kCovered =
-    " FROM caixas x CROSS JOIN lancamentos_de_caixa l{join} WHERE ($1 = 0 OR x.numero = $1)"
-    " AND l.numero_do_caixa = x.numero AND l.data_e_hora >= $2 AND l.data_e_hora < $3";
-
-std::string Covered(std::string_view join = {}) {
-  return base::Replace(kCovered, "{join}", join);
+/// The entries that are covered, `l`, each with its register, `x`. The registers come first, so
+/// that of each no more than its days is read: each engine has to be told so in its own way.
+std::string Covered(Engine engine) {
+  constexpr std::string_view kOnSqlite =
+      " FROM caixas x CROSS JOIN lancamentos_de_caixa l WHERE ($1 = 0 OR x.numero = $1)"
+      " AND l.numero_do_caixa = x.numero";
+  constexpr std::string_view kOnPostgres =
+      " FROM lancamentos_de_caixa l JOIN caixas x ON x.numero = l.numero_do_caixa"
+      " WHERE l.numero_do_caixa = ANY (ARRAY(SELECT numero FROM caixas WHERE $1 = 0"
+      " OR numero = $1))";
+  return std::string(engine == Engine::kSqlite ? kOnSqlite : kOnPostgres) +
+         " AND l.data_e_hora >= $2 AND l.data_e_hora < $3";
 }
 
-std::string SelectSummary(const std::string& day) {
-  return ComCodigos("SELECT " + std::string(kRegister) + ", " + day + " AS dia" + SummedFigures() +
-                    Covered(" LEFT JOIN vendas v ON l.tipo = {recebimento}"
-                            " AND l.moeda = {aCredito} AND v.numero = l.numero_da_venda") +
-                    " GROUP BY x.numero, x.local_de_atendimento, dia ORDER BY x.numero, dia");
+/// A selection of covered entries, planned for the days that it is asked for.
+/// `{day}` in the columns is the entry's.
+Statement SelectEntries(const std::string& columns, const std::string& rest) {
+  const auto on = [&](Engine engine) {
+    const std::string_view day =
+        engine == Engine::kSqlite ? "substr(l.data_e_hora, 1, 10)" : "CAST(l.data_e_hora AS date)";
+    return ComCodigos(base::Replace("SELECT " + columns + Covered(engine) + rest, "{day}", day));
+  };
+  return Statement(on(Engine::kSqlite), on(Engine::kPostgres), Statement::Planning::kByValues);
 }
 
 constexpr std::string_view kFields[] = {"NumeroENomeDoCaixa",
@@ -158,14 +188,13 @@ constexpr std::size_t kSale = 4, kTender = 8, kNote = 9;
 /// observation of the sale's entries.
 std::map<std::int32_t, std::string> TendersWithoutMoney(Session& session,
                                                         const Cobertura& coverage) {
-  static const Statement select(
-      ComCodigos("SELECT l.numero_da_venda, l.moeda, l.valor" + Covered() +
-                 " AND l.tipo = {recebimento} AND l.moeda IN ({aCredito}, {creditoDoCliente})"
-                 " ORDER BY l.numero"),
-      Statement::Planning::kByValues);
+  static const Statement select =
+      SelectEntries("l.numero_da_venda, l.moeda, l.valor",
+                    " AND l.tipo = {recebimento} AND l.moeda IN ({aCredito}, {creditoDoCliente})"
+                    " ORDER BY l.numero");
   std::map<std::int32_t, std::string> texts;
   session.Select(select, PlacesOf(coverage), [&](const Row& row) {
-    texts[row.Number(0)] += "\n" + std::string(servicos::pagamento::NomeDa(row.Number(1))) + ": " +
+    texts[row.Number(0)] += "\n" + std::string(pagamento::NomeDa(row.Number(1))) + ": " +
                             base::FormatMoney(row.Money(2));
   });
   return texts;
@@ -174,30 +203,44 @@ std::map<std::int32_t, std::string> TendersWithoutMoney(Session& session,
 }  // namespace
 
 base::RecordSetPtr ResumoDeCaixas(Session& session, const Cobertura& cobertura) {
-  static const Statement summary(SelectSummary("substr(l.data_e_hora, 1, 10)"),
-                                 SelectSummary("CAST(l.data_e_hora AS date)"),
-                                 Statement::Planning::kByValues);
+  // What was bought on credit is told of the sales that stand, which only its entries look up.
+  static const Statement summary = SelectEntries(
+      std::string(kRegister) +
+          ", {day} AS dia, l.tipo, l.moeda, CASE WHEN l.valor < 0 THEN 1 ELSE 0 END AS sai,"
+          " CAST(sum(CASE WHEN l.tipo = {recebimento} AND l.moeda = {aCredito} AND"
+          " (SELECT v.situacao FROM vendas v WHERE v.numero = l.numero_da_venda) = {cancelada}"
+          " THEN 0 ELSE l.valor END) AS bigint)",
+      " GROUP BY x.numero, x.local_de_atendimento, dia, l.tipo, l.moeda, sai"
+      " ORDER BY x.numero, dia");
   const auto rows = std::make_shared<base::RecordSet>(
       std::vector<std::string>(std::begin(kFields), std::end(kFields)));
+  std::string drawer, day;
+  Figures figures;
+  const auto tell = [&] {
+    if (!day.empty()) rows->Append(RowOf(drawer, MomentOf(day), figures));
+    figures = {};
+  };
   session.Select(summary, PlacesOf(cobertura), [&](const Row& row) {
-    Figures figures;
-    int column = 2;
-    for (base::Currency& figure : figures) figure = row.Money(column++);
-    rows->Append(RowOf(row.Text(0), row.Moment(1), figures));
+    if (row.Text(0) != drawer || row.Text(1) != day) tell();
+    drawer = row.Text(0);
+    day = row.Text(1);
+    const Figure figure = FigureOf(row.Number(2), row.Number(3), row.Flag(4));
+    if (figure != kNoFigure) figures[figure] += row.Money(5);
   });
+  tell();
   return rows;
 }
 
 Selected LancamentosDeCaixas(Session& session, const Cobertura& cobertura, std::int64_t most) {
-  static const Statement entries(ComCodigos("SELECT " + ColumnsOf(kEntries) + Covered() +
-                                            " AND l.moeda NOT IN ({aCredito}, {creditoDoCliente})"
-                                            " ORDER BY x.numero, l.data_e_hora, l.numero"),
-                                 Statement::Planning::kByValues);
+  static const Statement entries =
+      SelectEntries(ColumnsOf(kEntries),
+                    " AND l.moeda NOT IN ({aCredito}, {creditoDoCliente})"
+                    " ORDER BY x.numero, l.data_e_hora, l.numero");
   const auto withoutMoney = TendersWithoutMoney(session, cobertura);
   return SelectRows(session, kEntries, entries, PlacesOf(cobertura), most,
                     [&](std::vector<base::Value>& entry) {
                       const std::int32_t tender = base::ToInt32(entry[kTender]);
-                      entry[kTender] = std::string(servicos::pagamento::NomeDa(tender));
+                      entry[kTender] = std::string(pagamento::NomeDa(tender));
                       if (base::IsNull(entry[kSale])) return;
                       const auto found = withoutMoney.find(base::ToInt32(entry[kSale]));
                       if (found == withoutMoney.end()) return;
