@@ -19,9 +19,11 @@
 #include "desktop/views/MSFlexGrid.h"
 #include "frame/PainelDeMensagem.h"
 #include "frame/Valores.h"
+#include "frame/servicos/ZOVA_N_Caixa.clsCaixa.h"
 #include "lookup/frmPesquisaDeClientes.h"
 #include "lookup/frmPesquisaDeProdutos.h"
 #include "platform/Input.h"
+#include "register/frmCaixaComprovanteDeVenda.h"
 #include "siblings/RegistrarTelas.h"
 #include "support/Bench.h"
 
@@ -131,26 +133,25 @@ class Window {
   Window(const Window&) = delete;
   Window& operator=(const Window&) = delete;
 
-  /// Opens a list as the counter does with what a search has found, to the moment when the operator
-  /// sees the rows; then closes it.
-  template <class List>
-  double SecondsToOpen(const base::RecordSetPtr& found) {
+  /// Opens a list over the darkened host, to the moment when the operator sees the rows; then
+  /// closes it. `show` fills it, shows it and returns when it is closed.
+  template <class List, class Show>
+  double SecondsToOpen(Show show) {
     double seconds = 0;
     bool seen = false;
     std::unique_ptr<List> list;
     const auto start = std::chrono::steady_clock::now();
     const Painted painted(
-        [&](const QObject* widget) { return IsGrid(widget, list.get()); },
+        [&](const QObject* widget) { return list && IsGrid(widget, list->msfgGrade); },
         [&] {
           seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-          seen = !Grid(*list).CellBox(kSeenRow, 1).isEmpty();
+          seen = !Grid(list->msfgGrade).CellBox(kSeenRow, 1).isEmpty();
           platform::input::Close(*list);
         });
     {
       const frame::FundoEscuro dark;
       list = std::make_unique<List>();
-      Fill(*list, found);
-      list->ShowModal();
+      show(*list);
     }
     if (!seen) throw std::runtime_error("the list was not seen");
     list->Unload();
@@ -174,7 +175,7 @@ class Window {
     const std::string first = list.msfgGrade.TextMatrix(1, column);
     const double seconds = SecondsOf([&] {
       platform::input::ClickCell(list.msfgGrade, 0, column, platform::MouseButton::kLeft, false);
-      Grid(list).repaint();
+      Grid(list.msfgGrade).repaint();
     });
     if (list.msfgGrade.TextMatrix(1, column) == first) {
       throw std::runtime_error("the list was not sorted");
@@ -188,11 +189,11 @@ class Window {
   }
 
  private:
-  desktop::MSFlexGridView& Grid(const lookup::frmPesquisa& list) const {
-    return static_cast<desktop::MSFlexGridView&>(*desktop_.ViewOf(list.msfgGrade));
+  desktop::MSFlexGridView& Grid(const platform::MSFlexGrid& grid) const {
+    return static_cast<desktop::MSFlexGridView&>(*desktop_.ViewOf(grid));
   }
-  bool IsGrid(const QObject* widget, const lookup::frmPesquisa* list) const {
-    return list != nullptr && widget->isWidgetType() && widget == desktop_.ViewOf(list->msfgGrade);
+  bool IsGrid(const QObject* widget, const platform::MSFlexGrid& grid) const {
+    return widget->isWidgetType() && widget == desktop_.ViewOf(grid);
   }
 
   Opened services_;
@@ -219,7 +220,53 @@ template <class List>
 void Open(benchmark::State& state, const base::RecordSetPtr& found) {
   NeedApplication();
   Window window;
-  Alone(state, [&] { return window.SecondsToOpen<List>(found); });
+  // As the counter does with what a search has found.
+  Alone(state, [&] {
+    return window.SecondsToOpen<List>([&](List& list) {
+      Window::Fill(list, found);
+      list.ShowModal();
+    });
+  });
+}
+
+/// A register that has sold 2,000 times today.
+class BusyRegister final : public servicos::ZOVA_N_Caixa::clsCaixa {
+ public:
+  void DadosDoUsuario(const base::Record*) override {}
+  std::int16_t PesquisarVendaDoDia(std::string_view, std::int32_t&, std::int32_t,
+                                   std::int16_t) override {
+    return servicos::kSucesso;
+  }
+  base::RecordSetPtr ResultadoDaSelecaoEmRecordSet() override { return Sales(); }
+
+ private:
+  static base::RecordSetPtr Sales() {
+    constexpr int kFields = 14, kSales = 2'000;
+    static const auto sales = [] {
+      const auto rows =
+          std::make_shared<base::RecordSet>(std::vector<std::string>(kFields, "campo"));
+      People people;
+      for (int i = kSales; i > 0; --i) {
+        const People::Person person = people.Next();
+        rows->Append({std::to_string(i), "22/11/2026", "14:30:00", "marina", person.nickname,
+                      "77,70", "0,00", "77,70", "", "77,70", "2", person.name,
+                      "Rua das Acácias, 12 - Vale Claro/SP", "Celular (11) 90000-0000"});
+      }
+      return rows;
+    }();
+    return sales;
+  }
+};
+
+void OpenSales(benchmark::State& state) {
+  NeedApplication();
+  Window window;
+  servicos::Registrar(BusyRegister::kIdentificador,
+                      [] { return std::make_unique<BusyRegister>(); });
+  using List = registers::frmCaixaComprovanteDeVenda;
+  Alone(state, [&] {
+    return window.SecondsToOpen<List>([](List& list) { list.MontarExibirFormulario(); });
+  });
 }
 
 }  // namespace
@@ -231,6 +278,7 @@ void AddPickLists() {
       [](benchmark::State& state) { Open<lookup::frmPesquisaDeClientes>(state, Customers()); });
   Add("picklist/open_products", kRounds,
       [](benchmark::State& state) { Open<lookup::frmPesquisaDeProdutos>(state, Products()); });
+  Add("picklist/open_sales_of_day", kRounds, OpenSales);
   Add("picklist/sort_by_name", kRounds, [](benchmark::State& state) { Sort(state, kName, kCode); });
   Add("picklist/sort_by_code", kRounds, [](benchmark::State& state) { Sort(state, kCode, kName); });
 }

@@ -4,4 +4,5 @@
 void bench::Register() {
   AddReceipts();
   AddPickLists();
+  AddEntries();
 }

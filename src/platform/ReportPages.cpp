@@ -19,19 +19,24 @@ using reports::Filling;
 class Paginator {
  public:
   Paginator(const DataReport& report, const reports::Fillings& fillings, const TextMeasure& measure,
-            base::DateTime now)
-      : fillings_(fillings), measure_(measure), paper_(report.GetPaper()), codes_{1, 1, now} {
+            base::DateTime now, Telling telling)
+      : fillings_(fillings),
+        measure_(measure),
+        paper_(report.GetPaper()),
+        telling_(telling),
+        codes_{1, 1, now} {
     told_.name = report.Name();
     told_.title = report.Title();
     told_.paper = paper_;
+    heights_.reserve(fillings_.body.size());
     for (const Filling& each : fillings_.body) {
       const bool changes = reports::ShowsPageNumber(*each.section);
-      blocks_.push_back(changes ? std::nullopt : std::optional(Lay(each)));
+      heights_.push_back(changes ? std::nullopt : std::optional(Lay(each).height));
     }
   }
 
   /// All pages, `count` being how many the labels speak of.
-  ReportPages Paginate(std::size_t count) {
+  const ReportPages& Paginate(std::size_t count) {
     codes_.page = 0;
     codes_.pages = count;
     told_.pages.clear();
@@ -43,12 +48,14 @@ class Paginator {
     End();
     return told_;
   }
+  /// Those of the last time, which this gives away.
+  ReportPages Pages() { return std::move(told_); }
 
  private:
   Block Lay(const Filling& filling) const { return reports::LayOut(filling, codes_, measure_); }
-  Block BlockAt(std::size_t i) const { return blocks_[i] ? *blocks_[i] : Lay(fillings_.body[i]); }
+  Block BlockAt(std::size_t i) const { return Lay(fillings_.body[i]); }
   std::int32_t HeightAt(std::size_t i) const {
-    return blocks_[i] ? blocks_[i]->height : Lay(fillings_.body[i]).height;
+    return heights_[i] ? *heights_[i] : BlockAt(i).height;
   }
   std::int32_t Room() const { return bottom_ - y_; }
 
@@ -138,14 +145,19 @@ class Paginator {
     y_ += block.height;
     isFresh_ = false;
     // The lower parts of a section that was broken have no name.
-    if (!block.said.name.empty()) told_.sections.push_back(std::move(block.said));
+    if (telling_ == Telling::kSections && !block.said.name.empty()) {
+      told_.sections.push_back(std::move(block.said));
+    }
   }
 
   const reports::Fillings& fillings_;
   const TextMeasure& measure_;
   const Paper& paper_;
+  const Telling telling_;
   Codes codes_;
-  std::vector<std::optional<Block>> blocks_;  ///< Nothing where the page decides what it says.
+  /// Of the body, which is laid out anew where it is put: a long report has room for its pages
+  /// once. Nothing where the page decides what it says.
+  std::vector<std::optional<std::int32_t>> heights_;
 
   ReportPages told_;
   std::vector<Block> header_, footer_;  ///< Of the present page.
@@ -162,18 +174,18 @@ bool SpeaksOfPageCount(const DataReport& report) {
 
 }  // namespace
 
-ReportPages Compose(const DataReport& report, const TextMeasure& measure, base::DateTime now) {
+ReportPages Compose(const DataReport& report, const TextMeasure& measure, base::DateTime now,
+                    Telling telling) {
   const reports::Fillings fillings = reports::Fill(report);
-  Paginator paginator(report, fillings, measure, now);
-  ReportPages pages = paginator.Paginate(1);
+  Paginator paginator(report, fillings, measure, now, telling);
+  std::size_t count = paginator.Paginate(1).pages.size();
   // Another count may take another digit and, where a label grows, another page.
   for (int again = 0; again < 3 && SpeaksOfPageCount(report); ++again) {
-    const std::size_t count = pages.pages.size();
     if (again == 0 && count == 1) break;
-    pages = paginator.Paginate(count);
-    if (pages.pages.size() == count) break;
+    const std::size_t told = std::exchange(count, paginator.Paginate(count).pages.size());
+    if (told == count) break;
   }
-  return pages;
+  return paginator.Pages();
 }
 
 }  // namespace platform

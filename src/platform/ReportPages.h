@@ -60,8 +60,11 @@ struct ReportPages {
   std::string name, title;
   Paper paper;
   std::vector<ReportPage> pages;
-  std::vector<PrintedSection> sections;  ///< In the order printed.
+  std::vector<PrintedSection> sections;  ///< In the order printed, where they are told.
 };
+
+/// Whether the sections are told apart from the pages, which costs a long report much memory.
+enum class Telling { kSections, kPagesAlone };
 
 /// Lays a report out, `now` being what its dates say. The header of the report comes first, above
 /// that of the page, which stands on every page like its footer: at the foot of a sheet, right
@@ -69,7 +72,8 @@ struct ReportPages {
 /// than a page is broken between its lines. A group's header is not left alone at the foot of a
 /// page. Moves the cursor of the rows behind the last one. Error 9 for a field that the rows do not
 /// have, 13 for a sum over what is no number.
-ReportPages Compose(const DataReport& report, const TextMeasure& measure, base::DateTime now);
+ReportPages Compose(const DataReport& report, const TextMeasure& measure, base::DateTime now,
+                    Telling telling = Telling::kSections);
 
 /// Each page as plain text, placed on a grid of even characters: columns stay columns, a flat line
 /// or the edge of a frame is a row of "-". A column is as wide as PlainMeasure has the smallest

@@ -26,32 +26,20 @@ std::string CellOf(const base::Value& value) {
 
 }  // namespace
 
-ReportTable TableOf(const DataReport& report) {
-  ReportTable table{.title = report.Title(), .heads = {}, .rows = {}};
-  for (const ReportColumn& column : report.columns) table.heads.push_back(column.title);
-  if (table.heads.empty() || !report.DataSource) return table;
-  base::ForEachRow(*report.DataSource, [&] {
-    std::vector<base::Value>& row = table.rows.emplace_back();
-    for (const ReportColumn& column : report.columns) {
-      row.push_back(report.DataSource->Fields(column.field));
-    }
-  });
-  return table;
-}
-
 std::string AsCsv(const ReportTable& table) {
   std::string text(kByteOrderMark);
-  const auto append = [&](const auto& cells) {
-    bool first = true;
-    for (const auto& cell : cells) {
-      if (!first) text += ';';
-      first = false;
-      text += CellOf(cell);
+  const auto append = [&](auto cell) {
+    std::string_view parting;
+    for (const ReportColumn& column : table.columns) {
+      text.append(parting).append(CellOf(cell(column)));
+      parting = ";";
     }
     text += kLineEnd;
   };
-  append(table.heads);
-  for (const auto& row : table.rows) append(row);
+  append([](const ReportColumn& column) -> base::Value { return column.title; });
+  base::ForEachRow(*table.rows, [&] {
+    append([&](const ReportColumn& column) { return table.rows->Fields(column.field); });
+  });
   return text;
 }
 

@@ -13,9 +13,11 @@
 #include "desktop/Stage.h"
 #include "desktop/reports/Pdf.h"
 #include "desktop/reports/QtMeasure.h"
+#include "desktop/reports/Spreadsheet.h"
 #include "desktop/reports/frmSalvarDocumento.h"
 #include "desktop/reports/frmVisualizacao.h"
 #include "platform/Screens.h"
+#include "register/drDeCaixas.h"
 #include "support/Receipt.h"
 #include "support/TemporaryFolder.h"
 
@@ -210,9 +212,35 @@ TEST_F(PreviewTest, AFileThatCannotBeReplacedStaysWhole) {
   EXPECT_TRUE(Files().isEmpty());
 }
 
-// A line of the longest names and the highest amounts, in the faces that it is printed in.
-TEST_F(PreviewTest, OnAReceiptNothingIsCutTouchesOrLeavesThePaper) {
+/// Nothing on the first page is cut, leaves the paper or comes nearer to its neighbour than `gap`
+/// twips, in the faces that it is printed in.
+void ExpectAllIsSeen(const platform::DataReport& report, std::int32_t gap) {
   const desktop::reports::QtMeasure measure;
+  const auto pages = platform::Compose(report, measure, base::DateTime(2026, 11, 22));
+  const platform::Paper& paper = pages.paper;
+  const auto left = [&](const platform::PrintedText& text) {
+    const std::int32_t spare = text.width - measure.Width(text.text, text.font);
+    if (text.align == platform::ReportAlign::kLeft) return text.left;
+    return text.left + (text.align == platform::ReportAlign::kRight ? spare : spare / 2);
+  };
+  const auto right = [&](const platform::PrintedText& text) {
+    return left(text) + measure.Width(text.text, text.font);
+  };
+  const std::vector<platform::PrintedText>& texts = pages.pages.front().texts;
+  for (const platform::PrintedText& text : texts) {
+    EXPECT_FALSE(base::Contains(text.text, "…")) << text.text;
+    EXPECT_GE(left(text), paper.sideMargin) << text.text;
+    EXPECT_LE(right(text), paper.width - paper.sideMargin) << text.text;
+    for (const platform::PrintedText& other : texts) {
+      if (other.top + other.height <= text.top || text.top + text.height <= other.top) continue;
+      const bool apart = right(text) + gap <= left(other) || right(other) + gap <= left(text);
+      EXPECT_TRUE(&other == &text || apart) << text.text << " touches " << other.text;
+    }
+  }
+}
+
+// A line of the longest names and the highest amounts.
+TEST_F(PreviewTest, OnAReceiptNothingIsCutTouchesOrLeavesThePaper) {
   for (const platform::Paper& paper : {platform::kA4Paper, platform::kRoll80Paper}) {
     const auto receipt = support::ReceiptOf(1, paper);
     const base::Currency much = base::ToCurrency("1234567,89");
@@ -222,29 +250,63 @@ TEST_F(PreviewTest, OnAReceiptNothingIsCutTouchesOrLeavesThePaper) {
     receipt->lblNomeFantasiaDaEmpresa.Caption = "Clínica " + std::string(90, 'W');
     receipt->lblCodigoENomeOuRazaoSocialDoCliente.Caption = std::string(120, 'W');
     receipt->txtTotalDosServicosEProdutos.Caption = base::FormatMoney(much);
-    const auto pages = platform::Compose(*receipt, measure, base::DateTime(2026, 11, 22));
-    const auto left = [&](const platform::PrintedText& text) {
-      const std::int32_t spare = text.width - measure.Width(text.text, text.font);
-      if (text.align == platform::ReportAlign::kLeft) return text.left;
-      return text.left + (text.align == platform::ReportAlign::kRight ? spare : spare / 2);
-    };
-    const auto right = [&](const platform::PrintedText& text) {
-      return left(text) + measure.Width(text.text, text.font);
-    };
-    const std::vector<platform::PrintedText>& texts = pages.pages.front().texts;
-    for (const platform::PrintedText& text : texts) {
-      EXPECT_FALSE(base::Contains(text.text, "…")) << text.text;
-      EXPECT_GE(left(text), paper.sideMargin) << text.text;
-      EXPECT_LE(right(text), paper.width - paper.sideMargin) << text.text;
-      for (const platform::PrintedText& other : texts) {
-        if (other.top + other.height <= text.top || text.top + text.height <= other.top) continue;
-        constexpr std::int32_t kMillimetre = 57;
-        const bool apart =
-            right(text) + kMillimetre <= left(other) || right(other) + kMillimetre <= left(text);
-        EXPECT_TRUE(&other == &text || apart) << text.text << " touches " << other.text;
-      }
-    }
+    constexpr std::int32_t kMillimetre = 57;
+    ExpectAllIsSeen(*receipt, kMillimetre);
   }
+}
+
+/// A summary of one day whose every amount is the largest, as rows of the report.
+base::RecordSetPtr LargestDay() {
+  std::vector<std::string> names{"NumeroENomeDoCaixa"};
+  std::vector<base::Value> day{"1 - =Recepção"};
+  const registers::drDeCaixas report(registers::kResumoDeCaixas);
+  for (const platform::ReportColumn& column : report.columns) {
+    if (column.field == names.front()) continue;
+    names.push_back(column.field);
+    day.push_back(day.size() == 1 ? base::Value(base::DateTime(2026, 11, 22))
+                                  : base::Value(base::ToCurrency("-9999999,99")));
+  }
+  auto rows = std::make_shared<base::RecordSet>(names);
+  rows->Append(std::move(day));
+  return rows;
+}
+
+TEST_F(PreviewTest, OnTheSummaryNothingIsCutTouchesOrLeavesThePaper) {
+  registers::drDeCaixas summary(registers::kResumoDeCaixas);
+  summary.Preencher(LargestDay(), "Clínica", "Período");
+  ExpectAllIsSeen(summary, 1);
+}
+
+TEST_F(PreviewTest, ATableIsSavedWholeOrNotAtAll) {
+  registers::drDeCaixas summary(registers::kResumoDeCaixas);
+  summary.DataSource = LargestDay();
+  const platform::ReportTable table = platform::TableOf(summary);
+  const auto save = [&](const QString& file) -> std::string {
+    try {
+      desktop::reports::WriteTable(table, PathOf(file).toStdString());
+    } catch (const std::runtime_error& failure) {
+      return failure.what();
+    }
+    return "";
+  };
+  const auto read = [&](const QString& file) {
+    QFile saved(PathOf(file));
+    EXPECT_TRUE(saved.open(QIODevice::ReadOnly));
+    return saved.readAll();
+  };
+  for (const QString& file : {QStringLiteral("dia.xlsx"), QStringLiteral("dia.csv")}) {
+    EXPECT_EQ("", save(file));
+    EXPECT_EQ("", save(file)) << "in place of the one before";
+    EXPECT_TRUE(base::Contains(save("falta/" + file), "A pasta não existe"));
+    QDir().mkpath(PathOf("pasta." + file));
+    EXPECT_TRUE(base::Contains(save("pasta." + file), "Já existe uma pasta com este nome"));
+  }
+  EXPECT_TRUE(read(QStringLiteral("dia.xlsx")).startsWith("PK"));
+  EXPECT_TRUE(read(QStringLiteral("dia.csv"))
+                  .startsWith("\xEF\xBB\xBF"
+                              "Caixa;Data;Abertura;"));
+  EXPECT_TRUE(read(QStringLiteral("dia.csv"))
+                  .contains("\r\n1 - =Recepção;22/11/2026;-9999999,99;-9999999,99;"));
 }
 
 TEST_F(PreviewTest, TheHostMayCloseMeanwhile) {

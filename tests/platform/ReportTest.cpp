@@ -7,6 +7,7 @@
 
 #include "base/Text.h"
 #include "platform/ReportPages.h"
+#include "platform/ReportTable.h"
 #include "support/FakeDesktop.h"
 #include "support/Table.h"
 
@@ -337,7 +338,8 @@ TEST(Report, BreaksASectionThatIsHigherThanAPageBetweenItsLines) {
   std::int32_t framed = 0;
   for (const ReportPage& page : pages.pages) {
     CheckPage(page);
-    for (const PrintedRule& rule : page.rules) framed += rule.kind == platform::PrintedRule::Kind::kBox ? rule.height : 0;
+    for (const PrintedRule& rule : page.rules)
+      framed += rule.kind == platform::PrintedRule::Kind::kBox ? rule.height : 0;
   }
   EXPECT_EQ(framed, 440 + 41 * 216) << "the frame goes on over the pages";
 }
@@ -452,6 +454,15 @@ TEST(Report, ReadsCodesInTheWordsOfItsLayoutAlone) {
   EXPECT_EQ(Said(Composed(report), "lblPagina"), Texts{"1 de 1, 5%, 100%, 22/11/2026 09:05 %x%"});
   report.lblPagina.Caption = "Desconto de 10%do total";
   EXPECT_EQ(Said(Composed(report), "lblPagina"), Texts{"Desconto de 10%do total"});
+}
+
+TEST(Report, IsSavedAsTextThatNoSpreadsheetTakesForAFormula) {
+  const auto rows = std::make_shared<base::RecordSet>(std::vector<std::string>{"a", "b"});
+  rows->Append({"=1+1", base::ToCurrency("-28,1")});
+  rows->Append({"-2", base::Null{}});
+  rows->Append({"diz \"oi\";\nsai", base::DateTime(2026, 11, 22)});
+  EXPECT_EQ(AsCsv({{{"@A", "a"}, {"B", "b"}}, rows}),
+            "\xEF\xBB\xBF'@A;B\r\n'=1+1;-28,1\r\n'-2;\r\n\"diz \"\"oi\"\";\nsai\";22/11/2026\r\n");
 }
 
 TEST(Report, FailsOnAFieldThatTheRowsDoNotHave) {

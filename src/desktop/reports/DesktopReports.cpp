@@ -26,7 +26,8 @@ constexpr int kTitleHeight = 44;
 
 PagesPtr Composed(const platform::DataReport& report, base::DateTime now) {
   const reports::QtMeasure measure;
-  return std::make_shared<const platform::ReportPages>(platform::Compose(report, measure, now));
+  return std::make_shared<const platform::ReportPages>(
+      platform::Compose(report, measure, now, platform::Telling::kPagesAlone));
 }
 
 /// Keeps the preview nearly as large as the host's window.
@@ -93,7 +94,7 @@ void DesktopQt::TellTrouble(const std::string& sentence) {
 }
 
 void DesktopQt::ShowPages(const PagesPtr& pages, const platform::ReportTable& table) {
-  reports::frmVisualizacao form(pages, !table.heads.empty());
+  reports::frmVisualizacao form(pages, !table.columns.empty());
   form.Activate = [this, &form] {
     if (form.Pages() == nullptr) form.Attach(*ViewOf(form.picPaginas));
     form.zvcmdImprimir.SetFocus();

@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QTemporaryFile>
-#include <algorithm>
 #include <cstdint>
 
 #include "base/Text.h"
@@ -17,7 +16,7 @@ namespace {
 
 constexpr const char* kWhat = "a planilha";
 /// A sheet takes no more rows, and a cell no more characters, by the format's own limits.
-constexpr std::size_t kMostRows = LXW_ROW_MAX - 1;
+constexpr lxw_row_t kMostRows = LXW_ROW_MAX;
 constexpr std::size_t kMostCharacters = 32'767;
 
 void WriteCsv(const platform::ReportTable& table, const QString& path) {
@@ -64,18 +63,19 @@ bool Fill(lxw_workbook& book, const platform::ReportTable& table) {
   constexpr double kWidth = 18;
   const Formats formats(book);
   lxw_worksheet& sheet = *workbook_add_worksheet(&book, nullptr);
-  const auto columns = static_cast<lxw_col_t>(table.heads.size());
+  const auto columns = static_cast<lxw_col_t>(table.columns.size());
   worksheet_set_column(&sheet, 0, static_cast<lxw_col_t>(columns - 1), kWidth, nullptr);
   worksheet_freeze_panes(&sheet, 1, 0);
   for (lxw_col_t i = 0; i < columns; ++i) {
-    worksheet_write_string(&sheet, 0, i, table.heads[i].c_str(), formats.head);
+    worksheet_write_string(&sheet, 0, i, table.columns[i].title.c_str(), formats.head);
   }
-  const std::size_t rows = std::min(table.rows.size(), kMostRows);
-  for (std::size_t row = 0; row < rows; ++row) {
-    for (lxw_col_t i = 0; i < columns; ++i) {
-      Write(sheet, static_cast<lxw_row_t>(row + 1), i, table.rows[row][i], formats);
+  lxw_row_t row = 0;
+  base::ForEachRow(*table.rows, [&] {
+    ++row;
+    for (lxw_col_t i = 0; i < columns && row < kMostRows; ++i) {
+      Write(sheet, row, i, table.rows->Fields(table.columns[i].field), formats);
     }
-  }
+  });
   return workbook_close(&book) == LXW_NO_ERROR;
 }
 

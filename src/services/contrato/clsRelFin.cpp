@@ -14,7 +14,7 @@ namespace {
 using Contrato = servicos::ZOVA_N_RelFin::clsRelFin;
 
 /// More than anybody reads on paper, and what a computer of a cash desk holds with ease.
-constexpr std::int64_t kMostEntries = 100'000;
+constexpr std::int64_t kMostEntries = 80'000;
 
 /// Reads a condition from its front, word by word, without regard to case and blanks.
 class Condition {
@@ -106,7 +106,7 @@ class clsRelFin : public SobreBanco<Contrato> {
           LancamentosDeCaixas(sessao(), Read(condicaoDoCaixa, condicaoDoPeriodo), kMostEntries);
       if (entries.more) {
         throw Refusal{.sentence =
-                          "O período tem mais de 100.000 lançamentos. Informe um período menor."};
+                          "O período tem mais de 80.000 lançamentos. Informe um período menor."};
       }
       outcome_.rows = entries.rows;
     });
