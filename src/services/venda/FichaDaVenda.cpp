@@ -47,6 +47,19 @@ void LerPreVendas(Session& session, FichaDaVenda& ficha) {
   });
 }
 
+void LerReversoes(Session& session, FichaDaVenda& ficha) {
+  static const Statement reversals(
+      "SELECT situacao, data_e_hora, operador, consentido_por, motivo FROM cancelamentos_de_venda"
+      " WHERE numero_da_venda = $1 ORDER BY numero");
+  session.Select(reversals, {ficha.venda.numero}, [&](const Row& row) {
+    ficha.reversoes.push_back({.desfaz = row.Text(0) == servicos::kEfetuada,
+                               .quando = row.Moment(1),
+                               .operador = row.Text(2),
+                               .consentidoPor = row.Text(3),
+                               .motivo = row.Text(4)});
+  });
+}
+
 }  // namespace
 
 std::optional<FichaDaVenda> LerFichaDaVenda(Banco& banco, std::int32_t numero) {
@@ -54,7 +67,7 @@ std::optional<FichaDaVenda> LerFichaDaVenda(Banco& banco, std::int32_t numero) {
   if (!venda) return std::nullopt;
   FichaDaVenda ficha;
   ficha.venda = *venda;
-  for (auto* ler : {LerLancamentos, LerContas, LerCreditos, LerPreVendas}) {
+  for (auto* ler : {LerLancamentos, LerContas, LerCreditos, LerPreVendas, LerReversoes}) {
     ler(banco.Sessao(), ficha);
   }
   return ficha;

@@ -28,12 +28,19 @@ struct FichaDaVenda {
     std::int32_t numero = 0;
     std::string nome;
   };
+  /// The sale cancelled, or its cancellation undone.
+  struct Reversao {
+    bool desfaz = false;
+    base::DateTime quando;
+    std::string operador, consentidoPor, motivo;
+  };
 
   VendaRegistrada venda;
   std::vector<Lancamento> lancamentos;
   std::vector<Conta> contas;
   std::vector<Credito> creditos;
   std::vector<PreVenda> preVendas;  ///< The lines that the sale closed.
+  std::vector<Reversao> reversoes;  ///< In their order.
 };
 
 /// Nothing when there is no such sale. Throws DatabaseError.

@@ -15,6 +15,10 @@ std::string Dia(base::DateTime quando) {
   return base::Format(quando, base::DateMask::kDayMonthYear);
 }
 
+std::string NumaLinha(const std::string& texto) {
+  return base::Replace(texto, "\n", " / ");
+}
+
 const char* NomeDoLancamento(servicos::TipoDeMovimento tipo) {
   if (tipo == servicos::kEstorno) return "Estorno";
   return tipo == servicos::kTroco ? "Troco" : "Recebimento";
@@ -91,7 +95,13 @@ void Mostrar(std::ostream& saida, const services::FichaDaVenda& ficha) {
   MostrarSomas(saida, ficha);
   MostrarMovimentos(saida, ficha);
   saida << "Chave do CF-e: " << (venda.chaveSat.empty() ? "nenhuma" : venda.chaveSat) << '\n'
-        << "Observação: " << base::Replace(ficha.venda.observacao, "\n", " / ") << '\n';
+        << "Observação: " << NumaLinha(ficha.venda.observacao) << '\n';
+  for (const services::FichaDaVenda::Reversao& reversao : ficha.reversoes) {
+    saida << (reversao.desfaz ? "Restaurada" : "Cancelada") << " em "
+          << base::ToText(reversao.quando) << " por " << reversao.operador;
+    if (!reversao.consentidoPor.empty()) saida << ", autorizada por " << reversao.consentidoPor;
+    saida << ": " << NumaLinha(reversao.motivo) << '\n';
+  }
 }
 
 void Mostrar(std::ostream& saida, std::int32_t codigo, const services::FichaDoCliente& ficha) {

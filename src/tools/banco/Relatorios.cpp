@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "frame/servicos/Codigos.h"
 #include "frame/servicos/Pagamento.h"
 
 namespace banco {
@@ -46,6 +47,7 @@ void ShowSale(std::ostream& out, const services::VendaRegistrada& sale) {
   out << "Venda " << sale.numero << "  " << base::ToText(sale.quando) << "  caixa " << sale.caixa
       << "  operador " << sale.operador << '\n';
   out << "  Cliente: " << sale.codigoDoCliente << " - " << sale.nomeDoCliente << '\n';
+  if (sale.situacao == servicos::kCancelada) out << "  Situação: cancelada\n";
   out << "  Itens:\n";
   for (const auto& item : sale.itens) ShowItem(out, item);
   Line(out, "Valor bruto", sale.bruto);

@@ -115,6 +115,26 @@ void PayByKeys(Operator& at) {
   at.See("zvnumLiquidoAPagar", "0,00");
 }
 
+/// The sale is found by its number, cancelled, and restored from the same list's twin.
+void CancelAndRestoreByKeys(Operator& at) {
+  const auto turn = [&](int steps, const char* screen, const char* told) {
+    at.Key("F10");
+    for (int i = 0; i < steps; ++i) at.Key("Down");
+    at.Key("Return");
+    at.See(screen);
+    at.Type("1");
+    at.Key("Return");
+    at.Type("engano");
+    at.Key("Return");
+    at.SeeBox(told);
+    at.Key("Return");
+    at.See("frmCaixaOperar");
+  };
+  // From Fechamento, the first that an open register offers.
+  turn(3, "frmCaixaCancelarVenda", "Venda cancelada.");
+  turn(4, "frmCaixaDesfazerCancelamento", "Desfeito o cancelamento da venda.");
+}
+
 TEST_F(FirstSaleTest, IsRungUpWithTheKeyboardAloneAndWithoutAWindowManager) {
   OnScreen(false, [this](Operator& at) {
     SignInAndOpenTheRegisterByKeys(at);
@@ -138,6 +158,7 @@ TEST_F(FirstSaleTest, IsRungUpWithTheKeyboardAloneAndWithoutAWindowManager) {
     at.See("zvnumLiquidoAPagar", "133,00");
 
     PayByKeys(at);
+    CancelAndRestoreByKeys(at);
 
     // A box is up when the system is shut down.
     at.TabTo("zvfCodigoDoCliente");
