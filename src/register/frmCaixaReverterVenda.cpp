@@ -63,7 +63,7 @@ frmCaixaReverterVenda::frmCaixaReverterVenda(const ReversaoDeVenda& reversao)
       Desenho(975, {{lblMotivo, {240, 7470, 9000, 210}, reversao.legenda, Look::kNormal, kEmbaixo},
                     {zvtxtMotivo, {240, 7740, 14220, 450}, "", Look::kNormal, kEmbaixo},
                     {lblObservacaoDeCamposObrigatorios,
-                     {12840, 7470, 1620, 210},
+                     {12360, 7470, 2100, 210},
                      "* Campos obrigatórios",
                      Look::kHint,
                      platform::kHoldBottomRight}}));
