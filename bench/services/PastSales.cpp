@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <charconv>
 #include <stdexcept>
 
 #include "base/Record.h"
@@ -67,6 +68,12 @@ void Cancel(std::int32_t sale, const Marina& marina) {
   Require(caixa->CancelarVenda(sale, "engano") == servicos::kSucesso, *caixa);
 }
 
+std::int64_t NumberOf(const std::string& text) {
+  std::int64_t number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
 /// What a cancellation of such a sale asks and writes, on the engine's own library.
 class RawCancellation {
  public:
@@ -82,12 +89,12 @@ class RawCancellation {
     const auto entries = link_->Run(entries_, {sale});
     std::int64_t cash = 0;
     for (const RawLink::Row& entry : entries) {
-      if (entry[1] == "1") cash -= std::stoll(entry[2]);
+      if (entry[1] == "1") cash -= NumberOf(entry[2]);
     }
     link_->Run(money_, {std::to_string(cash)});
     for (const RawLink::Row& entry : entries) {
       link_->Run(reverse_,
-                 {operation, entry[1], std::to_string(-std::stoll(entry[2])), sale, entry[0]});
+                 {operation, entry[1], std::to_string(-NumberOf(entry[2])), sale, entry[0]});
     }
     link_->Run(receivables_, {sale});
     link_->Run(preSale_, {sale});

@@ -56,14 +56,13 @@ void Lista::Esvaziar() {
 
 void Lista::Preencher(base::RecordSet& registros) {
   // A list may have thousands of rows: each field is looked for once.
+  Esvaziar();
+  if (registros.RecordCount() == 0) return;
   std::vector<Campo> campos;
-  if (registros.RecordCount() > 0) {
-    std::int32_t numero = 0;
-    for (const Coluna& coluna : colunas_) {
-      if (!coluna.campo.empty())
-        campos.push_back({numero, PosicaoDoCampo(registros, coluna.campo)});
-      ++numero;
-    }
+  std::int32_t numero = 0;
+  for (const Coluna& coluna : colunas_) {
+    if (!coluna.campo.empty()) campos.push_back({numero, PosicaoDoCampo(registros, coluna.campo)});
+    ++numero;
   }
   Preencher(registros, campos, TextoDaCelula);
 }
