@@ -46,6 +46,21 @@ constexpr Colunas ColunasCom(std::string_view numero, std::string_view codigo) {
 constexpr Colunas kColunas = ColunasCom("Número da venda", "Código do cliente");
 constexpr Colunas kColunasDeTituloAntigo = ColunasCom("Nº da vendas", "Código do Cliente");
 
+/// While it lives the search itself moves the selection, and what was typed stays.
+class TextoMantido {
+ public:
+  explicit TextoMantido(bool& localizando) : localizando_(localizando), antes_(localizando) {
+    localizando_ = true;
+  }
+  ~TextoMantido() { localizando_ = antes_; }
+  TextoMantido(const TextoMantido&) = delete;
+  TextoMantido& operator=(const TextoMantido&) = delete;
+
+ private:
+  bool& localizando_;
+  const bool antes_;
+};
+
 constexpr std::string_view kNenhumaVenda = "Nenhuma venda efetuada no dia de hoje por este caixa.";
 
 }  // namespace
@@ -62,7 +77,8 @@ frmVendasDoDia::frmVendasDoDia(const VendasDoDia& tela)
   };
   Activate = [this] { zvtxtLocalizar.SetFocus(); };
   lista_.aoAbrir = [this] { zvcmdExibirItensDaVenda_Click(); };
-  zvtxtLocalizar.Edited = [this] { Localizar(1, 1); };
+  lista_.aoSelecionar = [this] { msfgGrade_SelChange(); };
+  zvtxtLocalizar.Edited = [this] { zvtxtLocalizar_Edited(); };
   zvtxtLocalizar.KeyDown = [this](platform::KeyStroke& tecla) { zvtxtLocalizar_KeyDown(tecla); };
   zvcmdExibirItensDaVenda.Click = [this] { zvcmdExibirItensDaVenda_Click(); };
   zvcmdFechar.Click = [this] { Hide(); };
@@ -152,10 +168,18 @@ void frmVendasDoDia::zvcmdExibirItensDaVenda_Click() {
   });
 }
 
-bool frmVendasDoDia::HaVenda(double& numero) const {
+bool frmVendasDoDia::HaVenda(double& numero) {
   numero = base::Val(DaVenda(kColunaNumero));
-  if (lista_.Quantos() > 0) return true;
-  frame::Informar(kNenhumaVenda);
+  if (lista_.Quantos() == 0) {
+    frame::Informar(kNenhumaVenda);
+    return false;
+  }
+  if (Corresponde(msfgGrade.Row())) return true;
+  // The row that is selected is not the one that the operator means.
+  frame::Informar("Nenhuma venda da lista é '" + base::Trim(zvtxtLocalizar.Text()) +
+                  "'. Digite outro número ou cliente, ou selecione a venda na lista.");
+  zvtxtLocalizar.SetFocus();
+  zvtxtLocalizar.SelectAll();
   return false;
 }
 
@@ -171,20 +195,35 @@ bool frmVendasDoDia::Corresponde(std::int32_t linha) const {
 }
 
 /// Goes to the next sale that fits, from a row on and by steps of 1 or -1; beyond the end begins
-/// the list again. A whole number is that sale, wherever it stands.
+/// the list again.
 void frmVendasDoDia::Localizar(std::int32_t apartir, std::int32_t passo) {
   const std::int32_t quantos = lista_.Quantos();
-  const std::string procurado = base::Trim(zvtxtLocalizar.Text());
   const std::string contagem =
       base::ToText(quantos) + (quantos == 1 ? " venda" : " vendas") + " no dia";
   lblResultadoDaSelecao.Caption = contagem;
-  if (procurado.empty() && apartir == 1 && passo == 1) return;
+  const TextoMantido mantido(localizando_);
   std::int32_t linha = apartir;
   for (std::int32_t visitadas = 0; visitadas < quantos; ++visitadas, linha += passo) {
     linha = (linha + quantos - 1) % quantos + 1;
     if (Corresponde(linha)) return lista_.SelecionarA(linha);
   }
-  lblResultadoDaSelecao.Caption = "Nenhuma das " + contagem + " é '" + procurado + "'.";
+  if (quantos == 0) return;
+  lblResultadoDaSelecao.Caption =
+      "Nenhuma das " + contagem + " é '" + base::Trim(zvtxtLocalizar.Text()) + "'.";
+}
+
+/// What was typed: a whole number is that sale, wherever it stands.
+void frmVendasDoDia::zvtxtLocalizar_Edited() {
+  const TextoMantido mantido(localizando_);
+  const std::string procurado = base::Trim(zvtxtLocalizar.Text());
+  Localizar(1, 1);
+  lista_.SelecionarOnde(kColunaNumero, procurado);
+}
+
+/// The operator has chosen a row by themselves: what they had typed does not count any more.
+void frmVendasDoDia::msfgGrade_SelChange() {
+  if (localizando_) return;
+  zvtxtLocalizar.Text = "";
 }
 
 void frmVendasDoDia::zvtxtLocalizar_KeyDown(platform::KeyStroke& tecla) {
@@ -195,9 +234,12 @@ void frmVendasDoDia::zvtxtLocalizar_KeyDown(platform::KeyStroke& tecla) {
     case platform::Key::kUp:
       Localizar(msfgGrade.Row() - 1, -1);
       break;
-    case platform::Key::kEnter:
+    case platform::Key::kEnter: {
       tecla.key = platform::Key::kNone;
-      return Encontrada();
+      double numero = 0;
+      if (HaVenda(numero)) Encontrada();
+      return;
+    }
     default:
       return;
   }

@@ -78,8 +78,9 @@ class frmVendasDoDia : public platform::Form {
 
   /// The sale that the operator means; empty cells when the list is empty.
   std::string DaVenda(ColunaDaVenda coluna) const { return lista_.Selecionado(coluna); }
-  /// Its number, by the loose conversion; the operator is told when there is no sale.
-  bool HaVenda(double& numero) const;
+  /// Its number, by the loose conversion; the operator is told when there is no sale, or none that
+  /// is what they typed.
+  bool HaVenda(double& numero);
   /// "Cancelada" in place of the net value of that sale.
   void AtualizaGrade();
 
@@ -91,10 +92,13 @@ class frmVendasDoDia : public platform::Form {
   void Grade_Preencher(base::RecordSet& vendas);
   void zvcmdExibirItensDaVenda_Click();
   void Localizar(std::int32_t apartir, std::int32_t passo);
+  void zvtxtLocalizar_Edited();
+  void msfgGrade_SelChange();
   void zvtxtLocalizar_KeyDown(platform::KeyStroke& tecla);
   bool Corresponde(std::int32_t linha) const;
 
   const VendasDoDia& tela_;
+  bool localizando_ = false;
   frame::Lista lista_;
 };
 
