@@ -70,6 +70,7 @@ void Lista::Preencher(base::RecordSet& registros) {
 void Lista::PreencherPorPosicao(base::RecordSet& registros) {
   std::vector<Campo> campos;
   const auto quantos = std::min(registros.FieldCount(), static_cast<std::int32_t>(colunas_.size()));
+  campos.reserve(static_cast<std::size_t>(quantos));
   for (std::int32_t i = 0; i < quantos; ++i) campos.push_back({i, i});
   Preencher(registros, campos, [](const base::Value& valor, TipoDeColuna tipo) {
     return base::Replace(TextoDaCelula(valor, tipo), "\u00A0", "\n");

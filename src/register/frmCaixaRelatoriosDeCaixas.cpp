@@ -270,6 +270,7 @@ void frmCaixaRelatoriosDeCaixas::ImprimirRetratoDoDia(std::int16_t numeroDoCaixa
     if (!doDia) return;
     ponto = 4;
     std::vector<std::string> dias;
+    dias.reserve(kDias);
     for (int i = 0; i < kDias; ++i) dias.push_back(Dia(primeiro.PlusDays(i)));
     constexpr std::string_view kRecebido = "ValorRecebido";
     constexpr std::size_t kHora = 2;
