@@ -56,38 +56,45 @@ void Lista::Esvaziar() {
 
 void Lista::Preencher(base::RecordSet& registros) {
   // A list may have thousands of rows: each field is looked for once.
-  Esvaziar();
-  if (registros.RecordCount() == 0) return;
-  std::vector<Campo> campos;
-  std::int32_t numero = 0;
-  for (const Coluna& coluna : colunas_) {
-    if (!coluna.campo.empty()) campos.push_back({numero, PosicaoDoCampo(registros, coluna.campo)});
-    ++numero;
-  }
-  Preencher(registros, campos, TextoDaCelula);
+  const auto pelosNomes = [&] {
+    std::vector<Campo> campos;
+    std::int32_t numero = 0;
+    for (const Coluna& coluna : colunas_) {
+      if (!coluna.campo.empty()) {
+        campos.push_back({numero, PosicaoDoCampo(registros, coluna.campo)});
+      }
+      ++numero;
+    }
+    return campos;
+  };
+  Preencher(registros, pelosNomes, TextoDaCelula);
 }
 
 void Lista::PreencherPorPosicao(base::RecordSet& registros) {
-  std::vector<Campo> campos;
-  const auto quantos = std::min(registros.FieldCount(), static_cast<std::int32_t>(colunas_.size()));
-  campos.reserve(static_cast<std::size_t>(quantos));
-  for (std::int32_t i = 0; i < quantos; ++i) campos.push_back({i, i});
-  Preencher(registros, campos, [](const base::Value& valor, TipoDeColuna tipo) {
+  const auto pelaPosicao = [&] {
+    std::vector<Campo> campos;
+    const std::int32_t quantos = std::min(registros.FieldCount(), grade_.Cols());
+    campos.reserve(static_cast<std::size_t>(quantos));
+    for (std::int32_t i = 0; i < quantos; ++i) campos.push_back({i, i});
+    return campos;
+  };
+  Preencher(registros, pelaPosicao, [](const base::Value& valor, TipoDeColuna tipo) {
     return base::Replace(TextoDaCelula(valor, tipo), "\u00A0", "\n");
   });
 }
 
-template <class Texto>
-void Lista::Preencher(base::RecordSet& registros, const std::vector<Campo>& campos, Texto texto) {
+template <class Campos, class Texto>
+void Lista::Preencher(base::RecordSet& registros, Campos campos, Texto texto) {
   const SemRedesenho semRedesenho(grade_);
   Esvaziar();
   if (registros.RecordCount() == 0) return;
+  const std::vector<Campo> lidos = campos();
   // Records that cannot be shown leave the list empty, with no row to choose.
   grade_.Rows(registros.RecordCount() + 1);
   quantos_ = registros.RecordCount();
   std::int32_t linha = 1;
   base::ForEachRow(registros, [&] {
-    for (const auto& [coluna, campo] : campos) {
+    for (const auto& [coluna, campo] : lidos) {
       const TipoDeColuna tipo = colunas_[static_cast<std::size_t>(coluna)].tipo;
       grade_.TextMatrix(linha, coluna, texto(registros.Fields(campo), tipo));
     }

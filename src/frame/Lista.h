@@ -4,7 +4,6 @@
 #include <functional>
 #include <span>
 #include <string>
-#include <vector>
 
 #include "base/Record.h"
 #include "frame/Grade.h"
@@ -53,8 +52,8 @@ class Lista {
     std::int32_t coluna, campo;
   };
 
-  template <class Texto>
-  void Preencher(base::RecordSet& registros, const std::vector<Campo>& campos, Texto texto);
+  template <class Campos, class Texto>
+  void Preencher(base::RecordSet& registros, Campos campos, Texto texto);
   void Clicar();
   void Teclar(platform::KeyStroke& tecla);
   void Abrir();

@@ -50,8 +50,8 @@ class frmCaixaItensDaVenda : public platform::Form {
   frame::Lista lista_;
 };
 
-/// Reads the lines of a sale and shows them over the darkened host until the operator leaves; one
-/// without lines, or a failure, is told instead. `venda` and `cliente` say whose they are.
+/// Reads the lines of a sale and shows them until the operator leaves; a sale without lines, or a
+/// failure, is told instead. `cliente` says whose they are.
 void ExibirItensDaVenda(double numeroDaVenda, std::string_view cliente);
 
 }  // namespace lookup

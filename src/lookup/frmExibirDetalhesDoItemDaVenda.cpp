@@ -98,14 +98,8 @@ frmExibirDetalhesDoItemDaVenda::frmExibirDetalhesDoItemDaVenda()
   platform::Layout desenho{
       .size = {9000, 4860},
       .places = {{zvTheme, {0, 0, 9000, 660}, "Detalhes ", Look::kTitle, platform::kHoldWidth}}};
-  struct Campo {
-    platform::Label& rotulo;
-    platform::ZVTextBox& texto;
-  };
   std::int32_t numero = 0;
-  for (const Campo& campo :
-       {Campo{lblLabel0, zvtxtText0}, Campo{lblLabel1, zvtxtText1}, Campo{lblLabel2, zvtxtText2},
-        Campo{lblLabel3, zvtxtText3}, Campo{lblLabel4, zvtxtText4}, Campo{lblLabel5, zvtxtText5}}) {
+  for (const Campo& campo : campos_) {
     campo.texto.Locked.Assign(true);
     campo.texto.tabStop = false;
     const std::int32_t esquerda = numero % 2 == 0 ? 240 : 4620;
@@ -187,21 +181,18 @@ bool frmExibirDetalhesDoItemDaVenda::Preencher(const Caso& caso) {
     registro = PreencherProdutosReservados(lancamento);
   }
   if (caso.origem != Origem::kGrade && !registro) return false;
-  platform::Label* const rotulos[] = {&lblLabel0, &lblLabel1, &lblLabel2,
-                                      &lblLabel3, &lblLabel4, &lblLabel5};
-  platform::ZVTextBox* const textos[] = {&zvtxtText0, &zvtxtText1, &zvtxtText2,
-                                         &zvtxtText3, &zvtxtText4, &zvtxtText5};
-  for (std::size_t i = 0; i < kDetalhes; ++i) {
-    const Detalhe& detalhe = caso.detalhes[i];
-    rotulos[i]->Caption = std::string(detalhe.rotulo);
+  auto campo = campos_.begin();
+  for (const Detalhe& detalhe : caso.detalhes) {
+    campo->rotulo.Caption = std::string(detalhe.rotulo);
     if (registro) {
-      textos[i]->Text = base::ToText(registro->Fields(detalhe.campo));
+      campo->texto.Text = base::ToText(registro->Fields(detalhe.campo));
     } else if (detalhe.coluna == kHoje) {
-      textos[i]->Text =
+      campo->texto.Text =
           base::Format(platform::Desktop::Current().Now(), base::DateMask::kDayMonthYear);
     } else {
-      textos[i]->Text = Celula(detalhe.coluna);
+      campo->texto.Text = Celula(detalhe.coluna);
     }
+    ++campo;
   }
   return true;
 }

@@ -51,6 +51,10 @@ class frmExibirDetalhesDoItemDaVenda final : public platform::Form {
  private:
   enum class Origem { kGrade, kServicosEfetuados, kProdutosReservados };
   struct Caso;
+  struct Campo {
+    platform::Label& rotulo;
+    platform::ZVTextBox& texto;
+  };
 
   /// The record that the line was entered in; null when it is not there or cannot be read.
   base::RecordSetPtr PreencherServicosEfetuados(const std::string& lancamento);
@@ -61,6 +65,13 @@ class frmExibirDetalhesDoItemDaVenda final : public platform::Form {
   bool Preencher(const Caso& caso);
   const std::string& Celula(std::int32_t coluna) const;
 
+  /// In their order.
+  std::array<Campo, 6> campos_{{{lblLabel0, zvtxtText0},
+                                {lblLabel1, zvtxtText1},
+                                {lblLabel2, zvtxtText2},
+                                {lblLabel3, zvtxtText3},
+                                {lblLabel4, zvtxtText4},
+                                {lblLabel5, zvtxtText5}}};
   const platform::MSFlexGrid* grade_ = nullptr;
 };
 

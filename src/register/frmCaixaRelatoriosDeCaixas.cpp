@@ -6,7 +6,6 @@
 
 #include "base/Text.h"
 #include "frame/Caixas.h"
-#include "frame/CriarServico.h"
 #include "frame/Empresa.h"
 #include "frame/Mensagens.h"
 #include "frame/PainelDeMensagem.h"
@@ -244,7 +243,7 @@ base::RecordSetPtr frmCaixaRelatoriosDeCaixas::Selecionar(Selecao selecao,
     doPeriodo.pop_back();
     doPeriodo += " AND LancamentosDeCaixas.NumeroDoCaixa=" + numero + " ";
   }
-  auto relatorios = frame::CriarServicoComSessao<clsRelFin>();
+  auto relatorios = servicos::CriarServico<clsRelFin>();
   if (!frame::Aceitar(((*relatorios).*selecao)(doCaixa, doPeriodo), *relatorios)) return nullptr;
   base::RecordSetPtr linhas = relatorios->ResultadoDaSelecaoEmRecordSet();
   if (linhas->RecordCount() > 0) return linhas;

@@ -78,6 +78,8 @@ frmVendasDoDia::frmVendasDoDia(const VendasDoDia& tela)
   Activate = [this] { zvtxtLocalizar.SetFocus(); };
   lista_.aoAbrir = [this] { zvcmdExibirItensDaVenda_Click(); };
   lista_.aoSelecionar = [this] { msfgGrade_SelChange(); };
+  // A press on the row that is selected already changes nothing, and chooses it all the same.
+  msfgGrade.MouseDown = [this](platform::MouseButton) { msfgGrade_SelChange(); };
   zvtxtLocalizar.Edited = [this] { zvtxtLocalizar_Edited(); };
   zvtxtLocalizar.KeyDown = [this](platform::KeyStroke& tecla) { zvtxtLocalizar_KeyDown(tecla); };
   zvcmdExibirItensDaVenda.Click = [this] { zvcmdExibirItensDaVenda_Click(); };
@@ -142,7 +144,6 @@ std::int16_t frmVendasDoDia::MontarExibirFormulario() {
 void frmVendasDoDia::PesquisarVenda() {
   Procedimento(*this, "PesquisarVenda", [&](Ponto& ponto) {
     auto caixa = servicos::CriarServico<servicos::ZOVA_N_Caixa::clsCaixa>();
-    caixa->DadosDoUsuario(frame::valores().DadosDoUsuario);
     ponto = 2;
     std::int32_t numero = frame::valores().NumeroDoCaixa;
     if (!frame::Aceitar(caixa->PesquisarVendaDoDia(tela_.situacao, numero, 0, 1), *caixa)) return;
@@ -174,7 +175,7 @@ bool frmVendasDoDia::HaVenda(double& numero) {
     frame::Informar(kNenhumaVenda);
     return false;
   }
-  if (Corresponde(msfgGrade.Row())) return true;
+  if (EAProcurada(msfgGrade.Row())) return true;
   // The row that is selected is not the one that the operator means.
   frame::Informar("Nenhuma venda da lista é '" + base::Trim(zvtxtLocalizar.Text()) +
                   "'. Digite outro número ou cliente, ou selecione a venda na lista.");
@@ -188,8 +189,20 @@ void frmVendasDoDia::AtualizaGrade() {
 }
 
 bool frmVendasDoDia::Corresponde(std::int32_t linha) const {
+  const std::string procurado = base::Trim(zvtxtLocalizar.Text());
+  return msfgGrade.TextMatrix(linha, kColunaNumero).starts_with(procurado) || EDoCliente(linha);
+}
+
+/// A number that only begins as what was typed is found while it is being typed, and is not meant
+/// when the typing is over.
+bool frmVendasDoDia::EAProcurada(std::int32_t linha) const {
+  const std::string procurado = base::Trim(zvtxtLocalizar.Text());
+  return procurado.empty() || msfgGrade.TextMatrix(linha, kColunaNumero) == procurado ||
+         EDoCliente(linha);
+}
+
+bool frmVendasDoDia::EDoCliente(std::int32_t linha) const {
   const std::string procurado = base::Fold(base::Trim(zvtxtLocalizar.Text()));
-  if (msfgGrade.TextMatrix(linha, kColunaNumero).starts_with(procurado)) return true;
   return base::Contains(base::Fold(msfgGrade.TextMatrix(linha, kColunaCliente)), procurado) ||
          base::Contains(base::Fold(msfgGrade.TextMatrix(linha, kColunaNomeDoCliente)), procurado);
 }

@@ -96,6 +96,8 @@ class frmVendasDoDia : public platform::Form {
   void msfgGrade_SelChange();
   void zvtxtLocalizar_KeyDown(platform::KeyStroke& tecla);
   bool Corresponde(std::int32_t linha) const;
+  bool EAProcurada(std::int32_t linha) const;
+  bool EDoCliente(std::int32_t linha) const;
 
   const VendasDoDia& tela_;
   bool localizando_ = false;

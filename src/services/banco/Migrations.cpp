@@ -472,7 +472,7 @@ CREATE TABLE cancelamentos_de_venda (
 CREATE INDEX cancelamentos_por_venda ON cancelamentos_de_venda (numero_da_venda, numero);
 )sql";
 
-/// The cash reports read the entries of a register and its days by this index alone.
+/// The summary of the registers is read from this index alone, the other reports by it.
 constexpr std::string_view kReportsByIndex = R"sql(
 DROP INDEX lancamentos_por_caixa;
 CREATE INDEX lancamentos_por_caixa ON lancamentos_de_caixa

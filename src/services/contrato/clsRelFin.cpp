@@ -35,7 +35,7 @@ class Condition {
     SkipBlanks();
     return number;
   }
-  /// "#mm/dd/yyyy#".
+  /// "#mm/dd/yyyy#"; error 13 for a day that does not exist.
   base::DateTime Day() {
     Expect("#");
     const std::int32_t month = Number();
@@ -44,8 +44,7 @@ class Condition {
     Expect("/");
     const std::int32_t year = Number();
     Expect("#");
-    // A day that does not exist is refused by the conversion.
-    return base::ToDate(base::Value(Two(day) + "/" + Two(month) + "/" + std::to_string(year)));
+    return {year, month, day};
   }
 
   [[noreturn]] static void Refuse() {
@@ -54,9 +53,6 @@ class Condition {
   }
 
  private:
-  static std::string Two(std::int32_t number) {
-    return (number < 10 ? "0" : "") + std::to_string(number);
-  }
   void SkipBlanks() { text_.remove_prefix(std::min(text_.find_first_not_of(' '), text_.size())); }
 
   std::string_view text_;
@@ -84,7 +80,10 @@ Cobertura Read(std::string_view ofRegister, std::string_view ofPeriod) {
     period.Expect("=");
     again = period.Number();
   }
-  if (!drawer.Done() || !period.Done() || again != coverage.caixa) Condition::Refuse();
+  // 0 would stand for all of them.
+  if (!drawer.Done() || !period.Done() || again != coverage.caixa || again == 0) {
+    Condition::Refuse();
+  }
   return coverage;
 }
 

@@ -1,7 +1,7 @@
-#include "base/Numbers.h"
 #include "frame/servicos/Codigos.h"
 #include "frame/servicos/LinhaDeVenda.h"
 #include "frame/servicos/ZOVA_N_Caixa.clsServicosEProdutos.h"
+#include "services/banco/Cells.h"
 #include "services/banco/Fields.h"
 #include "services/banco/Search.h"
 #include "services/contrato/Fabricas.h"
@@ -14,74 +14,35 @@ namespace {
 namespace linha = servicos::linha;
 using Contrato = servicos::ZOVA_N_Caixa::clsServicosEProdutos;
 
-/// How a column of a pre-sale line becomes the text of a cell in the counter's grid.
-enum class Form {
-  kAsIs,
-  kMoney,     ///< "#,##0.00"
-  kDiscount,  ///< the same, negative
-  kQuantity,  ///< a service's in whole numbers, a product's like money
-  kFixed,     ///< `column` is the text itself
-};
+using Form = Cell::Form;
 
-struct Cell {
-  Form form;
-  std::string_view column;
-};
-
-/// In the order of servicos::linha::Coluna.
+/// A pre-sale line in the columns of a sale line.
 constexpr Cell kCells[] = {
-    {Form::kAsIs,
+    {linha::kCampos[linha::kTipoOuCodigoDeBarras], Form::kAsIs,
      "CASE WHEN tipo_de_lancamento = {servico} THEN CAST(tipo_de_servico AS text)"
      " ELSE codigo_de_barras END"},
-    {Form::kAsIs, "codigo_do_item"},
-    {Form::kAsIs, "nome_do_item"},
-    {Form::kAsIs, "codigo_do_animal"},
-    {Form::kAsIs, "nome_do_animal"},
-    {Form::kAsIs, "coalesce(codigo_do_funcionario, 0)"},
-    {Form::kAsIs, "nome_do_funcionario"},
-    {Form::kQuantity, "quantidade"},
-    {Form::kMoney, "valor_unitario"},
-    {Form::kDiscount, "desconto_em_percentual"},
-    {Form::kDiscount, "desconto_em_valor"},
-    {Form::kMoney, "valor_total"},
-    {Form::kMoney, "custo"},
-    {Form::kMoney, "percentual_de_comissao"},
-    {Form::kMoney, "valor_da_comissao"},
-    {Form::kAsIs, "numero"},
-    {Form::kAsIs, "unidade"},
-    {Form::kFixed, "0"},
-    {Form::kFixed, "{preVenda}"},
-    {Form::kAsIs, "tipo_de_lancamento"},
+    {linha::kCampos[linha::kCodigo], Form::kAsIs, "codigo_do_item"},
+    {linha::kCampos[linha::kNome], Form::kAsIs, "nome_do_item"},
+    {linha::kCampos[linha::kCodigoDoAnimal], Form::kAsIs, "codigo_do_animal"},
+    {linha::kCampos[linha::kNomeDoAnimal], Form::kAsIs, "nome_do_animal"},
+    {linha::kCampos[linha::kCodigoDoFuncionario], Form::kAsIs,
+     "coalesce(codigo_do_funcionario, 0)"},
+    {linha::kCampos[linha::kNomeDoFuncionario], Form::kAsIs, "nome_do_funcionario"},
+    {linha::kCampos[linha::kQuantidade], Form::kQuantity, "quantidade"},
+    {linha::kCampos[linha::kValorUnitario], Form::kMoney, "valor_unitario"},
+    {linha::kCampos[linha::kDescontoEmPercentual], Form::kDiscount, "desconto_em_percentual"},
+    {linha::kCampos[linha::kDescontoEmValor], Form::kDiscount, "desconto_em_valor"},
+    {linha::kCampos[linha::kValorTotal], Form::kMoney, "valor_total"},
+    {linha::kCampos[linha::kCusto], Form::kMoney, "custo"},
+    {linha::kCampos[linha::kPercentualDeComissao], Form::kMoney, "percentual_de_comissao"},
+    {linha::kCampos[linha::kValorDaComissao], Form::kMoney, "valor_da_comissao"},
+    {linha::kCampos[linha::kNumeroDeLancamento], Form::kAsIs, "numero"},
+    {linha::kCampos[linha::kUnidade], Form::kAsIs, "unidade"},
+    {linha::kCampos[linha::kNumeroDaVendaCancelada], Form::kAsIs, "0"},
+    {linha::kCampos[linha::kColunaTipoDeVenda], Form::kAsIs, "{preVenda}"},
+    {linha::kCampos[linha::kColunaTipoDeLancamento], Form::kAsIs, "tipo_de_lancamento"},
 };
 static_assert(std::size(kCells) == linha::kColunas);
-
-std::string TextOf(const Row& row, int column) {
-  const Cell& cell = kCells[column];
-  switch (cell.form) {
-    case Form::kMoney:
-      return base::FormatMoney(row.Money(column));
-    case Form::kDiscount:
-      return base::FormatMoney(-row.Money(column));
-    case Form::kQuantity:
-      return base::Format(row.Money(column),
-                          row.Integer(linha::kColunaTipoDeLancamento) == servicos::kServico
-                              ? "0"
-                              : base::kMoneyMask);
-    case Form::kAsIs:
-    case Form::kFixed:
-      return row.Text(column);
-  }
-  return {};
-}
-
-std::string SelectLines() {
-  std::string columns;
-  for (const Cell& cell : kCells) {
-    if (!columns.empty()) columns += ", ";
-    columns += cell.column;
-  }
-  return ComCodigos("SELECT " + columns + " FROM pre_vendas");
-}
 
 using enum Field::Kind;
 
@@ -108,17 +69,11 @@ class clsServicosEProdutos : public SobreBanco<Contrato> {
   std::int16_t ServicosEfetuadosEProdutosReservados(double& codigoDoCliente) override {
     return Numerado("ServicosEfetuadosEProdutosReservados", [&] {
       static const Statement open(
-          SelectLines() +
-          " WHERE codigo_do_cliente = $1 AND numero_da_venda IS NULL ORDER BY numero");
-      const auto rows = std::make_shared<base::RecordSet>(
-          std::vector<std::string>(linha::kCampos.begin(), linha::kCampos.end()));
-      sessao().Select(open, {CodeIn(codigoDoCliente).value_or(0)}, [&](const Row& row) {
-        std::vector<base::Value> texts;
-        texts.reserve(std::size(kCells));
-        for (int i = 0; i < rows->FieldCount(); ++i) texts.emplace_back(TextOf(row, i));
-        rows->Append(std::move(texts));
-      });
-      outcome_.rows = rows;
+          ComCodigos("SELECT " + ColumnsOf(kCells) +
+                     " FROM pre_vendas WHERE codigo_do_cliente = $1 AND numero_da_venda IS NULL"
+                     " ORDER BY numero"));
+      outcome_.rows = SelectCells(sessao(), kCells, open, {CodeIn(codigoDoCliente).value_or(0)},
+                                  linha::kColunaTipoDeLancamento);
     });
   }
 

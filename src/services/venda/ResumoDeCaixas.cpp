@@ -94,7 +94,9 @@ Figure FigureOf(std::int32_t kind, std::int32_t tender, bool leaves) {
 
 /// The register and the days, as the places $1 to $3 of a selection; a register of 0 is all.
 Params PlacesOf(const Cobertura& coverage) {
-  return {coverage.caixa.value_or(0), coverage.de.Date(), coverage.ate.Date().PlusDays(1)};
+  constexpr std::int64_t kLastSecond = 24 * 60 * 60 - 1;
+  return {coverage.caixa.value_or(0), coverage.de.Date(),
+          coverage.ate.Date().PlusSeconds(kLastSecond)};
 }
 
 /// The entries that are covered, `l`, each with its register, `x`. The registers come first, so
@@ -108,7 +110,7 @@ std::string Covered(Engine engine) {
       " WHERE l.numero_do_caixa = ANY (ARRAY(SELECT numero FROM caixas WHERE $1 = 0"
       " OR numero = $1))";
   return std::string(engine == Engine::kSqlite ? kOnSqlite : kOnPostgres) +
-         " AND l.data_e_hora >= $2 AND l.data_e_hora < $3";
+         " AND l.data_e_hora >= $2 AND l.data_e_hora <= $3";
 }
 
 /// A selection of covered entries, planned for the days that it is asked for.

@@ -22,10 +22,9 @@ struct Cobertura {
 base::RecordSetPtr ResumoDeCaixas(Session& session, const Cobertura& cobertura);
 
 /// A row for each entry that moved money, by register and in the order in which they were made; at
-/// most `most`.
-/// What a sale left to be paid, or took from the customer's credit, is told in the observation of
-/// its entries. `ValorRecebido` is what the entry adds to the day's payments, null where it is none
-/// of them.
+/// most `most`. What a sale left to be paid, or took from the customer's credit, is told in the
+/// observation of its entries. `ValorRecebido` is what the entry adds to the day's payments, null
+/// where it is none of them.
 Selected LancamentosDeCaixas(Session& session, const Cobertura& cobertura, std::int64_t most);
 
 }  // namespace services

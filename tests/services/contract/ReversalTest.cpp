@@ -144,12 +144,15 @@ TEST_P(ReversalTest, ReportsAreAskedForByTheirConditionsAlone) {
       " LancamentosDeCaixas.DataDoLancamento Between #11/22/2026# And #11/22/2026# ";
   EXPECT_EQ(1, rows("", period));
   EXPECT_EQ(1, rows(" Caixas.Numero = 1", period + "AND LancamentosDeCaixas.NumeroDoCaixa=1 "));
+  EXPECT_EQ(
+      1, rows("", " LancamentosDeCaixas.DataDoLancamento Between #01/01/0001# And #12/31/9999# "));
   EXPECT_EQ(0, rows(" Caixas.Numero = 2", period + "AND LancamentosDeCaixas.NumeroDoCaixa=2 "));
   for (const auto& [ofRegister, ofPeriod] : std::vector<std::pair<std::string, std::string>>{
            {" Caixas.Numero = 1", period},
            {"", period + "AND LancamentosDeCaixas.NumeroDoCaixa=1 "},
            {" Caixas.Numero = 1 OR 1=1", period + "AND LancamentosDeCaixas.NumeroDoCaixa=1 "},
            {"", " LancamentosDeCaixas.DataDoLancamento Between #13/22/2026# And #11/22/2026# "},
+           {" Caixas.Numero = 0", period + "AND LancamentosDeCaixas.NumeroDoCaixa=0 "},
            {"", ""}}) {
     EXPECT_EQ(-1, rows(ofRegister, ofPeriod)) << ofRegister << ofPeriod;
   }
